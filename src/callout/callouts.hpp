@@ -1,0 +1,23 @@
+// The special-lane callouts: scalar functions that compute one lane exactly, with every special value.
+// Each takes a pointer to every operand, inputs first, and returns a status.
+#pragma once
+
+namespace tarn::callout {
+
+enum Status : int {
+    ordinary = 0,
+    domain_error = 1,  // a NaN from an argument outside the domain
+    pole = 2,          // an infinity from a finite argument
+    overflow = 3,
+    underflow = 4,
+};
+
+#pragma GCC visibility push(hidden)
+
+using UnaryFloat = int(const float* x, float* result);
+
+UnaryFloat expf, exp2f, exp10f, expm1f;
+
+#pragma GCC visibility pop
+
+}  // namespace tarn::callout

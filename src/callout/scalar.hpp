@@ -1,0 +1,50 @@
+// The callouts' scalar toolkit: bit fields, scaling, and results that must raise their flags.
+#pragma once
+
+#include "callout/callouts.hpp"
+#include "frame/simd.hpp"
+
+namespace tarn::callout {
+
+TARN_INLINE std::uint32_t pattern(float x) { return static_cast<std::uint32_t>(bits(x)); }
+TARN_INLINE std::uint64_t pattern(double x) { return static_cast<std::uint64_t>(bits(x)); }
+
+TARN_INLINE bool is_nan(float x) { return x != x; }
+TARN_INLINE bool is_nan(double x) { return x != x; }
+
+// Infinity or NaN.
+TARN_INLINE bool not_finite(float x) { return (pattern(x) & 0x7F800000) == 0x7F800000; }
+TARN_INLINE bool not_finite(double x) { return pattern(x) >> 52 << 53 == 0xFFE0000000000000; }
+
+// 2^e for an exponent that a normal double has.
+TARN_INLINE double power_of_two(int e) { return f64(static_cast<std::uint64_t>(e + 1023) << 52); }
+
+// Results beyond the range, made by operations that raise the flags: the largest double squared, and
+// a square that vanishes.
+TARN_INLINE double overflowed() {
+    const double largest = opaque(f64(0x7FEFFFFFFFFFFFFF));
+    return largest * largest;
+}
+TARN_INLINE double underflowed() {
+    const double smallest = opaque(f64(0x0010000000000001));
+    return smallest * smallest;
+}
+
+// x times a scale that has absorbed 1.5 * 2^k, so that its sum's low bits hold the rounded product:
+// the reduction of every exponential.
+struct Rounded {
+    std::uint32_t low_bits;
+    double value;
+};
+TARN_INLINE Rounded round_by_shifter(double x, double shifter) {
+    const double sum = x + shifter;
+    return {static_cast<std::uint32_t>(pattern(sum)), sum - shifter};
+}
+
+// Stores a callout's result, rounded once, and hands the status on.
+TARN_INLINE int give(float* result, double value, Status status = ordinary) {
+    *result = static_cast<float>(value);
+    return status;
+}
+
+}  // namespace tarn::callout

@@ -1,0 +1,277 @@
+// The frame of every kernel. A kernel says what it computes on one group of lanes; the frame prepares
+// the lanes of each width, runs the groups, gathers the special-lane mask and returns at once when it
+// is empty: ordinary arguments cause no call. What happens to special lanes is the kernel's kind:
+//
+//   fast gives a plain value                     no lane is special
+//   fast gives Flagged, callout                  flagged lanes go to the callout, in lane order
+//   fast gives Flagged, long_path, callout       any flagged lane sends the whole call down long_path,
+//                                                whose own mask names the lanes for the callout
+//   fast gives Flagged, finish                   every group with a flagged lane is finished by the kernel
+//   callout alone                                every lane goes to the callout
+//
+// `fast`, `long_path` and `finish` take and give groups. A callout is scalar and takes one pointer for
+// each operand, inputs first: int(const A*..., R*), or int(const A*..., R*, S*) with a second result.
+#pragma once
+
+#include <utility>
+
+#include "frame/lanes.hpp"
+
+namespace tarn {
+
+// The two results of a kernel, in its signature: Both<float, std::int32_t>(float).
+template <class First, class Second> struct Both;
+
+// What `fast` and `long_path` give beside a plain group.
+template <class V, class Mask> struct Flagged {
+    V value;
+    Mask special;
+};
+template <class V, class S> struct Pair {
+    V value;
+    S second;
+};
+template <class V, class S, class Mask> struct FlaggedPair {
+    V value;
+    S second;
+    Mask special;
+};
+template <class V, class M> Flagged(V, M) -> Flagged<V, M>;
+template <class V, class S> Pair(V, S) -> Pair<V, S>;
+template <class V, class S, class M> FlaggedPair(V, S, M) -> FlaggedPair<V, S, M>;
+
+// Base of every kernel: its signature in lanes, and what it may replace.
+template <class Result, class... Args> struct Kernel;
+template <class Result, class... Args> struct Kernel<Result(Args...)> {
+    using Signature = Result(Args...);
+
+    // Lanes to a group: two where any lane is a double, else four.
+    static constexpr int lanes = (std::is_same_v<Result, double> || ... || std::is_same_v<Args, double>) ? 2 : 4;
+
+    // What stands in lane 3 of width 3: in the middle of the domain, so that it is never special.
+    template <class Lane>
+    static constexpr Lane last_lane = std::is_floating_point_v<Lane> ? Lane(0.75) : Lane(sizeof(Lane) == 4);
+};
+template <class First, class Second, class... Args>
+struct Kernel<Both<First, Second>(Args...)> : Kernel<First(Args...)> {
+    using Signature = Both<First, Second>(Args...);
+};
+
+// A signature taken apart; `Seconds` is a list of one type or none.
+template <class...> struct Types;
+template <class Signature> struct Parts;
+template <class R, class... A> struct Parts<R(A...)> {
+    using Result = R;
+    using Seconds = Types<>;
+    using Args = Types<A...>;
+};
+template <class R, class S, class... A> struct Parts<Both<R, S>(A...)> {
+    using Result = R;
+    using Seconds = Types<S>;
+    using Args = Types<A...>;
+};
+
+// Special lanes ----------------------------------------------------------------------------------
+
+// A vector as an array of lanes: where it lies, if it lies in memory already; else spilled to a
+// scratch block aligned to 64 bytes.
+template <class Lane, int width, bool spill = !in_memory<Lane, width>> class LaneArray {
+public:
+    explicit LaneArray(const Vec<Lane, width>& v) { __builtin_memcpy(scratch, &v, sizeof v); }
+    Lane* at(int i) { return scratch + i; }
+    Vec<Lane, width> reload() const {
+        Vec<Lane, width> v;
+        __builtin_memcpy(&v, scratch, sizeof v);
+        return v;
+    }
+
+private:
+    alignas(64) Lane scratch[stored_lanes(width)];
+};
+template <class Lane, int width> class LaneArray<Lane, width, false> {
+public:
+    explicit LaneArray(Vec<Lane, width>& v) : vector(v) {}
+    explicit LaneArray(const Vec<Lane, width>& v) : vector(const_cast<Vec<Lane, width>&>(v)) {}
+    Lane* at(int i) { return reinterpret_cast<Lane*>(&vector) + i; }
+    Vec<Lane, width>& reload() const { return vector; }
+
+private:
+    Vec<Lane, width>& vector;
+};
+
+// How the cold routines take a vector: in the register it is in, or where it lies.
+template <class Lane, int width>
+using Passed = std::conditional_t<in_memory<Lane, width>, const Vec<Lane, width>&, Vec<Lane, width>>;
+template <class Lane, int width>
+using Updated = std::conditional_t<in_memory<Lane, width>, Vec<Lane, width>&, Vec<Lane, width>>;
+
+// The cold routine, one for each signature and width, shared by all families that have them: the
+// callout on every flagged lane in ascending order. The callout's status is for scalar callers; a
+// vector has nowhere to put it.
+template <int width, class R, class Seconds, class Args> struct SpecialLanes;
+template <int width, class R, class... S, class... A>
+struct SpecialLanes<width, R, Types<S...>, Types<A...>> {
+    using Callout = int(const A*..., R*, S*...);
+
+    [[gnu::noinline, gnu::cold]] static Updated<R, width> run(Updated<R, width> fast, Passed<A, width>... x,
+                                                              unsigned special, Callout* callout, S*... second) {
+        LaneArray<R, width> result(fast);
+        visit(special, callout, result, LaneArray<A, width>(x)..., second...);
+        return result.reload();
+    }
+
+    static TARN_INLINE void visit(unsigned special, Callout* callout, LaneArray<R, width>& result,
+                                  LaneArray<A, width>&&... x, S*... second) {
+        for (; special != 0; special &= special - 1) {
+            const int i = __builtin_ctz(special);
+            callout(x.at(i)..., result.at(i), second + i...);
+        }
+    }
+};
+
+// One call ---------------------------------------------------------------------------------------
+
+template <class K, int width, class R = typename Parts<typename K::Signature>::Result,
+          class Seconds = typename Parts<typename K::Signature>::Seconds,
+          class Args = typename Parts<typename K::Signature>::Args>
+struct Call;
+
+template <class K, int width, class R, class... S, class... A>
+struct Call<K, width, R, Types<S...>, Types<A...>> {
+    static constexpr int lanes = K::lanes;
+    static constexpr int count = stored_lanes(width) > lanes ? stored_lanes(width) / lanes : 1;
+    using Result = Vec<R, width>;
+    using Special = SpecialLanes<width, R, Types<S...>, Types<A...>>;
+
+    static TARN_INLINE Result run(const Vec<A, width>&... x, S*... second)
+        requires(!in_memory<R, width>)
+    {
+        Result result;
+        const unsigned special = evaluate<Fast>(result, x..., second...);
+        if (__builtin_expect(special != 0, 0)) return settle<Fast>(result, x..., special, second...);
+        return result;
+    }
+
+    // A vector in memory is brought up to date where it is: the hot path has nothing to save.
+    static TARN_INLINE Result run(const Vec<A, width>&... x, S*... second)
+        requires(in_memory<R, width>)
+    {
+        Result result;
+        const unsigned special = evaluate<Fast>(result, x..., second...);
+        if (__builtin_expect(special != 0, 0)) settle<Fast>(result, x..., special, second...);
+        return result;
+    }
+
+private:
+    // Group i of an argument. Lane 3 of width 3 never decides anything where the argument is the only
+    // one, or an integer.
+    template <class Lane> static TARN_INLINE Group<Lane, lanes> argument(const Vec<Lane, width>& x, int i) {
+        const auto g = group<lanes, Lane, width>(x, i);
+        if constexpr (width == 3 && lanes > 1 && (sizeof...(A) == 1 || std::is_integral_v<Lane>))
+            if (i == count - 1) return with_last_lane<Lane, lanes>(g, K::template last_lane<Lane>);
+        return g;
+    }
+
+    struct Fast {
+        template <class... G> static TARN_INLINE auto group(G... g) { return K::fast(g...); }
+    };
+    struct Long {
+        template <class... G> static TARN_INLINE auto group(G... g) { return K::long_path(g...); }
+    };
+
+    // Computes all groups on one path; the special lanes are the result.
+    template <class Path>
+    static TARN_INLINE unsigned evaluate(Result& result, const Vec<A, width>&... x, S*... second) {
+        if constexpr (requires { &K::fast; }) {
+            return over<Path>(std::make_integer_sequence<int, count>{}, result, x..., second...);
+        } else {
+            LaneArray<R, width> lanes_of_result(result);
+            Special::visit(lane_mask(width), K::callout, lanes_of_result, LaneArray<A, width>(x)..., second...);
+            result = lanes_of_result.reload();
+            return 0;
+        }
+    }
+
+    template <class Path, int... i>
+    static TARN_INLINE unsigned over(std::integer_sequence<int, i...>, Result& result, const Vec<A, width>&... x,
+                                     S*... second) {
+        const auto run_group = [&](int g) __attribute__((always_inline)) { return Path::group(argument<A>(x, g)...); };
+        const decltype(run_group(0)) groups[] = {run_group(i)...};
+        const Group<R, lanes> values[] = {value_of(groups[i])...};
+        result = vector_of<lanes, R, width>(values);
+        (store(second, groups), ...);
+        if constexpr (requires { groups[0].special; }) {
+            const decltype(groups[0].special) masks[] = {groups[i].special...};
+            return special_bits<lanes>(masks) & lane_mask(width < 4 ? width : 16);
+        } else {
+            return 0;
+        }
+    }
+
+    // What becomes of a call with special lanes.
+    template <class Path>
+    static TARN_INLINE Updated<R, width> settle(Updated<R, width> fast, const Vec<A, width>&... x, unsigned special,
+                                                S*... second) {
+        if constexpr (std::is_same_v<Path, Fast> && requires { &K::long_path; }) return switched(fast, x..., second...);
+        else if constexpr (requires { &K::finish; }) return finished(fast, x..., special);
+        else if constexpr (requires { K::callout; }) return Special::run(fast, x..., special, K::callout, second...);
+        else return fast;
+    }
+
+    [[gnu::noinline, gnu::cold]] static Updated<R, width> switched(Updated<R, width> fast, Passed<A, width>... x,
+                                                                   S*... second) {
+        Result result;
+        const unsigned special = evaluate<Long>(result, x..., second...);
+        if constexpr (in_memory<R, width>) {
+            fast = result;
+            if (special != 0) settle<Long>(fast, x..., special, second...);
+            return fast;
+        } else {
+            if (special != 0) return settle<Long>(result, x..., special, second...);
+            return result;
+        }
+    }
+
+    [[gnu::noinline, gnu::cold]] static Updated<R, width> finished(Updated<R, width> fast, Passed<A, width>... x,
+                                                                   unsigned special) {
+        Group<R, lanes> values[count];
+        for (int i = 0; i < count; i++) {
+            const unsigned flags = special >> (i * lanes) & lane_mask(lanes);
+            values[i] = group<lanes, R, width>(fast, i);
+            if (flags != 0) values[i] = K::finish(argument<A>(x, i)..., values[i], flags);
+        }
+        const Result result = vector_of<lanes, R, width>(values);
+        if constexpr (in_memory<R, width>) return fast = result;
+        else return result;
+    }
+
+    template <class G> static TARN_INLINE auto value_of(const G& g) {
+        if constexpr (requires { g.value; }) return g.value;
+        else return g;
+    }
+
+    // The second results, block by block, wherever the pointer points.
+    template <class Lane, class G> static TARN_INLINE void store(Lane* to, const G (&groups)[count]) {
+        Group<Lane, lanes> seconds[count];
+        for (int g = 0; g < count; g++) seconds[g] = groups[g].second;
+        const auto v = vector_of<lanes, Lane, width>(seconds);
+        if constexpr (in_memory<Lane, width>) {
+            for (const auto& block : v.block) {
+                __builtin_memcpy(to, &block, sizeof block);
+                to += sizeof block / sizeof(Lane);
+            }
+        } else {
+            __builtin_memcpy(to, &v, sizeof v);
+        }
+    }
+};
+
+// Two results as one value.
+template <class K, int width, class... V> TARN_INLINE auto run_pair(const V&... x) {
+    using Lane = typename Parts<typename K::Signature>::Result;
+    VecPair<Lane, width> pair;
+    pair.sine = Call<K, width>::run(x..., reinterpret_cast<Lane*>(&pair.cosine));
+    return pair;
+}
+
+}  // namespace tarn

@@ -1,0 +1,161 @@
+// The vocabulary of the kernels: 16-byte blocks with the language's own operators, and a name for
+// each thing that operators cannot say.
+#pragma once
+
+#include <cstdint>
+#include <smmintrin.h>
+
+#define TARN_INLINE __attribute__((always_inline)) inline
+
+namespace tarn {
+
+typedef float f32x4 __attribute__((vector_size(16)));
+typedef double f64x2 __attribute__((vector_size(16)));
+typedef std::int32_t i32x4 __attribute__((vector_size(16)));
+typedef std::uint32_t u32x4 __attribute__((vector_size(16)));
+typedef std::int64_t i64x2 __attribute__((vector_size(16)));
+typedef std::uint64_t u64x2 __attribute__((vector_size(16)));
+
+// Bit patterns -----------------------------------------------------------------------------------
+
+constexpr float f32(std::uint32_t pattern) { return __builtin_bit_cast(float, pattern); }
+constexpr double f64(std::uint64_t pattern) { return __builtin_bit_cast(double, pattern); }
+constexpr std::int32_t bits(float x) { return __builtin_bit_cast(std::int32_t, x); }
+constexpr std::int64_t bits(double x) { return __builtin_bit_cast(std::int64_t, x); }
+
+TARN_INLINE i32x4 bits(f32x4 x) { return (i32x4)x; }
+TARN_INLINE i64x2 bits(f64x2 x) { return (i64x2)x; }
+TARN_INLINE f32x4 from_bits(i32x4 pattern) { return (f32x4)pattern; }
+TARN_INLINE f64x2 from_bits(i64x2 pattern) { return (f64x2)pattern; }
+
+// A shift that fills with zeros; `>>` on signed lanes repeats the sign.
+TARN_INLINE i32x4 shift_right_logical(i32x4 v, int count) { return (i32x4)((u32x4)v >> count); }
+TARN_INLINE i64x2 shift_right_logical(i64x2 v, int count) { return (i64x2)((u64x2)v >> count); }
+
+// Constants: every lane the same -----------------------------------------------------------------
+
+constexpr i32x4 splat(std::int32_t v) { return i32x4{v, v, v, v}; }
+constexpr i64x2 splat(std::int64_t v) { return i64x2{v, v}; }
+constexpr f32x4 splat(float v) { return f32x4{v, v, v, v}; }
+constexpr f64x2 splat(double v) { return f64x2{v, v}; }
+constexpr f32x4 splat_f32(std::uint32_t pattern) { return splat(f32(pattern)); }
+constexpr f64x2 splat_f64(std::uint64_t pattern) { return splat(f64(pattern)); }
+constexpr i32x4 splat_i32(std::uint32_t pattern) { return splat(static_cast<std::int32_t>(pattern)); }
+constexpr i64x2 splat_i64(std::uint64_t pattern) { return splat(static_cast<std::int64_t>(pattern)); }
+
+// Sign and magnitude -----------------------------------------------------------------------------
+
+constexpr i32x4 sign_mask_f32 = splat_i32(0x80000000);
+constexpr i64x2 sign_mask_f64 = splat_i64(0x8000000000000000);
+
+TARN_INLINE i32x4 sign_bit(f32x4 x) { return bits(x) & sign_mask_f32; }
+TARN_INLINE i64x2 sign_bit(f64x2 x) { return bits(x) & sign_mask_f64; }
+TARN_INLINE f32x4 abs(f32x4 x) { return from_bits(bits(x) & ~sign_mask_f32); }
+TARN_INLINE f64x2 abs(f64x2 x) { return from_bits(bits(x) & ~sign_mask_f64); }
+TARN_INLINE f32x4 or_bits(f32x4 x, i32x4 pattern) { return from_bits(bits(x) | pattern); }
+TARN_INLINE f64x2 or_bits(f64x2 x, i64x2 pattern) { return from_bits(bits(x) | pattern); }
+TARN_INLINE f32x4 xor_bits(f32x4 x, i32x4 pattern) { return from_bits(bits(x) ^ pattern); }
+TARN_INLINE f64x2 xor_bits(f64x2 x, i64x2 pattern) { return from_bits(bits(x) ^ pattern); }
+
+// Choice -----------------------------------------------------------------------------------------
+
+// Lane by lane: `yes` where the mask lane is all ones, else `no`.
+TARN_INLINE f32x4 select(i32x4 mask, f32x4 yes, f32x4 no) { return _mm_blendv_ps(no, yes, (__m128)mask); }
+TARN_INLINE f64x2 select(i64x2 mask, f64x2 yes, f64x2 no) { return _mm_blendv_pd(no, yes, (__m128d)mask); }
+TARN_INLINE i32x4 select(i32x4 mask, i32x4 yes, i32x4 no) {
+    return (i32x4)_mm_blendv_epi8((__m128i)no, (__m128i)yes, (__m128i)mask);
+}
+TARN_INLINE i64x2 select(i64x2 mask, i64x2 yes, i64x2 no) {
+    return (i64x2)_mm_blendv_epi8((__m128i)no, (__m128i)yes, (__m128i)mask);
+}
+
+// The processor's minimum and maximum: the second operand comes back when either is a NaN or both
+// are zeros, so the order of the operands is part of the result.
+TARN_INLINE f32x4 min(f32x4 x, f32x4 y) { return _mm_min_ps(x, y); }
+TARN_INLINE f64x2 min(f64x2 x, f64x2 y) { return _mm_min_pd(x, y); }
+TARN_INLINE f32x4 max(f32x4 x, f32x4 y) { return _mm_max_ps(x, y); }
+TARN_INLINE f64x2 max(f64x2 x, f64x2 y) { return _mm_max_pd(x, y); }
+
+// Rounding to an integral value ------------------------------------------------------------------
+
+enum class Rounding {
+    nearest = _MM_FROUND_TO_NEAREST_INT,
+    down = _MM_FROUND_TO_NEG_INF,
+    up = _MM_FROUND_TO_POS_INF,
+    zero = _MM_FROUND_TO_ZERO,
+    current = _MM_FROUND_CUR_DIRECTION,                             // the caller's rounding mode
+    current_quiet = _MM_FROUND_CUR_DIRECTION | _MM_FROUND_NO_EXC,  // the same, never inexact
+};
+template <Rounding mode> TARN_INLINE f32x4 round(f32x4 x) { return _mm_round_ps(x, static_cast<int>(mode)); }
+template <Rounding mode> TARN_INLINE f64x2 round(f64x2 x) { return _mm_round_pd(x, static_cast<int>(mode)); }
+
+// Roots and the processor's own approximations (relative error 1.5 * 2^-12; the bits differ between
+// processors) ------------------------------------------------------------------------------------
+
+TARN_INLINE f32x4 sqrt(f32x4 x) { return _mm_sqrt_ps(x); }
+TARN_INLINE f64x2 sqrt(f64x2 x) { return _mm_sqrt_pd(x); }
+TARN_INLINE f32x4 reciprocal_estimate(f32x4 x) { return _mm_rcp_ps(x); }
+TARN_INLINE f32x4 rsqrt_estimate(f32x4 x) { return _mm_rsqrt_ps(x); }
+
+// Between precisions -----------------------------------------------------------------------------
+
+TARN_INLINE f64x2 widen_low(f32x4 x) { return _mm_cvtps_pd(x); }
+TARN_INLINE f64x2 widen_high(f32x4 x) { return _mm_cvtps_pd(_mm_movehl_ps(x, x)); }
+TARN_INLINE f32x4 narrow(f64x2 low, f64x2 high) { return _mm_movelh_ps(_mm_cvtpd_ps(low), _mm_cvtpd_ps(high)); }
+
+// Polynomials ------------------------------------------------------------------------------------
+
+// Horner's rule, highest coefficient first: ((c0*x + c1)*x + c2)*x + ...
+template <class V> TARN_INLINE V horner(V, V sum) { return sum; }
+template <class V, class... More> TARN_INLINE V horner(V x, V leading, V next, More... more) {
+    return horner(x, leading * x + next, more...);
+}
+
+// Table rows -------------------------------------------------------------------------------------
+
+TARN_INLINE std::uint32_t lane(i32x4 v, int i) { return static_cast<std::uint32_t>(v[i]); }
+
+// table[index] in each lane.
+TARN_INLINE f32x4 gather(const float* table, i32x4 index) {
+    return f32x4{table[lane(index, 0)], table[lane(index, 1)], table[lane(index, 2)], table[lane(index, 3)]};
+}
+TARN_INLINE i32x4 gather(const std::uint32_t* table, i32x4 index) {
+    return (i32x4)u32x4{table[lane(index, 0)], table[lane(index, 1)], table[lane(index, 2)], table[lane(index, 3)]};
+}
+
+// The rows of a table of 8-byte pairs, as one vector of firsts and one of seconds.
+struct PairLanes {
+    f32x4 first, second;
+};
+template <class Entry> TARN_INLINE PairLanes gather_pairs(const Entry (*table)[2], i32x4 index) {
+    static_assert(sizeof(Entry) == 4);
+    const auto row = [&](int i) __attribute__((always_inline)) {
+        return reinterpret_cast<const double*>(table[lane(index, i)]);
+    };
+    const __m128 low = (__m128)_mm_loadh_pd(_mm_load_sd(row(0)), row(1));
+    const __m128 high = (__m128)_mm_loadh_pd(_mm_load_sd(row(2)), row(3));
+    return {_mm_shuffle_ps(low, high, _MM_SHUFFLE(2, 0, 2, 0)), _mm_shuffle_ps(low, high, _MM_SHUFFLE(3, 1, 3, 1))};
+}
+
+// Special-lane tests -----------------------------------------------------------------------------
+
+// Bit pattern of |x| above the bound; infinities and NaNs are above every finite bound.
+TARN_INLINE i32x4 magnitude_above(f32x4 x, std::uint32_t bound) { return bits(abs(x)) > splat_i32(bound); }
+
+// |x| within the bound as a float comparison turned round, so that a NaN is not within.
+TARN_INLINE i32x4 not_within(f32x4 x, f32x4 bound) { return (i32x4)_mm_cmpnle_ps(abs(x), bound); }
+
+// Floating-point flags ---------------------------------------------------------------------------
+
+// The value as one the compiler cannot see through: operations on it are carried out when the
+// program runs, in the caller's floating-point environment, and raise their flags there.
+TARN_INLINE float opaque(float x) {
+    asm volatile("" : "+x"(x));
+    return x;
+}
+TARN_INLINE double opaque(double x) {
+    asm volatile("" : "+x"(x));
+    return x;
+}
+
+}  // namespace tarn

@@ -1,0 +1,199 @@
+// Writes what follows from the table of families: the public header and the version script.
+//   tarn-exports header|map|names > FILE
+#include <cstdio>
+#include <cstring>
+#include <string>
+
+#include "frame/families.hpp"
+
+using namespace tarn;
+
+namespace {
+
+const char* c_type(Lane t) {
+    switch (t) {
+        case Lane::f32: return "float";
+        case Lane::f64: return "double";
+        case Lane::i32: return "int32_t";
+        case Lane::u32: return "uint32_t";
+        case Lane::i64: return "int64_t";
+        case Lane::u64: return "uint64_t";
+        case Lane::none: break;
+    }
+    return "void";
+}
+
+const char* stem(Lane t) {
+    switch (t) {
+        case Lane::f32: return "float";
+        case Lane::f64: return "double";
+        case Lane::i32: return "int";
+        case Lane::u32: return "uint";
+        case Lane::i64: return "long";
+        case Lane::u64: return "ulong";
+        case Lane::none: break;
+    }
+    return "void";
+}
+
+std::string vector_type(Lane t, int width) {
+    return width == 1 ? c_type(t) : "tarn_" + std::string(stem(t)) + std::to_string(width);
+}
+
+std::string declaration(const Family& f, int width, Variant v) {
+    const Shape& s = f.shape;
+    std::string text = s.pair ? "tarn_sincos_" + std::string(stem(s.result)) + std::to_string(width)
+                              : vector_type(s.result, width);
+    text += ' ' + export_name(f.base, width, v) + '(';
+    static const char* const names[] = {"x", "y", "z"};
+    for (std::size_t i = 0; i < s.args.size(); i++) {
+        const bool integer_second = i == 1 && s.args[i] == Lane::i32;
+        text += (i ? ", " : "") + vector_type(s.args[i], width) + ' ' + (integer_second ? "n" : names[i]);
+    }
+    if (s.second != Lane::none && !s.pair) text += std::string(", ") + c_type(s.second) + "* second";
+    text += ')';
+    // A pointer is written through; these read the rounding mode or the x87 control word.
+    const bool pure = (s.second == Lane::none || s.pair) && !f.base.starts_with("rint") &&
+                      !f.base.starts_with("nearbyint") && !f.base.starts_with("fma");
+    return text + (pure ? " TARN_CONST;" : ";");
+}
+
+std::string ulps(double u) {
+    char text[32];
+    std::snprintf(text, sizeof text, "%.4g", u);
+    return text;
+}
+
+std::string error_line(const Family& f) {
+    if (f.full.ulp == 0) return f.allowed == 0 ? "Exact, or rounded once." : "";
+    std::string text = "Worst error " + ulps(f.full.ulp) + " ulp";
+    for (const auto& [width, own] : f.width_full) text += ", width " + std::to_string(width) + " " + ulps(own.ulp);
+    if (f.allowed > 0) text += " (OpenCL allows " + ulps(f.allowed) + ")";
+    if (f.native_worst.ulp != 0) text += f.half_worst.ulp != 0 ? "; native " : f.has(Variant::half) ? "; native and half " : "; native ";
+    if (f.native_worst.ulp != 0) text += ulps(f.native_worst.ulp);
+    if (f.half_worst.ulp != 0) text += ", half " + ulps(f.half_worst.ulp);
+    if (!f.measured.empty()) text += "; measured over " + f.measured;
+    return text + '.';
+}
+
+// Breaks a comment into lines of at most `limit` characters.
+void comment(const std::string& text, std::size_t limit) {
+    std::string line = "/*";
+    std::size_t at = 0;
+    while (at < text.size()) {
+        std::size_t end = text.find(' ', at);
+        if (end == std::string::npos) end = text.size();
+        if (line.size() + 1 + (end - at) > limit) {
+            std::puts(line.c_str());
+            line = "  ";
+        }
+        line += ' ' + text.substr(at, end - at);
+        at = end + 1;
+    }
+    std::puts((line + " */").c_str());
+}
+
+void header() {
+    std::puts(R"(/* Vector math: the OpenCL C built-in functions on vectors of 1, 2, 3, 4, 8 and 16 lanes, in single and
+ * double precision, for x86-64 with SSE4.1.
+ *
+ *     __ocl_tarn_k1_<base><width>[_native|_half]
+ *
+ * A base that ends in f is single precision (but erf and modf are double). Without a suffix a function keeps
+ * the OpenCL error bound; _native is fast and only as accurate as its comment says; _half lies between.
+ * Functions hold no state, change no control register and may be called from any thread.
+ *
+ * Vectors travel as in the System V ABI: up to 16 bytes in one register, longer ones as a struct of 16-byte
+ * blocks, lane 0 first. Width 3 is stored as width 4: what its lane 3 holds is ignored, and undefined in
+ * a result. A second result goes through a pointer to its lanes, as many as the width stores (four for
+ * width 3), at any alignment.
+ *
+ * Errors are in units in the last place (ulp) of the exact result.
+ *
+ * Generated from the table of families by tarn-exports; edit the table. */
+#ifndef OCL_TARN_K1_H
+#define OCL_TARN_K1_H
+
+#include <stdint.h>
+
+#if !defined(__x86_64__) || !(defined(__GNUC__) || defined(__clang__))
+#error "this library is for x86-64, and its vector types are those of GCC and Clang"
+#endif
+
+#define TARN_CONST __attribute__((const)) /* the result depends on nothing but the arguments */
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+#pragma GCC visibility push(default)
+
+/* Vectors --------------------------------------------------------------------------------------- */
+)");
+    // Width 4 stands before width 3, which is another name for it, and blocks before structs of them.
+    for (const Lane t : {Lane::f32, Lane::f64, Lane::i32, Lane::u32, Lane::i64, Lane::u64}) {
+        const std::string name = "tarn_" + std::string(stem(t));
+        const int per_block = 16 / bytes(t);
+        for (const int width : {2, 4, 3, 8, 16}) {
+            const std::string type = name + std::to_string(width);
+            if (width == 3) std::printf("typedef %s4 %s;\n", name.c_str(), type.c_str());
+            else if (width <= per_block)
+                std::printf("typedef %s %s __attribute__((vector_size(%d)));\n", c_type(t), type.c_str(), width * bytes(t));
+            else
+                std::printf("typedef struct %s { %s%d block[%d]; } %s;\n", type.c_str(), name.c_str(), per_block,
+                            width / per_block, type.c_str());
+        }
+        std::puts("");
+    }
+    std::puts("/* Sine and cosine together. */");
+    for (const Lane t : {Lane::f32, Lane::f64})
+        for (const int width : widths)
+            std::printf("typedef struct tarn_sincos_%s%d { %s sine, cosine; } tarn_sincos_%s%d;\n", stem(t), width,
+                        vector_type(t, width).c_str(), stem(t), width);
+
+    std::string group;
+    for (const Family& f : families()) {
+        if (f.group != group) {
+            group = f.group;
+            std::string rule = "/* " + group + ' ';
+            rule.resize(100, '-');
+            std::printf("\n%s */\n", rule.c_str());
+        }
+        std::puts("");
+        std::string text = f.base + ": " + f.formula + ".";
+        if (!f.domain.empty()) text += " Domain: " + f.domain + ".";
+        if (!f.special.empty()) text += " Special values: " + f.special;
+        const std::string error = error_line(f);
+        comment(error.empty() ? text : text + ' ' + error, 108);
+        for (const Variant v : all_variants)
+            if (f.has(v))
+                for (const int width : widths) std::puts(declaration(f, width, v).c_str());
+    }
+    std::puts(R"(
+#pragma GCC visibility pop
+#ifdef __cplusplus
+}
+#endif
+#endif)");
+}
+
+void names(const char* indent, const char* end) {
+    for (const Family& f : families())
+        for (const Variant v : all_variants)
+            if (f.has(v))
+                for (const int width : widths) std::printf("%s%s%s\n", indent, export_name(f.base, width, v).c_str(), end);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc == 2 && !std::strcmp(argv[1], "header")) header();
+    else if (argc == 2 && !std::strcmp(argv[1], "names")) names("", "");
+    else if (argc == 2 && !std::strcmp(argv[1], "map")) {
+        std::puts("/* Generated from the table of families by tarn-exports. */\n{\nglobal:");
+        names("    ", ";");
+        std::puts("local:\n    *;\n};");
+    } else {
+        std::fputs("usage: tarn-exports header|map|names\n", stderr);
+        return 2;
+    }
+}
