@@ -17,6 +17,7 @@ enum Status : int {
 using UnaryFloat = int(const float* x, float* result);
 
 UnaryFloat expf, exp2f, exp10f, expm1f;
+UnaryFloat logf, log2f, log10f, log1pf;
 
 #pragma GCC visibility pop
 

@@ -30,6 +30,13 @@ TARN_INLINE double underflowed() {
     return smallest * smallest;
 }
 
+// A NaN that raises invalid, and an infinity of the zero's sign that raises division by zero.
+TARN_INLINE double invalid() {
+    const double zero = opaque(0.0);
+    return zero / zero;
+}
+TARN_INLINE double infinity_from(double zero) { return 1.0 / opaque(zero); }
+
 // x times a scale that has absorbed 1.5 * 2^k, so that its sum's low bits hold the rounded product:
 // the reduction of every exponential.
 struct Rounded {

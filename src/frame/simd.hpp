@@ -57,6 +57,10 @@ TARN_INLINE f64x2 or_bits(f64x2 x, i64x2 pattern) { return from_bits(bits(x) | p
 TARN_INLINE f32x4 xor_bits(f32x4 x, i32x4 pattern) { return from_bits(bits(x) ^ pattern); }
 TARN_INLINE f64x2 xor_bits(f64x2 x, i64x2 pattern) { return from_bits(bits(x) ^ pattern); }
 
+// Between integers and floats --------------------------------------------------------------------
+
+TARN_INLINE f32x4 to_float(i32x4 v) { return __builtin_convertvector(v, f32x4); }
+
 // Choice -----------------------------------------------------------------------------------------
 
 // Lane by lane: `yes` where the mask lane is all ones, else `no`.
@@ -144,6 +148,12 @@ TARN_INLINE i32x4 magnitude_above(f32x4 x, std::uint32_t bound) { return bits(ab
 
 // |x| within the bound as a float comparison turned round, so that a NaN is not within.
 TARN_INLINE i32x4 not_within(f32x4 x, f32x4 bound) { return (i32x4)_mm_cmpnle_ps(abs(x), bound); }
+
+// Anything but a positive normal finite number, in one wrapping sum: zeros, subnormals, negative numbers,
+// infinities and NaNs.
+TARN_INLINE i32x4 not_positive_normal(f32x4 x) {
+    return (i32x4)((u32x4)x + (u32x4)splat_i32(0x00800000)) < splat_i32(0x01000000);
+}
 
 // Floating-point flags ---------------------------------------------------------------------------
 
