@@ -15,9 +15,12 @@ enum Status : int {
 #pragma GCC visibility push(hidden)
 
 using UnaryFloat = int(const float* x, float* result);
+using BinaryFloat = int(const float* x, const float* y, float* result);
 
 UnaryFloat expf, exp2f, exp10f, expm1f;
 UnaryFloat logf, log2f, log10f, log1pf;
+UnaryFloat invf, sqrtf, rsqrtf, cbrtf, rcbrtf;
+BinaryFloat divf, hypotf;
 
 #pragma GCC visibility pop
 

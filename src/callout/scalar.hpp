@@ -16,6 +16,8 @@ TARN_INLINE bool is_nan(double x) { return x != x; }
 TARN_INLINE bool not_finite(float x) { return (pattern(x) & 0x7F800000) == 0x7F800000; }
 TARN_INLINE bool not_finite(double x) { return pattern(x) >> 52 << 53 == 0xFFE0000000000000; }
 
+TARN_INLINE bool is_subnormal(float x) { return (pattern(x) & 0x7F800000) == 0 && x != 0; }
+
 // 2^e for an exponent that a normal double has.
 TARN_INLINE double power_of_two(int e) { return f64(static_cast<std::uint64_t>(e + 1023) << 52); }
 
