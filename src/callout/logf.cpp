@@ -2,7 +2,7 @@
 // x = 2^k m, a row of 65 by the top bits of m gives the reciprocal R of 1 + i/64 and -ln R as head and
 // tail, and the same polynomial takes R m - 1. The other bases are multiples: powers of two come out
 // exact. Worst error 0.50 ulp.
-#include "callout/scalar.hpp"
+#include "callout/log_family.hpp"
 
 namespace tarn::callout {
 namespace {
@@ -26,7 +26,8 @@ double q(double z) { return horner(z, c6, c5, c4, c3, c2, c1, -0.5); }
 
 double log_near_one(double v) { return v + v * v * q(v); }
 
-// ln X of a positive normal double.
+}  // namespace
+
 double log_of(double X) {
     const double v = X - 1.0;
     if (v <= near_one && v >= -near_one) return log_near_one(v);
@@ -40,6 +41,8 @@ double log_of(double X) {
     const double z = u + w;
     return u + (k * ln2_head + head) + (w + (k * ln2_tail + tail) + z * z * q(z));
 }
+
+namespace {
 
 // The logarithm to the base e^(1/multiple); `x` or `1 + x` is X.
 int give_log(double X, double multiple, float* result) {

@@ -60,6 +60,8 @@ TARN_INLINE f64x2 xor_bits(f64x2 x, i64x2 pattern) { return from_bits(bits(x) ^ 
 // Between integers and floats --------------------------------------------------------------------
 
 TARN_INLINE f32x4 to_float(i32x4 v) { return __builtin_convertvector(v, f32x4); }
+TARN_INLINE f64x2 to_double_low(i32x4 v) { return _mm_cvtepi32_pd((__m128i)v); }
+TARN_INLINE f64x2 to_double_high(i32x4 v) { return _mm_cvtepi32_pd(_mm_unpackhi_epi64((__m128i)v, (__m128i)v)); }
 
 // Choice -----------------------------------------------------------------------------------------
 
@@ -107,6 +109,14 @@ TARN_INLINE f64x2 widen_low(f32x4 x) { return _mm_cvtps_pd(x); }
 TARN_INLINE f64x2 widen_high(f32x4 x) { return _mm_cvtps_pd(_mm_movehl_ps(x, x)); }
 TARN_INLINE f32x4 narrow(f64x2 low, f64x2 high) { return _mm_movelh_ps(_mm_cvtpd_ps(low), _mm_cvtpd_ps(high)); }
 
+// The halves of four 64-bit lanes.
+TARN_INLINE i32x4 upper_words(i64x2 low, i64x2 high) {
+    return (i32x4)_mm_shuffle_ps((__m128)low, (__m128)high, _MM_SHUFFLE(3, 1, 3, 1));
+}
+TARN_INLINE i32x4 lower_words(i64x2 low, i64x2 high) {
+    return (i32x4)_mm_shuffle_ps((__m128)low, (__m128)high, _MM_SHUFFLE(2, 0, 2, 0));
+}
+
 // Polynomials ------------------------------------------------------------------------------------
 
 // Horner's rule, highest coefficient first: ((c0*x + c1)*x + c2)*x + ...
@@ -125,6 +135,13 @@ TARN_INLINE f32x4 gather(const float* table, i32x4 index) {
 }
 TARN_INLINE i32x4 gather(const std::uint32_t* table, i32x4 index) {
     return (i32x4)u32x4{table[lane(index, 0)], table[lane(index, 1)], table[lane(index, 2)], table[lane(index, 3)]};
+}
+
+TARN_INLINE f64x2 gather_low(const double* table, i32x4 index) {
+    return f64x2{table[lane(index, 0)], table[lane(index, 1)]};
+}
+TARN_INLINE f64x2 gather_high(const double* table, i32x4 index) {
+    return f64x2{table[lane(index, 2)], table[lane(index, 3)]};
 }
 
 // The rows of a table of 8-byte pairs, as one vector of firsts and one of seconds.
