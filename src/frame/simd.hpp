@@ -60,6 +60,7 @@ TARN_INLINE f64x2 xor_bits(f64x2 x, i64x2 pattern) { return from_bits(bits(x) ^ 
 // Between integers and floats --------------------------------------------------------------------
 
 TARN_INLINE f32x4 to_float(i32x4 v) { return __builtin_convertvector(v, f32x4); }
+TARN_INLINE i32x4 truncated(f32x4 x) { return (i32x4)_mm_cvttps_epi32(x); }
 TARN_INLINE f64x2 to_double_low(i32x4 v) { return _mm_cvtepi32_pd((__m128i)v); }
 TARN_INLINE f64x2 to_double_high(i32x4 v) { return _mm_cvtepi32_pd(_mm_unpackhi_epi64((__m128i)v, (__m128i)v)); }
 
@@ -156,6 +157,18 @@ template <class Entry> TARN_INLINE PairLanes gather_pairs(const Entry (*table)[2
     const __m128 low = (__m128)_mm_loadh_pd(_mm_load_sd(row(0)), row(1));
     const __m128 high = (__m128)_mm_loadh_pd(_mm_load_sd(row(2)), row(3));
     return {_mm_shuffle_ps(low, high, _MM_SHUFFLE(2, 0, 2, 0)), _mm_shuffle_ps(low, high, _MM_SHUFFLE(3, 1, 3, 1))};
+}
+
+// The rows of a table of 16 bytes each, by column; the fourth is padding.
+struct TripleLanes {
+    f32x4 first, second, third;
+};
+TARN_INLINE TripleLanes gather_triples(const float (*table)[4], i32x4 index) {
+    const auto row = [&](int i) __attribute__((always_inline)) { return _mm_load_ps(table[lane(index, i)]); };
+    const __m128 a = row(0), b = row(1), c = row(2), d = row(3);
+    const __m128 ab = _mm_unpacklo_ps(a, b), cd = _mm_unpacklo_ps(c, d);
+    return {_mm_movelh_ps(ab, cd), _mm_movehl_ps(cd, ab),
+            _mm_movelh_ps(_mm_unpackhi_ps(a, b), _mm_unpackhi_ps(c, d))};
 }
 
 // Special-lane tests -----------------------------------------------------------------------------
