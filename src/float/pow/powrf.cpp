@@ -14,7 +14,7 @@ struct Powrf : Kernel<float(float, float)> {
     static constexpr auto callout = callout::powrf;
 
     static TARN_INLINE auto fast(f32x4 x, f32x4 y) {
-        return split_power<RealExponentExp>(x, y, halves(y), splat(0.0f));
+        return split_power<RealExponentExp>(x, split_log(x), y, halves(y), splat(0.0f));
     }
 };
 

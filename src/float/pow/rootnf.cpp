@@ -15,12 +15,13 @@ struct Rootnf : Kernel<float(float, std::int32_t)> {
     static constexpr auto callout = callout::rootnf;
 
     static TARN_INLINE auto fast(f32x4 x, i32x4 n) {
+        const Split log = split_log(x);
         const f32x4 one = splat(1.0f), divisor = to_float(n);
         const f32x4 y = one / divisor;
         const Split y_halves = halves(y);
         const auto [back, back_tail] = exact_product(y, y_halves, divisor, halves(divisor));
         const f32x4 y_tail = ((one - back) - back_tail) * y;
-        return split_power<IntegerExponentExp>(x, y, y_halves, y_tail);
+        return split_power<IntegerExponentExp>(x, log, y, y_halves, y_tail);
     }
 };
 

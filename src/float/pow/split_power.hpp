@@ -79,15 +79,15 @@ struct IntegerExponentExp {
     static constexpr std::uint32_t bound = 0x42AE9A00;  // 87.30078125
 };
 
-// x^y of a y in two parts, with its halves. An infinite or NaN y, and one too large to be halved, leaves
+// x^y from ln x and a y in two parts, with its halves. An infinite or NaN y, and one too large to be halved, leaves
 // an infinity or NaN in the exponent, which is tested as an integer.
-template <class Exp> TARN_INLINE Flagged<f32x4, i32x4> split_power(f32x4 x, f32x4 y, const Split& y_halves, f32x4 y_tail) {
+template <class Exp>
+TARN_INLINE Flagged<f32x4, i32x4> split_power(f32x4 x, const Split& log, f32x4 y, const Split& y_halves, f32x4 y_tail) {
     const f32x4 log2_e = splat_f32(0x3FB8AA3B);    // 1.4426950216293335
     const f32x4 shifter = splat_f32(0x4B400000);   // 12582912.0 = 1.5 * 2^23
     const f32x4 ln2_head = splat_f32(0x3F317200);  // 0.693145751953125
     const f32x4 ln2_tail = splat_f32(0x35BFBE8E);  // 1.428606765330187e-06
 
-    const Split log = split_log(x);
     const auto [z, rounding] = exact_product(log.head, halves(log.head), y, y_halves);
     const f32x4 z_tail = rounding + (log.tail * y + log.head * y_tail);
 
