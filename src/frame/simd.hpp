@@ -61,6 +61,7 @@ TARN_INLINE f64x2 xor_bits(f64x2 x, i64x2 pattern) { return from_bits(bits(x) ^ 
 
 TARN_INLINE f32x4 to_float(i32x4 v) { return __builtin_convertvector(v, f32x4); }
 TARN_INLINE i32x4 truncated(f32x4 x) { return (i32x4)_mm_cvttps_epi32(x); }
+TARN_INLINE i64x2 to_long_low(i32x4 v) { return (i64x2)_mm_cvtepi32_epi64((__m128i)v); }
 TARN_INLINE f64x2 to_double_low(i32x4 v) { return _mm_cvtepi32_pd((__m128i)v); }
 TARN_INLINE f64x2 to_double_high(i32x4 v) { return _mm_cvtepi32_pd(_mm_unpackhi_epi64((__m128i)v, (__m128i)v)); }
 

@@ -15,7 +15,10 @@ namespace {
 #include "tables/powf_exp2.inc"
 #include "tables/powf_logs.inc"
 
-struct Powf : Kernel<float(float, float)> {
+// Four lanes at a time as two halves, or, for the widths that have no more, two lanes.
+template <int group_lanes> struct Powf : Kernel<float(float, float)> {
+    static constexpr int lanes = group_lanes;
+    static constexpr bool two_halves = lanes == 4;
     static constexpr auto callout = callout::powf;
 
     static constexpr f64x2 ln2 = splat_f64(0x3FE62E42FEFA39EF);       // 0.6931471805599453
@@ -55,15 +58,20 @@ struct Powf : Kernel<float(float, float)> {
 
         const f64x2 z_low = log_product(widen_low(m), widen_low(c), gather_low(powf_logs, row), to_double_low(k),
                                         widen_low(y));
-        const f64x2 z_high = log_product(widen_high(m), widen_high(c), gather_high(powf_logs, row),
-                                         to_double_high(k), widen_high(y));
+        const f64x2 z_high = two_halves ? log_product(widen_high(m), widen_high(c), gather_high(powf_logs, row),
+                                                      to_double_high(k), widen_high(y))
+                                        : z_low;
         const Exponent low = split(z_low), high = split(z_high);
         const i32x4 j = lower_words(bits(low.n), bits(high.n)) & splat(2047);
-        const f32x4 power = narrow(exp2_of(low, gather_low(powf_exp2, j)), exp2_of(high, gather_high(powf_exp2, j)));
+        const f64x2 power_low = exp2_of(low, gather_low(powf_exp2, j));
+        const f64x2 power_high = two_halves ? exp2_of(high, gather_high(powf_exp2, j)) : power_low;
 
         // An infinite or NaN y makes z one.
         const i32x4 size = upper_words(bits(z_low), bits(z_high)) & ~sign_mask_f32;
-        return Flagged{power, not_below_largest_normal(x) | (size > bound)};
+        const i32x4 special = not_below_largest_normal(x) | (size > bound);
+        const f32x4 power = narrow(power_low, power_high);
+        if constexpr (two_halves) return Flagged{power, special};
+        else return Flagged{power, to_long_low(special)};
     }
 
 private:
@@ -82,5 +90,10 @@ struct PowfNative : Kernel<float(float, float)> {
 }  // namespace
 }  // namespace tarn
 
-TARN_EXPORT(binary, powf, full, tarn::Powf)
+TARN_EXPORT_WIDTH(binary, powf, 1, full, tarn::Powf<2>)
+TARN_EXPORT_WIDTH(binary, powf, 2, full, tarn::Powf<2>)
+TARN_EXPORT_WIDTH(binary, powf, 3, full, tarn::Powf<4>)
+TARN_EXPORT_WIDTH(binary, powf, 4, full, tarn::Powf<4>)
+TARN_EXPORT_WIDTH(binary, powf, 8, full, tarn::Powf<4>)
+TARN_EXPORT_WIDTH(binary, powf, 16, full, tarn::Powf<4>)
 TARN_EXPORT(binary, powf, native, tarn::PowfNative)
