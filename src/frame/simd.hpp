@@ -129,21 +129,31 @@ template <class V, class... More> TARN_INLINE V horner(V x, V leading, V next, M
 
 // Table rows -------------------------------------------------------------------------------------
 
-TARN_INLINE std::uint32_t lane(i32x4 v, int i) { return static_cast<std::uint32_t>(v[i]); }
+// Four row numbers, moved to general registers two at a time.
+struct Rows {
+    std::uint64_t row[4];
+};
+TARN_INLINE Rows rows(i32x4 index) {
+    const auto low = static_cast<std::uint64_t>(((i64x2)index)[0]), high = static_cast<std::uint64_t>(((i64x2)index)[1]);
+    return {{low & 0xFFFFFFFF, low >> 32, high & 0xFFFFFFFF, high >> 32}};
+}
 
 // table[index] in each lane.
 TARN_INLINE f32x4 gather(const float* table, i32x4 index) {
-    return f32x4{table[lane(index, 0)], table[lane(index, 1)], table[lane(index, 2)], table[lane(index, 3)]};
+    const auto [a, b, c, d] = rows(index).row;
+    return f32x4{table[a], table[b], table[c], table[d]};
 }
 TARN_INLINE i32x4 gather(const std::uint32_t* table, i32x4 index) {
-    return (i32x4)u32x4{table[lane(index, 0)], table[lane(index, 1)], table[lane(index, 2)], table[lane(index, 3)]};
+    const auto [a, b, c, d] = rows(index).row;
+    return (i32x4)u32x4{table[a], table[b], table[c], table[d]};
 }
-
 TARN_INLINE f64x2 gather_low(const double* table, i32x4 index) {
-    return f64x2{table[lane(index, 0)], table[lane(index, 1)]};
+    const auto [a, b, c, d] = rows(index).row;
+    return f64x2{table[a], table[b]};
 }
 TARN_INLINE f64x2 gather_high(const double* table, i32x4 index) {
-    return f64x2{table[lane(index, 2)], table[lane(index, 3)]};
+    const auto [a, b, c, d] = rows(index).row;
+    return f64x2{table[c], table[d]};
 }
 
 // The rows of a table of 8-byte pairs, as one vector of firsts and one of seconds.
@@ -152,11 +162,12 @@ struct PairLanes {
 };
 template <class Entry> TARN_INLINE PairLanes gather_pairs(const Entry (*table)[2], i32x4 index) {
     static_assert(sizeof(Entry) == 4);
-    const auto row = [&](int i) __attribute__((always_inline)) {
-        return reinterpret_cast<const double*>(table[lane(index, i)]);
+    const auto [a, b, c, d] = rows(index).row;
+    const auto at = [&](std::uint64_t row) __attribute__((always_inline)) {
+        return reinterpret_cast<const double*>(table[row]);
     };
-    const __m128 low = (__m128)_mm_loadh_pd(_mm_load_sd(row(0)), row(1));
-    const __m128 high = (__m128)_mm_loadh_pd(_mm_load_sd(row(2)), row(3));
+    const __m128 low = (__m128)_mm_loadh_pd(_mm_load_sd(at(a)), at(b));
+    const __m128 high = (__m128)_mm_loadh_pd(_mm_load_sd(at(c)), at(d));
     return {_mm_shuffle_ps(low, high, _MM_SHUFFLE(2, 0, 2, 0)), _mm_shuffle_ps(low, high, _MM_SHUFFLE(3, 1, 3, 1))};
 }
 
@@ -165,8 +176,9 @@ struct TripleLanes {
     f32x4 first, second, third;
 };
 TARN_INLINE TripleLanes gather_triples(const float (*table)[4], i32x4 index) {
-    const auto row = [&](int i) __attribute__((always_inline)) { return _mm_load_ps(table[lane(index, i)]); };
-    const __m128 a = row(0), b = row(1), c = row(2), d = row(3);
+    const auto [i, j, k, l] = rows(index).row;
+    const __m128 a = _mm_load_ps(table[i]), b = _mm_load_ps(table[j]);
+    const __m128 c = _mm_load_ps(table[k]), d = _mm_load_ps(table[l]);
     const __m128 ab = _mm_unpacklo_ps(a, b), cd = _mm_unpacklo_ps(c, d);
     return {_mm_movelh_ps(ab, cd), _mm_movehl_ps(cd, ab),
             _mm_movelh_ps(_mm_unpackhi_ps(a, b), _mm_unpackhi_ps(c, d))};
