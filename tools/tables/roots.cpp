@@ -7,24 +7,22 @@ namespace {
 // The middle of the j-th of 32 equal parts of [1, 2).
 Real middle(int j) { return Real(1) + Real(2 * j + 1) / Real(64); }
 
-// Cut, so that the second of the pair is not negative.
-Row cut_pair(const Real& v) {
+// Row 32 rem + j: the root as a cut number and what the cut leaves, which is not negative, and -1/c.
+Row root_row(int row, Real (*root)(const Real&)) {
+    const Real c = middle(row % 32), v = root(Real(1 << row / 32) * c);
     const float high = v.float_toward_zero();
-    return {high, (v - Real(high)).nearest_float()};
+    return {high, (v - Real(high)).nearest_float(), (Real(-1) / c).nearest_float(), 0.0f};
 }
 
-// Row 32 rem + j.
-Real root_argument(int row) { return Real(1 << row / 32) * middle(row % 32); }
-
 const Register root_tables({
-    {"cube_root_reciprocals", "row j of 32: -1/c rounded to nearest, c = 1 + j/32 + 1/64.",
-     each_row(32, [](int j) { return Row{(Real(-1) / middle(j)).nearest_float()}; })},
-    {"cube_root_pairs",
-     "row 32 rem + j of 96: (2^rem c)^(1/3) cut to single precision and what the cut leaves, c = 1 + j/32 + 1/64.",
-     each_row(96, [](int row) { return cut_pair(cbrt(root_argument(row))); })},
-    {"reciprocal_cube_root_pairs",
-     "row 32 rem + j of 96: (2^rem c)^(-1/3) cut to single precision and what the cut leaves, c = 1 + j/32 + 1/64.",
-     each_row(96, [](int row) { return cut_pair(Real(1) / cbrt(root_argument(row))); })},
+    {"cube_root_rows",
+     "row 32 rem + j of 96, c = 1 + j/32 + 1/64: (2^rem c)^(1/3) cut to single precision; what the cut leaves; -1/c; "
+     "nothing.",
+     each_row(96, [](int row) { return root_row(row, [](const Real& v) { return cbrt(v); }); })},
+    {"reciprocal_cube_root_rows",
+     "row 32 rem + j of 96, c = 1 + j/32 + 1/64: (2^rem c)^(-1/3) cut to single precision; what the cut leaves; -1/c; "
+     "nothing.",
+     each_row(96, [](int row) { return root_row(row, [](const Real& v) { return Real(1) / cbrt(v); }); })},
 });
 
 }  // namespace

@@ -1,19 +1,19 @@
 // The steps of the cube root and of its reciprocal, for kernels and callouts. x = +-2^(3q + rem - 126) m
 // with rem in 0..2 and c the middle of the 32nd of [1, 2) that holds m; t = (m - c)/c. The root of
-// 2^rem c is a table pair, (1 + t)^(+-1/3) a short series, and the power of two goes into the
-// exponent. No division: -1/c is a table too, and the exponent is divided by 3 with shifts and sums.
+// 2^rem c is a pair in a table row, (1 + t)^(+-1/3) a short series, and the power of two goes into the
+// exponent. No division: -1/c stands in the same row, and the exponent is divided by 3 with shifts and
+// sums.
 #pragma once
 
 #include "frame/simd.hpp"
 
 namespace tarn {
 
-#include "tables/cube_root_pairs.inc"
-#include "tables/cube_root_reciprocals.inc"
-#include "tables/reciprocal_cube_root_pairs.inc"
+#include "tables/cube_root_rows.inc"
+#include "tables/reciprocal_cube_root_rows.inc"
 
 struct CubeRoot {
-    static constexpr const auto& pairs = cube_root_pairs;
+    static constexpr const auto& rows = cube_root_rows;
     static constexpr f32x4 c4 = splat_f32(0xBD288F47);  // -0.041152264922857285 = -10/243
     static constexpr f32x4 c3 = splat_f32(0x3D7CD6EA);  // 0.06172839552164078 = 5/81
     static constexpr f32x4 c2 = splat_f32(0xBDE38E39);  // -0.1111111119389534 = -1/9
@@ -23,7 +23,7 @@ struct CubeRoot {
 };
 
 struct ReciprocalCubeRoot {
-    static constexpr const auto& pairs = reciprocal_cube_root_pairs;
+    static constexpr const auto& rows = reciprocal_cube_root_rows;
     static constexpr f32x4 c4 = splat_f32(0x3E137D5E);  // 0.14403292536735535 = 35/243
     static constexpr f32x4 c3 = splat_f32(0xBE30FCD7);  // -0.17283950746059418 = -14/81
     static constexpr f32x4 c2 = splat_f32(0x3E638E39);  // 0.2222222238779068 = 2/9
@@ -45,10 +45,10 @@ template <class Root, bool short_series = false> TARN_INLINE f32x4 cube_root_ste
     const i32x4 rem = e - splat(1) - (q + q + q);
 
     const i32x4 row = ((rem << 5) + (shift_right_logical(b, 18) & splat(31))) & ~special;
-    const auto [table_high, table_low] = gather_pairs(Root::pairs, row);
+    const auto [table_high, table_low, minus_reciprocal] = gather_triples(Root::rows, row);
     const f32x4 minus_m = from_bits((b & splat(0x007FFFFF)) | splat_i32(0xBF800000));
     const f32x4 minus_c = from_bits((b & splat(0x007E0000)) | splat_i32(0xBF820000));
-    const f32x4 t = (minus_m - minus_c) * gather(cube_root_reciprocals, row & splat(31));
+    const f32x4 t = (minus_m - minus_c) * minus_reciprocal;
 
     const f32x4 scale = from_bits((Root::exponent(q) | sign) << 23);
     const f32x4 high = table_high * scale, low = table_low * scale;
