@@ -23,12 +23,16 @@ struct Log1pf : Kernel<float(float)> {
     static constexpr f32x4 c3 = splat_f32(0x3EAAAB39);        // 0.33333757519721985
     static constexpr f32x4 c2 = splat_f32(0xBF000036);        // -0.5000032186508179
     static constexpr f32x4 small = splat_f32(0x39800000);     // 2^-12: 1 + x needs no cut
-    static constexpr f32x4 lowest = splat_f32(0xBF7FFFFF);    // -0.9999999403953552
-    static constexpr f32x4 highest = splat_f32(0x7A800000);   // 2^118
+
+    // 1 + x outside [2^-24, 2^118] in one wrapping sum: x <= -1, x above 2^118, infinities and NaNs.
+    static TARN_INLINE i32x4 outside(f32x4 sum) {
+        return (i32x4)((u32x4)sum - (u32x4)splat_i32(0xB3800000)) > splat_i32(0xC7000000);
+    }
 
     static TARN_INLINE auto fast(f32x4 x) {
         const f32x4 larger = max(one, x), smaller = min(one, x);
-        const f32x4 s = from_bits(bits(larger + smaller) & ((abs(x) < small) | splat_i32(0xFFFFFF00)));
+        const f32x4 whole = larger + smaller;
+        const f32x4 s = from_bits(bits(whole) & ((abs(x) < small) | splat_i32(0xFFFFFF00)));
         const f32x4 e = (larger - s) + smaller;
 
         const f32x4 m_256th = from_bits((bits(s) & splat_i32(0x007FFFFF)) | splat_i32(0x3B800000));
@@ -46,7 +50,7 @@ struct Log1pf : Kernel<float(float)> {
         const f32x4 sum = a + R;
         const f32x4 sum_error = R - (sum - a);
         const f32x4 y = (((k * ln2_tail + tails) + sum_error) + p) + sum;
-        return Flagged{or_bits(y, sign_bit(x)), (x < lowest) | ~(x <= highest)};
+        return Flagged{or_bits(y, sign_bit(x)), outside(whole)};
     }
 };
 
