@@ -2,6 +2,8 @@
 // Each takes a pointer to every operand, inputs first, and returns a status.
 #pragma once
 
+#include <cstdint>
+
 namespace tarn::callout {
 
 enum Status : int {
@@ -15,8 +17,15 @@ enum Status : int {
 #pragma GCC visibility push(hidden)
 
 using UnaryFloat = int(const float* x, float* result);
+using BinaryFloat = int(const float* x, const float* y, float* result);
+using FloatAndInt = int(const float* x, const std::int32_t* n, float* result);
 
 UnaryFloat expf, exp2f, exp10f, expm1f;
+UnaryFloat logf, log2f, log10f, log1pf;
+UnaryFloat invf, sqrtf, rsqrtf, cbrtf, rcbrtf;
+BinaryFloat divf, hypotf;
+BinaryFloat powf, powrf;
+FloatAndInt pownf, rootnf;
 
 #pragma GCC visibility pop
 

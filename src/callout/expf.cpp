@@ -36,6 +36,10 @@ double subnormal(double s, double hi, int exponent) {
 int exp_of_finite(double X, float* result) {
     if (!(X <= largest)) return give(result, overflowed(), overflow);
     if (!(X >= smallest)) return give(result, underflowed(), underflow);
+    return exp_in_range(X, result);
+}
+
+int exp_in_range(double X, float* result) {
     const auto [low_bits, n] = round_by_shifter(X * sixtyfour_log2_e, round_shifter);
     const auto [row, exponent] = sixtyfourths(low_bits);
     const double r = (X - n * ln2_64th_head) - n * ln2_64th_tail;

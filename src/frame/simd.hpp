@@ -57,6 +57,14 @@ TARN_INLINE f64x2 or_bits(f64x2 x, i64x2 pattern) { return from_bits(bits(x) | p
 TARN_INLINE f32x4 xor_bits(f32x4 x, i32x4 pattern) { return from_bits(bits(x) ^ pattern); }
 TARN_INLINE f64x2 xor_bits(f64x2 x, i64x2 pattern) { return from_bits(bits(x) ^ pattern); }
 
+// Between integers and floats --------------------------------------------------------------------
+
+TARN_INLINE f32x4 to_float(i32x4 v) { return __builtin_convertvector(v, f32x4); }
+TARN_INLINE i32x4 truncated(f32x4 x) { return (i32x4)_mm_cvttps_epi32(x); }
+TARN_INLINE i64x2 to_long_low(i32x4 v) { return (i64x2)_mm_cvtepi32_epi64((__m128i)v); }
+TARN_INLINE f64x2 to_double_low(i32x4 v) { return _mm_cvtepi32_pd((__m128i)v); }
+TARN_INLINE f64x2 to_double_high(i32x4 v) { return _mm_cvtepi32_pd(_mm_unpackhi_epi64((__m128i)v, (__m128i)v)); }
+
 // Choice -----------------------------------------------------------------------------------------
 
 // Lane by lane: `yes` where the mask lane is all ones, else `no`.
@@ -103,6 +111,14 @@ TARN_INLINE f64x2 widen_low(f32x4 x) { return _mm_cvtps_pd(x); }
 TARN_INLINE f64x2 widen_high(f32x4 x) { return _mm_cvtps_pd(_mm_movehl_ps(x, x)); }
 TARN_INLINE f32x4 narrow(f64x2 low, f64x2 high) { return _mm_movelh_ps(_mm_cvtpd_ps(low), _mm_cvtpd_ps(high)); }
 
+// The halves of four 64-bit lanes.
+TARN_INLINE i32x4 upper_words(i64x2 low, i64x2 high) {
+    return (i32x4)_mm_shuffle_ps((__m128)low, (__m128)high, _MM_SHUFFLE(3, 1, 3, 1));
+}
+TARN_INLINE i32x4 lower_words(i64x2 low, i64x2 high) {
+    return (i32x4)_mm_shuffle_ps((__m128)low, (__m128)high, _MM_SHUFFLE(2, 0, 2, 0));
+}
+
 // Polynomials ------------------------------------------------------------------------------------
 
 // Horner's rule, highest coefficient first: ((c0*x + c1)*x + c2)*x + ...
@@ -113,14 +129,31 @@ template <class V, class... More> TARN_INLINE V horner(V x, V leading, V next, M
 
 // Table rows -------------------------------------------------------------------------------------
 
-TARN_INLINE std::uint32_t lane(i32x4 v, int i) { return static_cast<std::uint32_t>(v[i]); }
+// Four row numbers, moved to general registers two at a time.
+struct Rows {
+    std::uint64_t row[4];
+};
+TARN_INLINE Rows rows(i32x4 index) {
+    const auto low = static_cast<std::uint64_t>(((i64x2)index)[0]), high = static_cast<std::uint64_t>(((i64x2)index)[1]);
+    return {{low & 0xFFFFFFFF, low >> 32, high & 0xFFFFFFFF, high >> 32}};
+}
 
 // table[index] in each lane.
 TARN_INLINE f32x4 gather(const float* table, i32x4 index) {
-    return f32x4{table[lane(index, 0)], table[lane(index, 1)], table[lane(index, 2)], table[lane(index, 3)]};
+    const auto [a, b, c, d] = rows(index).row;
+    return f32x4{table[a], table[b], table[c], table[d]};
 }
 TARN_INLINE i32x4 gather(const std::uint32_t* table, i32x4 index) {
-    return (i32x4)u32x4{table[lane(index, 0)], table[lane(index, 1)], table[lane(index, 2)], table[lane(index, 3)]};
+    const auto [a, b, c, d] = rows(index).row;
+    return (i32x4)u32x4{table[a], table[b], table[c], table[d]};
+}
+TARN_INLINE f64x2 gather_low(const double* table, i32x4 index) {
+    const auto [a, b, c, d] = rows(index).row;
+    return f64x2{table[a], table[b]};
+}
+TARN_INLINE f64x2 gather_high(const double* table, i32x4 index) {
+    const auto [a, b, c, d] = rows(index).row;
+    return f64x2{table[c], table[d]};
 }
 
 // The rows of a table of 8-byte pairs, as one vector of firsts and one of seconds.
@@ -129,12 +162,26 @@ struct PairLanes {
 };
 template <class Entry> TARN_INLINE PairLanes gather_pairs(const Entry (*table)[2], i32x4 index) {
     static_assert(sizeof(Entry) == 4);
-    const auto row = [&](int i) __attribute__((always_inline)) {
-        return reinterpret_cast<const double*>(table[lane(index, i)]);
+    const auto [a, b, c, d] = rows(index).row;
+    const auto at = [&](std::uint64_t row) __attribute__((always_inline)) {
+        return reinterpret_cast<const double*>(table[row]);
     };
-    const __m128 low = (__m128)_mm_loadh_pd(_mm_load_sd(row(0)), row(1));
-    const __m128 high = (__m128)_mm_loadh_pd(_mm_load_sd(row(2)), row(3));
+    const __m128 low = (__m128)_mm_loadh_pd(_mm_load_sd(at(a)), at(b));
+    const __m128 high = (__m128)_mm_loadh_pd(_mm_load_sd(at(c)), at(d));
     return {_mm_shuffle_ps(low, high, _MM_SHUFFLE(2, 0, 2, 0)), _mm_shuffle_ps(low, high, _MM_SHUFFLE(3, 1, 3, 1))};
+}
+
+// The rows of a table of 16 bytes each, by column; the fourth is padding.
+struct TripleLanes {
+    f32x4 first, second, third;
+};
+TARN_INLINE TripleLanes gather_triples(const float (*table)[4], i32x4 index) {
+    const auto [i, j, k, l] = rows(index).row;
+    const __m128 a = _mm_load_ps(table[i]), b = _mm_load_ps(table[j]);
+    const __m128 c = _mm_load_ps(table[k]), d = _mm_load_ps(table[l]);
+    const __m128 ab = _mm_unpacklo_ps(a, b), cd = _mm_unpacklo_ps(c, d);
+    return {_mm_movelh_ps(ab, cd), _mm_movehl_ps(cd, ab),
+            _mm_movelh_ps(_mm_unpackhi_ps(a, b), _mm_unpackhi_ps(c, d))};
 }
 
 // Special-lane tests -----------------------------------------------------------------------------
@@ -144,6 +191,12 @@ TARN_INLINE i32x4 magnitude_above(f32x4 x, std::uint32_t bound) { return bits(ab
 
 // |x| within the bound as a float comparison turned round, so that a NaN is not within.
 TARN_INLINE i32x4 not_within(f32x4 x, f32x4 bound) { return (i32x4)_mm_cmpnle_ps(abs(x), bound); }
+
+// Anything but a positive normal finite number, in one wrapping sum: zeros, subnormals, negative numbers,
+// infinities and NaNs.
+TARN_INLINE i32x4 not_positive_normal(f32x4 x) {
+    return (i32x4)((u32x4)x + (u32x4)splat_i32(0x00800000)) < splat_i32(0x01000000);
+}
 
 // Floating-point flags ---------------------------------------------------------------------------
 
