@@ -21,6 +21,9 @@ using BinaryFloat = int(const float* x, const float* y, float* result);
 using FloatAndInt = int(const float* x, const std::int32_t* n, float* result);
 
 UnaryFloat expf, exp2f, exp10f, expm1f;
+UnaryFloat sinhf, coshf, tanhf, asinhf, acoshf, atanhf;
+UnaryFloat erfcf, tgammaf, lgammaf;
+int lgammarf(const float* x, float* result, std::int32_t* sign);
 UnaryFloat logf, log2f, log10f, log1pf;
 UnaryFloat invf, sqrtf, rsqrtf, cbrtf, rcbrtf;
 BinaryFloat divf, hypotf;
