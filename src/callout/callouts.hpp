@@ -16,7 +16,15 @@ enum Status : int {
 
 using UnaryFloat = int(const float* x, float* result);
 
+using UnaryFloatPair = int(const float* x, float* result, float* second);
+using BinaryFloat = int(const float* x, const float* y, float* result);
+
 UnaryFloat expf, exp2f, exp10f, expm1f;
+UnaryFloat sinf, cosf, tanf;
+UnaryFloatPair sincosf;
+UnaryFloat sinpif, cospif, tanpif;
+UnaryFloat asinf, acosf, asinpif, acospif, atanpif;
+BinaryFloat atan2f, atan2pif;
 
 #pragma GCC visibility pop
 

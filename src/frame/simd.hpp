@@ -2,6 +2,7 @@
 // each thing that operators cannot say.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <smmintrin.h>
 
@@ -69,6 +70,10 @@ TARN_INLINE i64x2 select(i64x2 mask, i64x2 yes, i64x2 no) {
     return (i64x2)_mm_blendv_epi8((__m128i)no, (__m128i)yes, (__m128i)mask);
 }
 
+// The value where the mask lane is all ones, else +0.
+TARN_INLINE f32x4 where(i32x4 mask, f32x4 x) { return from_bits(bits(x) & mask); }
+TARN_INLINE f64x2 where(i64x2 mask, f64x2 x) { return from_bits(bits(x) & mask); }
+
 // The processor's minimum and maximum: the second operand comes back when either is a NaN or both
 // are zeros, so the order of the operands is part of the result.
 TARN_INLINE f32x4 min(f32x4 x, f32x4 y) { return _mm_min_ps(x, y); }
@@ -123,24 +128,43 @@ TARN_INLINE i32x4 gather(const std::uint32_t* table, i32x4 index) {
     return (i32x4)u32x4{table[lane(index, 0)], table[lane(index, 1)], table[lane(index, 2)], table[lane(index, 3)]};
 }
 
-// The rows of a table of 8-byte pairs, as one vector of firsts and one of seconds.
+// Two neighbouring columns of a table's rows, from `column` on, a vector each.
 struct PairLanes {
     f32x4 first, second;
 };
-template <class Entry> TARN_INLINE PairLanes gather_pairs(const Entry (*table)[2], i32x4 index) {
+template <int column = 0, class Entry, std::size_t columns>
+TARN_INLINE PairLanes gather_pairs(const Entry (*table)[columns], i32x4 index) {
     static_assert(sizeof(Entry) == 4);
     const auto row = [&](int i) __attribute__((always_inline)) {
-        return reinterpret_cast<const double*>(table[lane(index, i)]);
+        return reinterpret_cast<const double*>(table[lane(index, i)] + column);
     };
     const __m128 low = (__m128)_mm_loadh_pd(_mm_load_sd(row(0)), row(1));
     const __m128 high = (__m128)_mm_loadh_pd(_mm_load_sd(row(2)), row(3));
     return {_mm_shuffle_ps(low, high, _MM_SHUFFLE(2, 0, 2, 0)), _mm_shuffle_ps(low, high, _MM_SHUFFLE(3, 1, 3, 1))};
 }
 
+// Four neighbouring columns, from `column` on.
+struct QuadLanes {
+    f32x4 first, second, third, fourth;
+};
+template <int column = 0, class Entry, std::size_t columns>
+TARN_INLINE QuadLanes gather_quads(const Entry (*table)[columns], i32x4 index) {
+    static_assert(sizeof(Entry) == 4);
+    const auto row = [&](int i) __attribute__((always_inline)) {
+        return _mm_loadu_ps(reinterpret_cast<const float*>(table[lane(index, i)] + column));
+    };
+    __m128 a = row(0), b = row(1), c = row(2), d = row(3);
+    _MM_TRANSPOSE4_PS(a, b, c, d);
+    return {a, b, c, d};
+}
+
 // Special-lane tests -----------------------------------------------------------------------------
 
 // Bit pattern of |x| above the bound; infinities and NaNs are above every finite bound.
 TARN_INLINE i32x4 magnitude_above(f32x4 x, std::uint32_t bound) { return bits(abs(x)) > splat_i32(bound); }
+
+// Infinities and NaNs.
+TARN_INLINE i32x4 not_finite(f32x4 x) { return magnitude_above(x, 0x7F7FFFFF); }
 
 // |x| within the bound as a float comparison turned round, so that a NaN is not within.
 TARN_INLINE i32x4 not_within(f32x4 x, f32x4 bound) { return (i32x4)_mm_cmpnle_ps(abs(x), bound); }
