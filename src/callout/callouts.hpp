@@ -19,6 +19,7 @@ enum Status : int {
 using UnaryFloat = int(const float* x, float* result);
 using BinaryFloat = int(const float* x, const float* y, float* result);
 using FloatAndInt = int(const float* x, const std::int32_t* n, float* result);
+using UnaryFloatPair = int(const float* x, float* result, float* second);
 
 UnaryFloat expf, exp2f, exp10f, expm1f;
 UnaryFloat sinhf, coshf, tanhf, asinhf, acoshf, atanhf;
@@ -29,6 +30,11 @@ UnaryFloat invf, sqrtf, rsqrtf, cbrtf, rcbrtf;
 BinaryFloat divf, hypotf;
 BinaryFloat powf, powrf;
 FloatAndInt pownf, rootnf;
+UnaryFloat sinf, cosf, tanf;
+UnaryFloatPair sincosf;
+UnaryFloat sinpif, cospif, tanpif;
+UnaryFloat asinf, acosf, asinpif, acospif, atanpif;
+BinaryFloat atan2f, atan2pif;
 
 #pragma GCC visibility pop
 

@@ -31,10 +31,6 @@ double subnormal(double s, double hi, int exponent) {
     return h * 0x1p-60 + l * 0x1p-60;
 }
 
-}  // namespace
-
-namespace {
-
 // e^X = 2^exponent (s + hi).
 struct ExpParts {
     double s, hi;
@@ -56,12 +52,16 @@ double exp_of(double X) {
     return (s + hi) * power_of_two(exponent);
 }
 
-int exp_of_finite(double X, float* result) {
-    if (!(X <= largest)) return give(result, overflowed(), overflow);
-    if (!(X >= smallest)) return give(result, underflowed(), underflow);
+int exp_in_range(double X, float* result) {
     const auto [s, hi, exponent] = exp_parts(X);
     if (X < smallest_normal) return give(result, subnormal(s, hi, exponent), underflow);
     return give(result, (s + hi) * power_of_two(exponent));
+}
+
+int exp_of_finite(double X, float* result) {
+    if (!(X <= largest)) return give(result, overflowed(), overflow);
+    if (!(X >= smallest)) return give(result, underflowed(), underflow);
+    return exp_in_range(X, result);
 }
 
 int expf(const float* x, float* result) {

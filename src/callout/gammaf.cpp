@@ -38,23 +38,28 @@ TARN_INLINE double floor_of(double X) {
     return _mm_cvtsd_f64(_mm_floor_sd(v, v));
 }
 
-// (x - 1)(x - 2)...(x - count), by two chains.
-double falling(double X, int count) {
+// (x + first)(x + first + step)... of `count` factors, by two chains. x is never moved: it may be small
+// beside 1.
+double product(double X, double first, double step, int count) {
     double even = 1.0, odd = 1.0;
-    int k = 1;
-    for (; k < count; k += 2) {
-        odd *= X - k;
-        even *= X - (k + 1);
+    int k = 0;
+    for (; k + 1 < count; k += 2) {
+        even *= X + first;
+        odd *= X + (first + step);
+        first += 2 * step;
     }
-    return k == count ? odd * (X - k) * even : odd * even;
+    return k < count ? even * (X + first) * odd : even * odd;
 }
+
+// (x - 1)(x - 2)...(x - count).
+double falling(double X, int count) { return product(X, -1.0, -1.0, count); }
 
 double gamma_of(double X) {
     const double whole = floor_of(X);
     const int n = static_cast<int>(whole);
     const double g = paired<14>(gammaf_2_to_3, (X - whole) - 0.5);
     // gamma(x) = (x - 1)...(x - (n - 2)) gamma(2 + f), and the other way round below 2.
-    return n >= 2 ? g * falling(X, n - 2) : g / falling(X + (2 - n), 2 - n);
+    return n >= 2 ? g * falling(X, n - 2) : g / product(X, 0.0, 1.0, 2 - n);
 }
 
 double log_gamma_stirling(double X) {

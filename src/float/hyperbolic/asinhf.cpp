@@ -35,12 +35,13 @@ template <class Form> TARN_INLINE f32x4 log_of_sum(f32x4 w, f32x4 x) {
     const i32x4 is_huge = x > huge;
     const f32x4 larger = max(one, w), smaller = min(one, w);
     const f32x4 whole = larger + smaller;
-    const f32x4 lost = where(~is_huge, smaller - (whole - larger));
+    const f32x4 lost = smaller - (whole - larger);
     const f32x4 sum = select(is_huge, x, whole);
 
-    const i32x4 k = ((bits(sum) + splat_i32(0x004AFB10)) >> 23) - splat(127);
+    const i32x4 k = shift_right_logical(bits(sum) + splat_i32(0x004AFB10), 23) - splat(127);
     const i32x4 exponent = k << 23;
-    const f32x4 f = (from_bits(bits(sum) - exponent) - one) + lost * from_bits(bits(one) - exponent);
+    const f32x4 carried = where(~is_huge, lost * from_bits(bits(one) - exponent));
+    const f32x4 f = (from_bits(bits(sum) - exponent) - one) + carried;
     const f32x4 s = Form::quotient(f, two + f);
     const f32x4 s2 = s * s;
     const f32x4 log_m = f - s * (f - s2 * Form::p(s2));

@@ -17,10 +17,10 @@ struct Tanhf : Kernel<float(float)> {
     static constexpr i32x4 first = splat_i32(0x3CF80000);  // where row 1 would begin, less one part
     static constexpr i32x4 last = splat_i32(0x04280000);   // 133 parts on
 
+    // The cubics of two rows, at two lanes.
     static TARN_INLINE f64x2 cubic(f64x2 a, const double* row0, const double* row1) {
-        const f64x2 low0 = load(row0), low1 = load(row1), high0 = load(row0 + 2), high1 = load(row1 + 2);
-        const f64x2 c0 = first_of(low0, low1), c1 = second_of(low0, low1);
-        const f64x2 c2 = first_of(high0, high1), c3 = second_of(high0, high1);
+        const auto [c0, c1] = columns(row0, row1);
+        const auto [c2, c3] = columns(row0 + 2, row1 + 2);
         return ((c3 * a + c2) * a + c1) * a + c0;
     }
 
@@ -28,9 +28,10 @@ struct Tanhf : Kernel<float(float)> {
         const i32x4 top = bits(x) & splat_i32(0x7FF80000);
         const i32x4 part = top - first;
         const i32x4 row = min(max(part, splat(0)), last) >> 19;
-        const auto at = [&](int i) __attribute__((always_inline)) { return tanhf_cubics[lane(row, i)]; };
+        const auto [i, j, k, l] = rows(row).row;
         const f32x4 a = abs(x);
-        const f32x4 y = narrow(cubic(widen_low(a), at(0), at(1)), cubic(widen_high(a), at(2), at(3)));
+        const f32x4 y = narrow(cubic(widen_low(a), tanhf_cubics[i], tanhf_cubics[j]),
+                               cubic(widen_high(a), tanhf_cubics[k], tanhf_cubics[l]));
         return Flagged{or_bits(y, sign_bit(x)), top > splat_i32(0x7F000000)};
     }
 };
