@@ -2,7 +2,8 @@
 // head that makes k * head exact and a tail. The half form has q of degree 6 and the native form of
 // degree 2, both ln 2 in one piece. No table.
 //
-// WORST
+// Worst error 0.98 ulp at 1.33373; half 3.97 at 0.88279; native 8315 at 0.7788. Zeros, subnormals, negative
+// numbers, infinities and NaNs go to the callout.
 #include "callout/callouts.hpp"
 #include "float/log/two_thirds.hpp"
 #include "frame/exports.hpp"

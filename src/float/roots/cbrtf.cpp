@@ -1,7 +1,7 @@
 // x^(1/3) for normal x of either sign by the steps of cube_root.hpp, a table pair times a series of degree 4;
 // the native form keeps the series' linear term.
 //
-// WORST
+// Worst error 0.52 ulp at 5.9977 times a power of eight; native 356.
 #include "callout/callouts.hpp"
 #include "float/roots/cube_root.hpp"
 #include "frame/exports.hpp"

@@ -1,7 +1,8 @@
 // x / y and 1 / x by the processor's division. The native and half forms use its estimate of the
 // reciprocal; where that would leave the normal range the callout divides.
 //
-// WORST
+// Worst error 0.50 ulp; native and half 4763 (1 / x) and 5238 (x / y) with the estimate of the processor they
+// were measured on. y = +-2^126 is not special, though the estimate of its reciprocal may be a zero.
 #include "callout/callouts.hpp"
 #include "frame/exports.hpp"
 

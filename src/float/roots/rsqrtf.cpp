@@ -2,7 +2,8 @@
 // exact, and t = y^2 x - 1: three terms of the binomial series. The native and half forms are the
 // estimate itself.
 //
-// WORST
+// Worst error 0.98 ulp at 1.27314e-38; native and half 2940 with the estimate of the processor they were
+// measured on.
 #include "callout/callouts.hpp"
 #include "frame/exports.hpp"
 
