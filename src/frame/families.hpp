@@ -65,8 +65,12 @@ struct Family {
     std::vector<Interval> usual{};
     // Where a native form keeps its error; empty means everywhere.
     std::vector<Interval> native_domain{};
+    // Patterns at which the kernels or callouts change their way, whatever the sign.
+    std::vector<std::uint64_t> thresholds{};
     // Magnitudes above which one lane sends the whole call down another path; 0: there are none.
     double switches_above = 0;
+    // A lane with a zero, an infinity or a NaN changes the way of the others in its 16-byte block.
+    bool shares_blocks = false;
 
     bool has(Variant v) const {
         return v == Variant::full || (variants & (v == Variant::native ? native : half)) != 0;

@@ -1,5 +1,6 @@
-// Writes what follows from the table of families: the public header and the version script.
-//   tarn-exports header|map|names > FILE
+// Writes what follows from the table of families: the public header, the version script, the page of
+// measured errors.
+//   tarn-exports header|map|names|accuracy > FILE
 #include <cstdio>
 #include <cstring>
 #include <string>
@@ -183,17 +184,62 @@ void names(const char* indent, const char* end) {
                 for (const int width : widths) std::printf("%s%s%s\n", indent, export_name(f.base, width, v).c_str(), end);
 }
 
+std::string places(const Worst& worst, const Shape& shape) {
+    std::string text;
+    for (std::size_t a = 0; a < worst.at.size(); a++) {
+        char pattern[32];
+        std::snprintf(pattern, sizeof pattern, "%s0x%0*llx", a ? ", " : "", bytes(shape.args[a]) * 2,
+                      static_cast<unsigned long long>(worst.at[a]));
+        text += pattern;
+    }
+    return text;
+}
+
+void accuracy() {
+    std::puts(R"(# Measured errors
+
+The worst error of every export that rounds, in units in the last place (ulp) of the exact result, and the
+input patterns where it occurs. "All inputs" means all 2^32 of a single-precision argument, each result
+compared with MPFR or with a double-precision value first and MPFR where that could decide; other figures
+are the worst of the samples named and of every threshold of the kernels. The tests hold every figure here
+as a limit. Families that are not here give exact or correctly rounded results.
+
+`half` is `native` where it has no line of its own. Written by `tarn-exports accuracy` from the table of
+families.
+)");
+    std::string group;
+    for (const Family& f : families()) {
+        if (f.full.ulp == 0) continue;
+        if (f.group != group) {
+            group = f.group;
+            std::printf("\n## %s\n\n| function | form | OpenCL allows | worst | at | measured over |\n|---|---|---|---|---|---|\n",
+                        group.c_str());
+        }
+        const std::string allowed = f.allowed > 0 ? ulps(f.allowed) : f.allowed == 0 ? "0.5" : "open";
+        const auto line = [&](const std::string& form, const std::string& bound, const Worst& worst) {
+            if (worst.ulp != 0)
+                std::printf("| `%s` | %s | %s | %s | `%s` | %s |\n", f.base.c_str(), form.c_str(), bound.c_str(),
+                            ulps(worst.ulp).c_str(), places(worst, f.shape).c_str(), f.measured.c_str());
+        };
+        line("full", allowed, f.full);
+        for (const auto& [width, worst] : f.width_full) line("full, width " + std::to_string(width), allowed, worst);
+        line("native", "open", f.native_worst);
+        line("half", "8192", f.half_worst);
+    }
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
     if (argc == 2 && !std::strcmp(argv[1], "header")) header();
     else if (argc == 2 && !std::strcmp(argv[1], "names")) names("", "");
+    else if (argc == 2 && !std::strcmp(argv[1], "accuracy")) accuracy();
     else if (argc == 2 && !std::strcmp(argv[1], "map")) {
         std::puts("/* Generated from the table of families by tarn-exports. */\n{\nglobal:");
         names("    ", ";");
         std::puts("local:\n    *;\n};");
     } else {
-        std::fputs("usage: tarn-exports header|map|names\n", stderr);
+        std::fputs("usage: tarn-exports header|map|names|accuracy\n", stderr);
         return 2;
     }
 }

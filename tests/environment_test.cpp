@@ -1,0 +1,115 @@
+// Kernels leave the floating-point environment as they found it, raise the flags that IEEE asks for, and
+// stand whatever rounding mode or flush-to-zero they are called in.
+#include <fenv.h>
+#include <gtest/gtest.h>
+#include <pmmintrin.h>
+#include <xmmintrin.h>
+
+#include "common/truth.hpp"
+#include "samples.hpp"
+
+namespace tarn::test {
+namespace {
+
+// The two control words, put back at the end.
+class Controls {
+public:
+    Controls() : mxcsr_(_mm_getcsr()) { __asm__ volatile("fnstcw %0" : "=m"(x87_)); }
+    ~Controls() {
+        _mm_setcsr(mxcsr_);
+        __asm__ volatile("fldcw %0" : : "m"(x87_));
+    }
+    static unsigned mxcsr() { return _mm_getcsr() & ~static_cast<unsigned>(_MM_EXCEPT_MASK); }
+    static unsigned short x87() {
+        unsigned short word;
+        __asm__ volatile("fnstcw %0" : "=m"(word));
+        return word;
+    }
+
+private:
+    unsigned mxcsr_;
+    unsigned short x87_;
+};
+
+class Environment : public testing::TestWithParam<Member> {};
+
+TEST_P(Environment, ControlWordsComeBack) {
+    const Member& m = GetParam();
+    const auto args = samples(*m.family, 500, 6);
+    const Controls restored;
+    for (const int width : widths) {
+        // Unusual settings, so that a kernel which loads the usual ones is seen.
+        _mm_setcsr((restored.mxcsr() | _MM_ROUND_UP) & ~static_cast<unsigned>(_MM_EXCEPT_MASK));
+        const unsigned short down = 0x067F;
+        __asm__ volatile("fldcw %0" : : "m"(down));
+        const unsigned before = Controls::mxcsr();
+        Lanes result, second;
+        m.at(width)(args, result, &second);
+        EXPECT_EQ(Controls::mxcsr(), before) << m.at(width).name();
+        EXPECT_EQ(Controls::x87(), down) << m.at(width).name();
+    }
+}
+
+// A finite argument with a finite, defined value gives no NaN in any mode.
+TEST_P(Environment, NoNaNFromTheMode) {
+    const Member& m = GetParam();
+    const Truth* truth = truth_of(*m.family);
+    if (!truth || !is_float(m.family->shape.result)) GTEST_SKIP() << "exact: tested against integer arithmetic";
+    std::vector<Lanes> args = samples(*m.family, 2000, 7);
+    const Function f = m.at(4);
+    Lanes nearest, second;
+    f(args, nearest, &second);
+    const unsigned modes[] = {_MM_ROUND_DOWN, _MM_ROUND_UP, _MM_ROUND_TOWARD_ZERO,
+                              _MM_FLUSH_ZERO_ON | _MM_DENORMALS_ZERO_ON};
+    for (const unsigned mode : modes) {
+        Lanes result;
+        {
+            const Controls restored;
+            _mm_setcsr((_mm_getcsr() & ~static_cast<unsigned>(_MM_ROUND_MASK)) | mode);
+            f(args, result, &second);
+        }
+        for (std::size_t i = 0; i < result.size(); i++) {
+            bool normal = true;
+            for (const Lanes& arg : args)
+                if (is_float(arg.type())) {
+                    const double v = value_of(arg.type(), arg.pattern(i));
+                    normal &= arg.type() == Lane::f32 ? std::isnormal(static_cast<float>(v)) : std::isnormal(v);
+                }
+            const double got = value_of(result.type(), result.pattern(i)), was = value_of(nearest.type(), nearest.pattern(i));
+            if (normal && !std::isnan(was))
+                ASSERT_FALSE(std::isnan(got)) << f.name() << '(' << lanes_text(args, i) << ") in mode " << std::hex << mode;
+        }
+    }
+}
+
+// Overflow and underflow are real events. (A special lane may raise more on the fast path, before its
+// callout: flags are a promise that an event is seen, not that none is seen twice.)
+TEST_P(Environment, FlagsTellWhatHappened) {
+    const Member& m = GetParam();
+    const Family& family = *m.family;
+    const Truth* truth = truth_of(family);
+    if (!truth || m.variant != Variant::full || family.shape.args.size() != 1 || family.allowed < 1 || bytes(family.shape.result) != bytes(family.shape.args[0]))
+        GTEST_SKIP() << "full forms of one argument with rounding errors";
+    const Lane type = family.shape.result;
+    const auto args = samples(family, 300, 8);
+    const Function f = m.at(1);
+    for (std::size_t i = 0; i < args[0].size(); i++) {
+        const std::vector<Lanes> lane = where(args, [&](std::size_t k) { return k == i; });
+        const double x = value_of(type, args[0].pattern(i));
+        Lanes result, second;
+        feclearexcept(FE_ALL_EXCEPT);
+        f(lane, result, &second);
+        const int flags = fetestexcept(FE_ALL_EXCEPT);
+        const double y = value_of(type, result.pattern(0));
+        const std::string what = f.name() + '(' + lanes_text(lane, 0) + ')';
+        Real t, argument = exact(type, args[0].pattern(i));
+        truth->first(t.value, &argument);
+        if (std::isinf(y) && std::isfinite(x) && mpfr_number_p(t.value)) EXPECT_TRUE(flags & FE_OVERFLOW) << what;
+        if (y == 0 && !mpfr_zero_p(t.value)) EXPECT_TRUE(flags & FE_UNDERFLOW) << what;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Module, Environment, testing::ValuesIn(members()), [](const auto& info) { return member_name(info); });
+
+}  // namespace
+}  // namespace tarn::test

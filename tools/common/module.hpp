@@ -1,0 +1,87 @@
+// The built module as a user has it: loaded from its file, functions resolved by name and called on
+// arrays of lanes.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "frame/families.hpp"
+
+namespace tarn {
+
+// Lanes of one type in consecutive memory, seen as bit patterns or values.
+class Lanes {
+public:
+    Lanes() = default;
+    Lanes(Lane type, std::size_t count) : type_(type), size_(count), bytes_(count * tarn::bytes(type)) {}
+
+    Lane type() const { return type_; }
+    std::size_t size() const { return size_; }
+    std::byte* data() { return bytes_.data(); }
+    const std::byte* data() const { return bytes_.data(); }
+
+    std::uint64_t pattern(std::size_t i) const {
+        std::uint64_t p = 0;
+        std::memcpy(&p, bytes_.data() + i * tarn::bytes(type_), tarn::bytes(type_));
+        return p;
+    }
+    void set(std::size_t i, std::uint64_t pattern) {
+        std::memcpy(bytes_.data() + i * tarn::bytes(type_), &pattern, tarn::bytes(type_));
+    }
+
+private:
+    Lane type_ = Lane::none;
+    std::size_t size_ = 0;
+    std::vector<std::byte> bytes_;
+};
+
+// A pattern of a lane type as a number (exact for all but the largest 64-bit integers), and back.
+double value_of(Lane type, std::uint64_t pattern);
+std::uint64_t pattern_of(Lane type, double value);
+
+// One export. Arrays hold any number of lanes; whole calls of `width` lanes are made until they are
+// used up, a rest is filled with the last lane. Lane 3 of width 3 holds a NaN in every call.
+class Function {
+public:
+    const Family& family() const { return *of_.family; }
+    int width() const { return of_.width; }
+    Variant variant() const { return of_.variant; }
+    std::string name() const { return export_name(of_.family->base, of_.width, of_.variant); }
+
+    // `second` where the family has a second result.
+    void operator()(const std::vector<Lanes>& args, Lanes& result, Lanes* second = nullptr) const;
+
+    // The address, for timing and for calls at the C level.
+    void* address() const { return address_; }
+
+    // Makes `calls` calls on packed vectors, for timing: nothing is checked or filled.
+    using Batch = void (*)(void* address, const std::byte* const* args, std::byte* result, std::byte* second,
+                           std::size_t calls);
+    Batch batch() const { return batch_; }
+
+private:
+    friend class Module;
+    Export of_{};
+    void* address_ = nullptr;
+    Batch batch_ = nullptr;
+};
+
+class Module {
+public:
+    // The module beside the build that this program belongs to, or the one named.
+    explicit Module(const std::string& path = built_path());
+    static std::string built_path();
+
+    std::optional<Function> find(const Export& e) const;
+    std::optional<Function> find(const std::string& base, int width, Variant v = Variant::full) const;
+    bool has(const Family& f) const { return find({&f, 4, Variant::full}).has_value(); }
+
+private:
+    void* handle_;
+};
+
+}  // namespace tarn
