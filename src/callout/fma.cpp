@@ -100,10 +100,11 @@ template <> int fma(const double* x, const double* y, const double* z, double* r
     }
     if (__builtin_expect(((a.integer & b.integer) & implicit_bit<double>) == 0, 0)) a = normalised(*x), b = normalised(*y);
 
-    // The window ends at the last bit of the product, or so far below z that the product is out of reach.
+    // The window ends one bit below the product, so that a sticky bit is never the product's own, or so far
+    // below z that the product is out of reach.
     constexpr int reach = 73;
-    Wide product = static_cast<Wide>(a.integer) * b.integer, addend = c.integer;
-    int exponent = a.exponent + b.exponent;
+    Wide product = static_cast<Wide>(a.integer) * (b.integer << 1), addend = c.integer;
+    int exponent = a.exponent + b.exponent - 1;
     const int distance = c.exponent - exponent;
     if (__builtin_expect(distance < 0, 0)) {
         addend = shifted_right(addend, -distance);
