@@ -174,5 +174,9 @@ TARN_INLINE double opaque(double x) {
     asm volatile("" : "+x"(x));
     return x;
 }
+TARN_INLINE std::uint64_t opaque(std::uint64_t v) {
+    asm volatile("" : "+r"(v));
+    return v;
+}
 
 }  // namespace tarn
