@@ -1,0 +1,18 @@
+# make install: the module, its header, a CMake package and a pkg-config file.
+include(GNUInstallDirs)
+include(CMakePackageConfigHelpers)
+
+target_include_directories(ocl_tarn_k1 INTERFACE $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>
+                                                 $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>)
+install(TARGETS ocl_tarn_k1 EXPORT ocl_tarn_k1 LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+install(FILES include/ocl_tarn_k1.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+
+set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/ocl_tarn_k1)
+install(EXPORT ocl_tarn_k1 NAMESPACE ocl_tarn_k1:: FILE ocl_tarn_k1-config.cmake DESTINATION ${package_dir})
+write_basic_package_version_file(${CMAKE_CURRENT_BINARY_DIR}/ocl_tarn_k1-config-version.cmake COMPATIBILITY SameMajorVersion)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/ocl_tarn_k1-config-version.cmake DESTINATION ${package_dir})
+
+# Found from where the file lies, so that an installed tree can be moved.
+file(RELATIVE_PATH TARN_PC_TO_PREFIX /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
+configure_file(cmake/ocl_tarn_k1.pc.in ocl_tarn_k1.pc @ONLY)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/ocl_tarn_k1.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

@@ -61,7 +61,7 @@ TEST_P(Accuracy, StaysWithinTheStatedWorst) {
     for (const int width : own) {
         const double stated = family.worst(m.variant, width).ulp;
         ASSERT_GT(stated, 0) << m.name() << " has no measured worst error in its row";
-        if (m.variant == Variant::full && family.allowed > 0) EXPECT_LE(stated, family.allowed);
+        if (m.variant == Variant::full && family.allowed > 0) { EXPECT_LE(stated, family.allowed); }
         // Rows state four digits.
         for (const auto& set : by_path(family, args)) expect_within(m.at(width), set, stated * 1.0005 + 1e-6);
     }
@@ -92,8 +92,11 @@ TEST_P(Accuracy, WorstIsWhereItIsStated) {
             error = std::max(error, ulp_error(second.type(), second.pattern(0), t));
         }
         // The processor's own approximations may differ from those where a native form was measured.
-        if (m.variant == Variant::full) EXPECT_NEAR(error, worst.ulp, worst.ulp * 0.001 + 0.001) << m.at(width).name();
-        else EXPECT_LE(error, worst.ulp * 1.0005) << m.at(width).name();
+        if (m.variant == Variant::full) {
+            EXPECT_NEAR(error, worst.ulp, worst.ulp * 0.001 + 0.001) << m.at(width).name();
+        } else {
+            EXPECT_LE(error, worst.ulp * 1.0005) << m.at(width).name();
+        }
     }
 }
 

@@ -147,7 +147,7 @@ void Function::operator()(const std::vector<Lanes>& args, Lanes& result, Lanes* 
 
     result = Lanes(shape.result, n);
     for (std::size_t i = 0; i < n; i++) result.set(i, r.pattern(i / width * stored + i % width));
-    if (second) {
+    if (second && shape.second != Lane::none) {
         *second = Lanes(shape.second, n);
         for (std::size_t i = 0; i < n; i++) second->set(i, s.pattern(i / width * stored + i % width));
     }

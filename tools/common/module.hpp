@@ -24,16 +24,20 @@ public:
     std::byte* data() { return bytes_.data(); }
     const std::byte* data() const { return bytes_.data(); }
 
-    std::uint64_t pattern(std::size_t i) const {
-        std::uint64_t p = 0;
-        std::memcpy(&p, bytes_.data() + i * tarn::bytes(type_), tarn::bytes(type_));
-        return p;
-    }
+    std::uint64_t pattern(std::size_t i) const { return wide() ? load<std::uint64_t>(i) : load<std::uint32_t>(i); }
     void set(std::size_t i, std::uint64_t pattern) {
-        std::memcpy(bytes_.data() + i * tarn::bytes(type_), &pattern, tarn::bytes(type_));
+        if (wide()) std::memcpy(bytes_.data() + i * 8, &pattern, 8);
+        else std::memcpy(bytes_.data() + i * 4, &pattern, 4);
     }
 
 private:
+    bool wide() const { return tarn::bytes(type_) == 8; }
+    template <class Word> Word load(std::size_t i) const {
+        Word word;
+        std::memcpy(&word, bytes_.data() + i * sizeof word, sizeof word);
+        return word;
+    }
+
     Lane type_ = Lane::none;
     std::size_t size_ = 0;
     std::vector<std::byte> bytes_;
