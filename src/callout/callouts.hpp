@@ -36,6 +36,24 @@ UnaryFloat sinpif, cospif, tanpif;
 UnaryFloat asinf, acosf, asinpif, acospif, atanpif;
 BinaryFloat atan2f, atan2pif;
 
+// The lane-wise families and the remainders, in both precisions.
+template <class Real> int fmin(const Real* x, const Real* y, Real* result);
+template <class Real> int fmax(const Real* x, const Real* y, Real* result);
+template <class Real> int maxmag(const Real* x, const Real* y, Real* result);
+template <class Real> int minmag(const Real* x, const Real* y, Real* result);
+template <class Real> int fdim(const Real* x, const Real* y, Real* result);
+template <class Real> int nextafter(const Real* x, const Real* y, Real* result);
+template <class Real> int frexp(const Real* x, Real* significand, int* exponent);
+template <class Real> int ilogb(const Real* x, int* result);
+template <class Real> int logb(const Real* x, Real* result);
+template <class Real> int ldexp(const Real* x, const int* n, Real* result);
+template <class Real> int fract(const Real* x, Real* fraction, Real* floor);
+template <class Real> int modf(const Real* x, Real* fraction, Real* integral);
+template <class Real> int fmod(const Real* x, const Real* y, Real* result);
+template <class Real> int remainder(const Real* x, const Real* y, Real* result);
+template <class Real> int remquo(const Real* x, const Real* y, Real* result, int* quotient);
+template <class Real> int fma(const Real* x, const Real* y, const Real* z, Real* result);
+
 #pragma GCC visibility pop
 
 }  // namespace tarn::callout

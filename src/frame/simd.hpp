@@ -117,6 +117,23 @@ TARN_INLINE f32x4 rsqrt_estimate(f32x4 x) { return _mm_rsqrt_ps(x); }
 TARN_INLINE f64x2 widen_low(f32x4 x) { return _mm_cvtps_pd(x); }
 TARN_INLINE f64x2 widen_high(f32x4 x) { return _mm_cvtps_pd(_mm_movehl_ps(x, x)); }
 TARN_INLINE f32x4 narrow(f64x2 low, f64x2 high) { return _mm_movelh_ps(_mm_cvtpd_ps(low), _mm_cvtpd_ps(high)); }
+TARN_INLINE f32x4 narrow(f64x2 x) { return _mm_cvtpd_ps(x); }  // in the low half
+
+// The halves of two 64-bit lanes, in the low half of a block; and 32-bit lanes put into upper halves.
+TARN_INLINE i32x4 low_words(i64x2 v) { return (i32x4)_mm_shuffle_epi32((__m128i)v, _MM_SHUFFLE(2, 0, 2, 0)); }
+TARN_INLINE i32x4 high_words(i64x2 v) { return (i32x4)_mm_shuffle_epi32((__m128i)v, _MM_SHUFFLE(3, 1, 3, 1)); }
+TARN_INLINE i64x2 as_high_words(i32x4 v) { return (i64x2)_mm_unpacklo_epi32(_mm_setzero_si128(), (__m128i)v); }
+TARN_INLINE i64x2 widen_unsigned(i32x4 v) { return (i64x2)_mm_unpacklo_epi32((__m128i)v, _mm_setzero_si128()); }
+
+// Between integers and floating point --------------------------------------------------------------
+// To integers toward zero; what has no value there, NaN included, gives the lowest integer. Two lanes
+// are the low half of a block of 32-bit lanes.
+
+TARN_INLINE i32x4 to_i32(f32x4 x) { return (i32x4)_mm_cvttps_epi32(x); }
+TARN_INLINE i32x4 to_i32(f64x2 x) { return (i32x4)_mm_cvttpd_epi32(x); }
+TARN_INLINE i64x2 to_i64(f64x2 x) { return i64x2{_mm_cvttsd_si64(x), _mm_cvttsd_si64(_mm_unpackhi_pd(x, x))}; }
+TARN_INLINE f32x4 to_f32(i32x4 v) { return _mm_cvtepi32_ps((__m128i)v); }
+TARN_INLINE f64x2 to_f64(i32x4 v) { return _mm_cvtepi32_pd((__m128i)v); }
 
 // The halves of four 64-bit lanes.
 TARN_INLINE i32x4 upper_words(i64x2 low, i64x2 high) {
@@ -232,6 +249,10 @@ TARN_INLINE float opaque(float x) {
 TARN_INLINE double opaque(double x) {
     asm volatile("" : "+x"(x));
     return x;
+}
+TARN_INLINE std::uint64_t opaque(std::uint64_t v) {
+    asm volatile("" : "+r"(v));
+    return v;
 }
 
 }  // namespace tarn
