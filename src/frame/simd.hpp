@@ -58,14 +58,6 @@ TARN_INLINE f64x2 or_bits(f64x2 x, i64x2 pattern) { return from_bits(bits(x) | p
 TARN_INLINE f32x4 xor_bits(f32x4 x, i32x4 pattern) { return from_bits(bits(x) ^ pattern); }
 TARN_INLINE f64x2 xor_bits(f64x2 x, i64x2 pattern) { return from_bits(bits(x) ^ pattern); }
 
-// Between integers and floats --------------------------------------------------------------------
-
-TARN_INLINE f32x4 to_float(i32x4 v) { return __builtin_convertvector(v, f32x4); }
-TARN_INLINE i32x4 truncated(f32x4 x) { return (i32x4)_mm_cvttps_epi32(x); }
-TARN_INLINE i64x2 to_long_low(i32x4 v) { return (i64x2)_mm_cvtepi32_epi64((__m128i)v); }
-TARN_INLINE f64x2 to_double_low(i32x4 v) { return _mm_cvtepi32_pd((__m128i)v); }
-TARN_INLINE f64x2 to_double_high(i32x4 v) { return _mm_cvtepi32_pd(_mm_unpackhi_epi64((__m128i)v, (__m128i)v)); }
-
 // Choice -----------------------------------------------------------------------------------------
 
 // Lane by lane: `yes` where the mask lane is all ones, else `no`.
@@ -134,6 +126,8 @@ TARN_INLINE i32x4 to_i32(f64x2 x) { return (i32x4)_mm_cvttpd_epi32(x); }
 TARN_INLINE i64x2 to_i64(f64x2 x) { return i64x2{_mm_cvttsd_si64(x), _mm_cvttsd_si64(_mm_unpackhi_pd(x, x))}; }
 TARN_INLINE f32x4 to_f32(i32x4 v) { return _mm_cvtepi32_ps((__m128i)v); }
 TARN_INLINE f64x2 to_f64(i32x4 v) { return _mm_cvtepi32_pd((__m128i)v); }
+TARN_INLINE f64x2 to_f64_high(i32x4 v) { return _mm_cvtepi32_pd(_mm_unpackhi_epi64((__m128i)v, (__m128i)v)); }
+TARN_INLINE i64x2 to_i64(i32x4 v) { return (i64x2)_mm_cvtepi32_epi64((__m128i)v); }
 
 // The halves of four 64-bit lanes.
 TARN_INLINE i32x4 upper_words(i64x2 low, i64x2 high) {

@@ -45,7 +45,7 @@ template <class Form> TARN_INLINE f32x4 log_of_sum(f32x4 w, f32x4 x) {
     const f32x4 s = Form::quotient(f, two + f);
     const f32x4 s2 = s * s;
     const f32x4 log_m = f - s * (f - s2 * Form::p(s2));
-    const f32x4 n = to_float(k - is_huge);
+    const f32x4 n = to_f32(k - is_huge);
     return n * ln2_head + (n * ln2_tail + log_m);
 }
 

@@ -69,7 +69,7 @@ template <class Form> struct Atanhf : Kernel<float(float)> {
         const f32x4 tail = (smaller - (sum - larger)) + rest;
         const auto [exponent, r_of_sum] = split_at_two_thirds(sum);
         const f32x4 r = r_of_sum + tail * from_bits(bits(one) - (exponent << 23));
-        const f32x4 y = to_float(exponent) * ln2 + Form::log_m(r);
+        const f32x4 y = to_f32(exponent) * ln2 + Form::log_m(r);
         // Outside [tiny, 1), in one wrapping sum.
         const i32x4 special = bits(a) + splat_i32(0x80000000 - tiny) >= splat_i32(0x80000000 + 0x3F800000 - tiny);
         return Flagged{y * or_bits(half, sign_bit(x)), special};

@@ -29,7 +29,7 @@ struct Log10f : Kernel<float(float)> {
 
     static TARN_INLINE auto fast(f32x4 x) {
         const auto [exponent, r] = split_at_two_thirds(x);
-        const f32x4 k = to_float(exponent);
+        const f32x4 k = to_f32(exponent);
         return Flagged{k * log10_2_head + (k * log10_2_tail + degree_9(r, p)), not_positive_normal(x)};
     }
 };
@@ -46,7 +46,7 @@ struct Log10fNative : Kernel<float(float)> {
 
     static TARN_INLINE auto fast(f32x4 x) {
         const auto [exponent, r] = split_at_two_thirds(x);
-        return Flagged{to_float(exponent) * log10_2 + horner(r, p5, p4, p3, p2, p1) * r, not_positive_normal(x)};
+        return Flagged{to_f32(exponent) * log10_2 + horner(r, p5, p4, p3, p2, p1) * r, not_positive_normal(x)};
     }
 };
 

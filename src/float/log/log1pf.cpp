@@ -39,7 +39,7 @@ struct Log1pf : Kernel<float(float)> {
         const f32x4 c = round<Rounding::nearest>(reciprocal_estimate(m_256th));  // 128 to 256
         const auto [heads, tails] = gather_pairs(log1pf_pairs, (bits(c) - splat_i32(0x43000000)) >> 16);
 
-        const f32x4 k = to_float(shift_right_logical(bits(s), 23));
+        const f32x4 k = to_f32(shift_right_logical(bits(s), 23));
         const f32x4 scale = c * from_bits(splat_i32(0x7B000000) - (bits(s) & splat_i32(0x7F800000)));
         const f32x4 r = s * scale - one;
         const f32x4 el = e * scale;
@@ -68,7 +68,7 @@ struct Log1pfNative : Kernel<float(float)> {
         const f32x4 e = (max(one, x) - s) + min(one, x);
         const auto [exponent, r_of_s] = split_at_two_thirds(s);
         const f32x4 r = r_of_s + e * from_bits(bits(one) - (exponent << 23));
-        const f32x4 y = to_float(exponent) * ln2 + log1p_polynomial(r, q3, q2, q1, q0);
+        const f32x4 y = to_f32(exponent) * ln2 + log1p_polynomial(r, q3, q2, q1, q0);
         // In one wrapping sum: 1 + x outside [2^-126, 2^127).
         const i32x4 special = (i32x4)((u32x4)s + (u32x4)splat_i32(0x01000000)) < splat_i32(0x01800000);
         return Flagged{or_bits(y, sign_bit(x)), special};

@@ -30,7 +30,7 @@ struct Logf : Kernel<float(float)> {
 
     static TARN_INLINE auto fast(f32x4 x) {
         const auto [exponent, r] = split_at_two_thirds(x);
-        const f32x4 k = to_float(exponent);
+        const f32x4 k = to_f32(exponent);
         const f32x4 p = log1p_polynomial(r, q8, q7, q6, q5, q4, q3, q2, q1, q0);
         return Flagged{k * ln2_head + (k * ln2_tail + p), not_positive_normal(x)};
     }
@@ -49,7 +49,7 @@ struct LogfHalf : Kernel<float(float)> {
     static TARN_INLINE auto fast(f32x4 x) {
         const auto [exponent, r] = split_at_two_thirds(x);
         const f32x4 p = log1p_polynomial(r, q6, q5, q4, q3, q2, q1, q0);
-        return Flagged{to_float(exponent) * ln2 + p, not_positive_normal(x)};
+        return Flagged{to_f32(exponent) * ln2 + p, not_positive_normal(x)};
     }
 };
 
@@ -61,7 +61,7 @@ struct LogfNative : Kernel<float(float)> {
 
     static TARN_INLINE auto fast(f32x4 x) {
         const auto [exponent, r] = split_at_two_thirds(x);
-        return Flagged{to_float(exponent) * ln2 + log1p_polynomial(r, q2, q1, q0), not_positive_normal(x)};
+        return Flagged{to_f32(exponent) * ln2 + log1p_polynomial(r, q2, q1, q0), not_positive_normal(x)};
     }
 };
 

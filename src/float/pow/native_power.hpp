@@ -29,7 +29,7 @@ TARN_INLINE f32x4 native_power_log(f32x4 x) {
     const f32x4 q1 = splat_f32(0x3EAAAD03);        // 0.3333512246608734
     const f32x4 q0 = splat(-0.5f);
     const auto [exponent, r] = split_at_two_thirds(x);
-    const f32x4 k = to_float(exponent);
+    const f32x4 k = to_f32(exponent);
     return k * ln2_head + (k * ln2_tail + log1p_polynomial(r, q5, q4, q3, q2, q1, q0));
 }
 

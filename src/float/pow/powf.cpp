@@ -57,10 +57,10 @@ template <int group_lanes> struct Powf : Kernel<float(float, float)> {
         const i32x4 k = shift_right_logical(bits(x), 23) - splat(126) + upper;
         const i32x4 row = (bits(c) - splat_i32(0x44000000)) >> 14;
 
-        const f64x2 z_low = log_product(widen_low(m), widen_low(c), gather_low(powf_logs, row), to_double_low(k),
+        const f64x2 z_low = log_product(widen_low(m), widen_low(c), gather_low(powf_logs, row), to_f64(k),
                                         widen_low(y));
         const f64x2 z_high = two_halves ? log_product(widen_high(m), widen_high(c), gather_high(powf_logs, row),
-                                                      to_double_high(k), widen_high(y))
+                                                      to_f64_high(k), widen_high(y))
                                         : z_low;
         const Exponent low = split(z_low), high = split(z_high);
         const i32x4 j = lower_words(bits(low.n), bits(high.n)) & splat(2047);
@@ -72,7 +72,7 @@ template <int group_lanes> struct Powf : Kernel<float(float, float)> {
         const i32x4 special = not_below_largest_normal(x) | (size > bound);
         const f32x4 power = narrow(power_low, power_high);
         if constexpr (two_halves) return Flagged{power, special};
-        else return Flagged{power, to_long_low(special)};
+        else return Flagged{power, to_i64(special)};
     }
 
 private:

@@ -15,16 +15,16 @@ struct Pownf : Kernel<float(float, std::int32_t)> {
 
     static TARN_INLINE auto fast(f32x4 x, i32x4 n) {
         const Split log = split_log(x);
-        const f32x4 y = to_float(n);
-        const i32x4 rest = (i32x4)((u32x4)n - (u32x4)truncated(y));  // 2^31 wraps, and wraps back
-        return split_power<IntegerExponentExp>(x, log, y, halves(y), to_float(rest));
+        const f32x4 y = to_f32(n);
+        const i32x4 rest = (i32x4)((u32x4)n - (u32x4)to_i32(y));  // 2^31 wraps, and wraps back
+        return split_power<IntegerExponentExp>(x, log, y, halves(y), to_f32(rest));
     }
 };
 
 struct PownfNative : Kernel<float(float, std::int32_t)> {
     static constexpr auto callout = callout::pownf;
 
-    static TARN_INLINE auto fast(f32x4 x, i32x4 n) { return native_power<NativeIntegerExp>(x, to_float(n)); }
+    static TARN_INLINE auto fast(f32x4 x, i32x4 n) { return native_power<NativeIntegerExp>(x, to_f32(n)); }
 };
 
 }  // namespace

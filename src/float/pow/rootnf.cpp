@@ -16,7 +16,7 @@ struct Rootnf : Kernel<float(float, std::int32_t)> {
 
     static TARN_INLINE auto fast(f32x4 x, i32x4 n) {
         const Split log = split_log(x);
-        const f32x4 one = splat(1.0f), divisor = to_float(n);
+        const f32x4 one = splat(1.0f), divisor = to_f32(n);
         const f32x4 y = one / divisor;
         const Split y_halves = halves(y);
         const auto [back, back_tail] = exact_product(y, y_halves, divisor, halves(divisor));
@@ -29,7 +29,7 @@ struct RootnfNative : Kernel<float(float, std::int32_t)> {
     static constexpr auto callout = callout::rootnf;
 
     static TARN_INLINE auto fast(f32x4 x, i32x4 n) {
-        return native_power<NativeIntegerExp>(x, splat(1.0f) / to_float(n));
+        return native_power<NativeIntegerExp>(x, splat(1.0f) / to_f32(n));
     }
 };
 

@@ -49,7 +49,7 @@ TARN_INLINE Split split_log(f32x4 x) {
 
     const i32x4 rounded = bits(x) + splat(0x8000);
     const i32x4 row = (rounded >> 16) & splat(127);
-    const f32x4 k = to_float(((rounded + switch_row) >> 23) - splat(127));
+    const f32x4 k = to_f32(((rounded + switch_row) >> 23) - splat(127));
     const f32x4 m = from_bits(bits(x) - (rounded & splat_i32(0x7F800000)) + splat_i32(0x3F800000));
     const auto [reciprocal, table_head, table_tail, padding] = gather_quads(powrf_logs, row);
 
