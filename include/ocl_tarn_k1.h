@@ -223,7 +223,8 @@ tarn_double16 __ocl_tarn_k1_expm116_native(tarn_double16 x) TARN_CONST;
 
 /* Logarithms -------------------------------------------------------------------------------------- */
 
-/* logf: ln x. Domain: x >= 0. Special values: zeros give -inf, +inf +inf, negative x NaN. */
+/* logf: ln x. Domain: x >= 0. Special values: zeros give -inf, +inf +inf, negative x NaN. Worst error
+   0.9736 ulp (OpenCL allows 3); native 8314, half 3.965; measured over every x >= 0. */
 float __ocl_tarn_k1_logf1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_logf2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_logf3(tarn_float3 x) TARN_CONST;
@@ -258,7 +259,8 @@ tarn_double8 __ocl_tarn_k1_log8_native(tarn_double8 x) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_log16_native(tarn_double16 x) TARN_CONST;
 
 /* log2f: log2 x. Domain: x >= 0. Special values: zeros give -inf, +inf +inf, negative x NaN; exact at
-   powers of two. */
+   powers of two. Worst error 2.612 ulp (OpenCL allows 3); native and half 893.5; measured over every x >=
+   0. */
 float __ocl_tarn_k1_log2f1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_log2f2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_log2f3(tarn_float3 x) TARN_CONST;
@@ -293,7 +295,8 @@ tarn_double4 __ocl_tarn_k1_log24_native(tarn_double4 x) TARN_CONST;
 tarn_double8 __ocl_tarn_k1_log28_native(tarn_double8 x) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_log216_native(tarn_double16 x) TARN_CONST;
 
-/* log10f: log10 x. Domain: x >= 0. Special values: zeros give -inf, +inf +inf, negative x NaN. */
+/* log10f: log10 x. Domain: x >= 0. Special values: zeros give -inf, +inf +inf, negative x NaN. Worst error
+   2.627 ulp (OpenCL allows 3); native and half 995.7; measured over every x >= 0. */
 float __ocl_tarn_k1_log10f1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_log10f2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_log10f3(tarn_float3 x) TARN_CONST;
@@ -328,7 +331,7 @@ tarn_double8 __ocl_tarn_k1_log108_native(tarn_double8 x) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_log1016_native(tarn_double16 x) TARN_CONST;
 
 /* log1pf: ln(1 + x). Domain: x >= -1. Special values: -1 gives -inf, +inf +inf, x < -1 NaN; zeros keep
-   their sign. */
+   their sign. Worst error 0.622 ulp (OpenCL allows 2); native 1568; measured over every x >= -1. */
 float __ocl_tarn_k1_log1pf1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_log1pf2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_log1pf3(tarn_float3 x) TARN_CONST;
@@ -359,7 +362,8 @@ tarn_double16 __ocl_tarn_k1_log1p16_native(tarn_double16 x) TARN_CONST;
 
 /* Powers ------------------------------------------------------------------------------------------ */
 
-/* powf: x^y. Domain: x >= 0, or y an integer. Special values: C99 Annex F. */
+/* powf: x^y. Domain: x >= 0, or y an integer. Special values: C99 Annex F. Worst error 1.099 ulp (OpenCL
+   allows 16); native 4466; measured over 190 million samples, most of them near 1. */
 float __ocl_tarn_k1_powf1(float x, float y) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_powf2(tarn_float2 x, tarn_float2 y) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_powf3(tarn_float3 x, tarn_float3 y) TARN_CONST;
@@ -387,7 +391,8 @@ tarn_double4 __ocl_tarn_k1_pow4_native(tarn_double4 x, tarn_double4 y) TARN_CONS
 tarn_double8 __ocl_tarn_k1_pow8_native(tarn_double8 x, tarn_double8 y) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_pow16_native(tarn_double16 x, tarn_double16 y) TARN_CONST;
 
-/* powrf: x^y for x >= 0. Domain: x >= 0. Special values: x < 0 gives NaN; 0^0, inf^0 and 1^inf give NaN. */
+/* powrf: x^y for x >= 0. Domain: x >= 0. Special values: x < 0 gives NaN; 0^0, inf^0 and 1^inf give NaN.
+   Worst error 3.001 ulp (OpenCL allows 16); native and half 4466; measured over 30 million samples. */
 float __ocl_tarn_k1_powrf1(float x, float y) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_powrf2(tarn_float2 x, tarn_float2 y) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_powrf3(tarn_float3 x, tarn_float3 y) TARN_CONST;
@@ -421,7 +426,8 @@ tarn_double4 __ocl_tarn_k1_powr4_native(tarn_double4 x, tarn_double4 y) TARN_CON
 tarn_double8 __ocl_tarn_k1_powr8_native(tarn_double8 x, tarn_double8 y) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_powr16_native(tarn_double16 x, tarn_double16 y) TARN_CONST;
 
-/* pownf: x^n, n an integer. Domain: every x. Special values: x^0 is 1, also for a NaN. */
+/* pownf: x^n, n an integer. Domain: every x. Special values: x^0 is 1, also for a NaN. Worst error 4.042
+   ulp (OpenCL allows 16); native 5517; measured over 30 million samples. */
 float __ocl_tarn_k1_pownf1(float x, int32_t n) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_pownf2(tarn_float2 x, tarn_int2 n) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_pownf3(tarn_float3 x, tarn_int3 n) TARN_CONST;
@@ -450,7 +456,7 @@ tarn_double8 __ocl_tarn_k1_pown8_native(tarn_double8 x, tarn_int8 n) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_pown16_native(tarn_double16 x, tarn_int16 n) TARN_CONST;
 
 /* rootnf: x^(1/n), n an integer. Domain: x >= 0, or n odd. Special values: n = 0 gives NaN, x < 0 with even
-   n NaN. */
+   n NaN. Worst error 4 ulp (OpenCL allows 16); native 2703; measured over 30 million samples. */
 float __ocl_tarn_k1_rootnf1(float x, int32_t n) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_rootnf2(tarn_float2 x, tarn_int2 n) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_rootnf3(tarn_float3 x, tarn_int3 n) TARN_CONST;
@@ -481,7 +487,9 @@ tarn_double16 __ocl_tarn_k1_rootn16_native(tarn_double16 x, tarn_int16 n) TARN_C
 
 /* Division and roots ------------------------------------------------------------------------------ */
 
-/* divf: x / y. Domain: every x and y. Special values: IEEE division. */
+/* divf: x / y. Domain: every x and y. Special values: IEEE division; the native and half forms may give a
+   zero for y = +-2^126. Worst error 0.5 ulp (OpenCL allows 2.5); native and half 5238; measured over 30
+   million samples. */
 float __ocl_tarn_k1_divf1(float x, float y) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_divf2(tarn_float2 x, tarn_float2 y) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_divf3(tarn_float3 x, tarn_float3 y) TARN_CONST;
@@ -515,7 +523,8 @@ tarn_double4 __ocl_tarn_k1_div4_native(tarn_double4 x, tarn_double4 y) TARN_CONS
 tarn_double8 __ocl_tarn_k1_div8_native(tarn_double8 x, tarn_double8 y) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_div16_native(tarn_double16 x, tarn_double16 y) TARN_CONST;
 
-/* invf: 1 / x. Domain: every x. Special values: IEEE division. */
+/* invf: 1 / x. Domain: every x. Special values: IEEE division. Worst error 0.5 ulp (OpenCL allows 2.5);
+   native and half 4762; measured over every significand. */
 float __ocl_tarn_k1_invf1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_invf2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_invf3(tarn_float3 x) TARN_CONST;
@@ -549,7 +558,9 @@ tarn_double4 __ocl_tarn_k1_inv4_native(tarn_double4 x) TARN_CONST;
 tarn_double8 __ocl_tarn_k1_inv8_native(tarn_double8 x) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_inv16_native(tarn_double16 x) TARN_CONST;
 
-/* sqrtf: x^(1/2). Domain: x >= 0. Special values: -0 gives -0, x < 0 NaN. */
+/* sqrtf: x^(1/2). Domain: x >= 0. Special values: -0 gives -0, x < 0 NaN; in the native and half forms
+   zeros and +inf give NaN, subnormals +inf. Worst error 0.7499 ulp (OpenCL allows 3); native and half 4156;
+   measured over every x >= 0. */
 float __ocl_tarn_k1_sqrtf1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_sqrtf2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_sqrtf3(tarn_float3 x) TARN_CONST;
@@ -584,7 +595,7 @@ tarn_double8 __ocl_tarn_k1_sqrt8_native(tarn_double8 x) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_sqrt16_native(tarn_double16 x) TARN_CONST;
 
 /* rsqrtf: x^(-1/2). Domain: x > 0. Special values: zeros give an infinity of their sign, +inf +0, x < 0
-   NaN. */
+   NaN. Worst error 0.9784 ulp (OpenCL allows 2); native and half 2940; measured over every x >= 0. */
 float __ocl_tarn_k1_rsqrtf1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_rsqrtf2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_rsqrtf3(tarn_float3 x) TARN_CONST;
@@ -618,7 +629,8 @@ tarn_double4 __ocl_tarn_k1_rsqrt4_native(tarn_double4 x) TARN_CONST;
 tarn_double8 __ocl_tarn_k1_rsqrt8_native(tarn_double8 x) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_rsqrt16_native(tarn_double16 x) TARN_CONST;
 
-/* cbrtf: x^(1/3). Domain: every x. Special values: zeros and infinities come back. */
+/* cbrtf: x^(1/3). Domain: every x. Special values: zeros and infinities come back. Worst error 0.5118 ulp
+   (OpenCL allows 2); native 355.4; measured over every significand and all exponents mod 3. */
 float __ocl_tarn_k1_cbrtf1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_cbrtf2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_cbrtf3(tarn_float3 x) TARN_CONST;
@@ -647,7 +659,8 @@ tarn_double8 __ocl_tarn_k1_cbrt8_native(tarn_double8 x) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_cbrt16_native(tarn_double16 x) TARN_CONST;
 
 /* rcbrtf: x^(-1/3). Domain: every x. Special values: zeros give an infinity and infinities a zero of their
-   sign. */
+   sign. Worst error 0.5143 ulp (OpenCL allows 2); native 888.7; measured over every significand and all
+   exponents mod 3. */
 float __ocl_tarn_k1_rcbrtf1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_rcbrtf2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_rcbrtf3(tarn_float3 x) TARN_CONST;
@@ -677,7 +690,8 @@ tarn_double8 __ocl_tarn_k1_rcbrt8_native(tarn_double8 x) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_rcbrt16_native(tarn_double16 x) TARN_CONST;
 
 /* hypotf: (x^2 + y^2)^(1/2). Domain: every x and y. Special values: an infinity gives +inf, also beside a
-   NaN. */
+   NaN; in the native form infinities, and sums of squares beyond the range, give NaN. Worst error 1.408 ulp
+   (OpenCL allows 4); native 4156; measured over 60 million samples. */
 float __ocl_tarn_k1_hypotf1(float x, float y) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_hypotf2(tarn_float2 x, tarn_float2 y) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_hypotf3(tarn_float3 x, tarn_float3 y) TARN_CONST;

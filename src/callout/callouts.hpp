@@ -2,6 +2,8 @@
 // Each takes a pointer to every operand, inputs first, and returns a status.
 #pragma once
 
+#include <cstdint>
+
 namespace tarn::callout {
 
 enum Status : int {
@@ -15,8 +17,24 @@ enum Status : int {
 #pragma GCC visibility push(hidden)
 
 using UnaryFloat = int(const float* x, float* result);
+using BinaryFloat = int(const float* x, const float* y, float* result);
+using FloatAndInt = int(const float* x, const std::int32_t* n, float* result);
+using UnaryFloatPair = int(const float* x, float* result, float* second);
 
 UnaryFloat expf, exp2f, exp10f, expm1f;
+UnaryFloat sinhf, coshf, tanhf, asinhf, acoshf, atanhf;
+UnaryFloat erfcf, tgammaf, lgammaf;
+int lgammarf(const float* x, float* result, std::int32_t* sign);
+UnaryFloat logf, log2f, log10f, log1pf;
+UnaryFloat invf, sqrtf, rsqrtf, cbrtf, rcbrtf;
+BinaryFloat divf, hypotf;
+BinaryFloat powf, powrf;
+FloatAndInt pownf, rootnf;
+UnaryFloat sinf, cosf, tanf;
+UnaryFloatPair sincosf;
+UnaryFloat sinpif, cospif, tanpif;
+UnaryFloat asinf, acosf, asinpif, acospif, atanpif;
+BinaryFloat atan2f, atan2pif;
 
 // The lane-wise families and the remainders, in both precisions.
 template <class Real> int fmin(const Real* x, const Real* y, Real* result);

@@ -12,9 +12,14 @@ TARN_INLINE std::uint64_t pattern(double x) { return static_cast<std::uint64_t>(
 TARN_INLINE bool is_nan(float x) { return x != x; }
 TARN_INLINE bool is_nan(double x) { return x != x; }
 
+// Set for -0 too.
+TARN_INLINE bool has_sign(float x) { return (pattern(x) & 0x80000000) != 0; }
+
 // Infinity or NaN.
 TARN_INLINE bool not_finite(float x) { return (pattern(x) & 0x7F800000) == 0x7F800000; }
 TARN_INLINE bool not_finite(double x) { return pattern(x) >> 52 << 53 == 0xFFE0000000000000; }
+
+TARN_INLINE bool is_subnormal(float x) { return (pattern(x) & 0x7F800000) == 0 && x != 0; }
 
 // 2^e for an exponent that a normal double has.
 TARN_INLINE double power_of_two(int e) { return f64(static_cast<std::uint64_t>(e + 1023) << 52); }
@@ -29,6 +34,13 @@ TARN_INLINE double underflowed() {
     const double smallest = opaque(f64(0x0010000000000001));
     return smallest * smallest;
 }
+
+// A NaN that raises invalid, and an infinity of the zero's sign that raises division by zero.
+TARN_INLINE double invalid() {
+    const double zero = opaque(0.0);
+    return zero / zero;
+}
+TARN_INLINE double infinity_from(double zero) { return 1.0 / opaque(zero); }
 
 // x times a scale that has absorbed 1.5 * 2^k, so that its sum's low bits hold the rounded product:
 // the reduction of every exponential.

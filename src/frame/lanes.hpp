@@ -115,10 +115,6 @@ TARN_INLINE Group<Lane, lanes> with_last_lane(Group<Lane, lanes> g, Lane value) 
 TARN_INLINE unsigned gathered(i32x4 mask) { return _mm_movemask_ps((__m128)mask); }
 TARN_INLINE unsigned gathered(i64x2 mask) { return _mm_movemask_pd((__m128d)mask); }
 
-// The upper halves of four 64-bit lanes.
-TARN_INLINE i32x4 upper_words(i64x2 low, i64x2 high) {
-    return (i32x4)_mm_shuffle_ps((__m128)low, (__m128)high, _MM_SHUFFLE(3, 1, 3, 1));
-}
 TARN_INLINE i32x4 upper_words(i32x4 low, i32x4 high) { return upper_words((i64x2)low, (i64x2)high); }
 
 // Up to 16 lanes with signed saturation, 32 to 16 to 8 bits; a missing block is a repeated one.

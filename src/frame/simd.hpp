@@ -2,6 +2,7 @@
 // each thing that operators cannot say.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <smmintrin.h>
 
@@ -57,6 +58,14 @@ TARN_INLINE f64x2 or_bits(f64x2 x, i64x2 pattern) { return from_bits(bits(x) | p
 TARN_INLINE f32x4 xor_bits(f32x4 x, i32x4 pattern) { return from_bits(bits(x) ^ pattern); }
 TARN_INLINE f64x2 xor_bits(f64x2 x, i64x2 pattern) { return from_bits(bits(x) ^ pattern); }
 
+// Between integers and floats --------------------------------------------------------------------
+
+TARN_INLINE f32x4 to_float(i32x4 v) { return __builtin_convertvector(v, f32x4); }
+TARN_INLINE i32x4 truncated(f32x4 x) { return (i32x4)_mm_cvttps_epi32(x); }
+TARN_INLINE i64x2 to_long_low(i32x4 v) { return (i64x2)_mm_cvtepi32_epi64((__m128i)v); }
+TARN_INLINE f64x2 to_double_low(i32x4 v) { return _mm_cvtepi32_pd((__m128i)v); }
+TARN_INLINE f64x2 to_double_high(i32x4 v) { return _mm_cvtepi32_pd(_mm_unpackhi_epi64((__m128i)v, (__m128i)v)); }
+
 // Choice -----------------------------------------------------------------------------------------
 
 // Lane by lane: `yes` where the mask lane is all ones, else `no`.
@@ -69,12 +78,18 @@ TARN_INLINE i64x2 select(i64x2 mask, i64x2 yes, i64x2 no) {
     return (i64x2)_mm_blendv_epi8((__m128i)no, (__m128i)yes, (__m128i)mask);
 }
 
+// The value where the mask lane is all ones, else +0.
+TARN_INLINE f32x4 where(i32x4 mask, f32x4 x) { return from_bits(bits(x) & mask); }
+TARN_INLINE f64x2 where(i64x2 mask, f64x2 x) { return from_bits(bits(x) & mask); }
+
 // The processor's minimum and maximum: the second operand comes back when either is a NaN or both
 // are zeros, so the order of the operands is part of the result.
 TARN_INLINE f32x4 min(f32x4 x, f32x4 y) { return _mm_min_ps(x, y); }
 TARN_INLINE f64x2 min(f64x2 x, f64x2 y) { return _mm_min_pd(x, y); }
 TARN_INLINE f32x4 max(f32x4 x, f32x4 y) { return _mm_max_ps(x, y); }
 TARN_INLINE f64x2 max(f64x2 x, f64x2 y) { return _mm_max_pd(x, y); }
+TARN_INLINE i32x4 min(i32x4 x, i32x4 y) { return (i32x4)_mm_min_epi32((__m128i)x, (__m128i)y); }
+TARN_INLINE i32x4 max(i32x4 x, i32x4 y) { return (i32x4)_mm_max_epi32((__m128i)x, (__m128i)y); }
 
 // Rounding to an integral value ------------------------------------------------------------------
 
@@ -120,6 +135,14 @@ TARN_INLINE i64x2 to_i64(f64x2 x) { return i64x2{_mm_cvttsd_si64(x), _mm_cvttsd_
 TARN_INLINE f32x4 to_f32(i32x4 v) { return _mm_cvtepi32_ps((__m128i)v); }
 TARN_INLINE f64x2 to_f64(i32x4 v) { return _mm_cvtepi32_pd((__m128i)v); }
 
+// The halves of four 64-bit lanes.
+TARN_INLINE i32x4 upper_words(i64x2 low, i64x2 high) {
+    return (i32x4)_mm_shuffle_ps((__m128)low, (__m128)high, _MM_SHUFFLE(3, 1, 3, 1));
+}
+TARN_INLINE i32x4 lower_words(i64x2 low, i64x2 high) {
+    return (i32x4)_mm_shuffle_ps((__m128)low, (__m128)high, _MM_SHUFFLE(2, 0, 2, 0));
+}
+
 // Polynomials ------------------------------------------------------------------------------------
 
 // Horner's rule, highest coefficient first: ((c0*x + c1)*x + c2)*x + ...
@@ -130,28 +153,72 @@ template <class V, class... More> TARN_INLINE V horner(V x, V leading, V next, M
 
 // Table rows -------------------------------------------------------------------------------------
 
-TARN_INLINE std::uint32_t lane(i32x4 v, int i) { return static_cast<std::uint32_t>(v[i]); }
+// Four row numbers, moved to general registers two at a time.
+struct Rows {
+    std::uint64_t row[4];
+};
+TARN_INLINE Rows rows(i32x4 index) {
+    const auto low = static_cast<std::uint64_t>(((i64x2)index)[0]), high = static_cast<std::uint64_t>(((i64x2)index)[1]);
+    return {{low & 0xFFFFFFFF, low >> 32, high & 0xFFFFFFFF, high >> 32}};
+}
 
 // table[index] in each lane.
 TARN_INLINE f32x4 gather(const float* table, i32x4 index) {
-    return f32x4{table[lane(index, 0)], table[lane(index, 1)], table[lane(index, 2)], table[lane(index, 3)]};
+    const auto [a, b, c, d] = rows(index).row;
+    return f32x4{table[a], table[b], table[c], table[d]};
 }
 TARN_INLINE i32x4 gather(const std::uint32_t* table, i32x4 index) {
-    return (i32x4)u32x4{table[lane(index, 0)], table[lane(index, 1)], table[lane(index, 2)], table[lane(index, 3)]};
+    const auto [a, b, c, d] = rows(index).row;
+    return (i32x4)u32x4{table[a], table[b], table[c], table[d]};
+}
+TARN_INLINE f64x2 gather_low(const double* table, i32x4 index) {
+    const auto [a, b, c, d] = rows(index).row;
+    return f64x2{table[a], table[b]};
+}
+TARN_INLINE f64x2 gather_high(const double* table, i32x4 index) {
+    const auto [a, b, c, d] = rows(index).row;
+    return f64x2{table[c], table[d]};
 }
 
-// The rows of a table of 8-byte pairs, as one vector of firsts and one of seconds.
+// Two neighbouring columns of two rows of doubles, a vector each.
+struct ColumnsF64 {
+    f64x2 first, second;
+};
+TARN_INLINE ColumnsF64 columns(const double* row0, const double* row1) {
+    const __m128d a = _mm_loadu_pd(row0), b = _mm_loadu_pd(row1);
+    return {_mm_unpacklo_pd(a, b), _mm_unpackhi_pd(a, b)};
+}
+
+// Two neighbouring columns of a table's rows, from `column` on, a vector each.
 struct PairLanes {
     f32x4 first, second;
 };
-template <class Entry> TARN_INLINE PairLanes gather_pairs(const Entry (*table)[2], i32x4 index) {
+template <int column = 0, class Entry, std::size_t columns>
+TARN_INLINE PairLanes gather_pairs(const Entry (*table)[columns], i32x4 index) {
     static_assert(sizeof(Entry) == 4);
-    const auto row = [&](int i) __attribute__((always_inline)) {
-        return reinterpret_cast<const double*>(table[lane(index, i)]);
+    const auto [a, b, c, d] = rows(index).row;
+    const auto at = [&](std::uint64_t row) __attribute__((always_inline)) {
+        return reinterpret_cast<const double*>(table[row] + column);
     };
-    const __m128 low = (__m128)_mm_loadh_pd(_mm_load_sd(row(0)), row(1));
-    const __m128 high = (__m128)_mm_loadh_pd(_mm_load_sd(row(2)), row(3));
+    const __m128 low = (__m128)_mm_loadh_pd(_mm_load_sd(at(a)), at(b));
+    const __m128 high = (__m128)_mm_loadh_pd(_mm_load_sd(at(c)), at(d));
     return {_mm_shuffle_ps(low, high, _MM_SHUFFLE(2, 0, 2, 0)), _mm_shuffle_ps(low, high, _MM_SHUFFLE(3, 1, 3, 1))};
+}
+
+// Four neighbouring columns, from `column` on.
+struct QuadLanes {
+    f32x4 first, second, third, fourth;
+};
+template <int column = 0, class Entry, std::size_t columns>
+TARN_INLINE QuadLanes gather_quads(const Entry (*table)[columns], i32x4 index) {
+    static_assert(sizeof(Entry) == 4);
+    const auto [i, j, k, l] = rows(index).row;
+    const auto at = [&](std::uint64_t row) __attribute__((always_inline)) {
+        return _mm_loadu_ps(reinterpret_cast<const float*>(table[row] + column));
+    };
+    __m128 a = at(i), b = at(j), c = at(k), d = at(l);
+    _MM_TRANSPOSE4_PS(a, b, c, d);
+    return {a, b, c, d};
 }
 
 // Special-lane tests -----------------------------------------------------------------------------
@@ -159,8 +226,17 @@ template <class Entry> TARN_INLINE PairLanes gather_pairs(const Entry (*table)[2
 // Bit pattern of |x| above the bound; infinities and NaNs are above every finite bound.
 TARN_INLINE i32x4 magnitude_above(f32x4 x, std::uint32_t bound) { return bits(abs(x)) > splat_i32(bound); }
 
+// Infinities and NaNs.
+TARN_INLINE i32x4 not_finite(f32x4 x) { return magnitude_above(x, 0x7F7FFFFF); }
+
 // |x| within the bound as a float comparison turned round, so that a NaN is not within.
 TARN_INLINE i32x4 not_within(f32x4 x, f32x4 bound) { return (i32x4)_mm_cmpnle_ps(abs(x), bound); }
+
+// Anything but a positive normal finite number, in one wrapping sum: zeros, subnormals, negative numbers,
+// infinities and NaNs.
+TARN_INLINE i32x4 not_positive_normal(f32x4 x) {
+    return (i32x4)((u32x4)x + (u32x4)splat_i32(0x00800000)) < splat_i32(0x01000000);
+}
 
 // Floating-point flags ---------------------------------------------------------------------------
 

@@ -1,0 +1,11 @@
+// What the callouts of the single-precision logarithms and powers share.
+#pragma once
+
+#include "callout/scalar.hpp"
+
+namespace tarn::callout {
+
+// ln X of a positive normal double, to about one unit of double precision.
+double log_of(double X);
+
+}  // namespace tarn::callout

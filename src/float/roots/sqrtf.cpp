@@ -1,0 +1,28 @@
+// x^(1/2), refined from the processor's estimate of the reciprocal root. The native and half forms are
+// the estimate alone, times x; they have no special lanes, so that a zero or +inf gives NaN and every
+// subnormal +inf.
+//
+// Worst error 0.75 ulp at 4.70035e-38.
+#include "callout/callouts.hpp"
+#include "float/roots/refined_root.hpp"
+#include "frame/exports.hpp"
+
+namespace tarn {
+namespace {
+
+struct Sqrtf : Kernel<float(float)> {
+    static constexpr auto callout = callout::sqrtf;
+
+    static TARN_INLINE auto fast(f32x4 x) { return Flagged{refined_root(x), not_positive_normal(x)}; }
+};
+
+struct SqrtfNative : Kernel<float(float)> {
+    static TARN_INLINE f32x4 fast(f32x4 x) { return x * rsqrt_estimate(x); }
+};
+
+}  // namespace
+}  // namespace tarn
+
+TARN_EXPORT(unary, sqrtf, full, tarn::Sqrtf)
+TARN_EXPORT(unary, sqrtf, native, tarn::SqrtfNative)
+TARN_EXPORT_SAME(sqrtf, half, native)
