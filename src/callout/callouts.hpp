@@ -19,13 +19,40 @@ enum Status : int {
 using UnaryFloat = int(const float* x, float* result);
 using BinaryFloat = int(const float* x, const float* y, float* result);
 using FloatAndInt = int(const float* x, const std::int32_t* n, float* result);
+using UnaryFloatPair = int(const float* x, float* result, float* second);
 
 UnaryFloat expf, exp2f, exp10f, expm1f;
+UnaryFloat sinhf, coshf, tanhf, asinhf, acoshf, atanhf;
+UnaryFloat erfcf, tgammaf, lgammaf;
+int lgammarf(const float* x, float* result, std::int32_t* sign);
 UnaryFloat logf, log2f, log10f, log1pf;
 UnaryFloat invf, sqrtf, rsqrtf, cbrtf, rcbrtf;
 BinaryFloat divf, hypotf;
 BinaryFloat powf, powrf;
 FloatAndInt pownf, rootnf;
+UnaryFloat sinf, cosf, tanf;
+UnaryFloatPair sincosf;
+UnaryFloat sinpif, cospif, tanpif;
+UnaryFloat asinf, acosf, asinpif, acospif, atanpif;
+BinaryFloat atan2f, atan2pif;
+
+// The lane-wise families and the remainders, in both precisions.
+template <class Real> int fmin(const Real* x, const Real* y, Real* result);
+template <class Real> int fmax(const Real* x, const Real* y, Real* result);
+template <class Real> int maxmag(const Real* x, const Real* y, Real* result);
+template <class Real> int minmag(const Real* x, const Real* y, Real* result);
+template <class Real> int fdim(const Real* x, const Real* y, Real* result);
+template <class Real> int nextafter(const Real* x, const Real* y, Real* result);
+template <class Real> int frexp(const Real* x, Real* significand, int* exponent);
+template <class Real> int ilogb(const Real* x, int* result);
+template <class Real> int logb(const Real* x, Real* result);
+template <class Real> int ldexp(const Real* x, const int* n, Real* result);
+template <class Real> int fract(const Real* x, Real* fraction, Real* floor);
+template <class Real> int modf(const Real* x, Real* fraction, Real* integral);
+template <class Real> int fmod(const Real* x, const Real* y, Real* result);
+template <class Real> int remainder(const Real* x, const Real* y, Real* result);
+template <class Real> int remquo(const Real* x, const Real* y, Real* result, int* quotient);
+template <class Real> int fma(const Real* x, const Real* y, const Real* z, Real* result);
 
 #pragma GCC visibility pop
 

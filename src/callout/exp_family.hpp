@@ -28,6 +28,9 @@ TARN_INLINE int exp_not_finite(float x, float* result) {
     return ordinary;
 }
 
+// e^X of |X| below 700, to about one unit of double precision.
+double exp_of(double X);
+
 // e^X for an X between -104 and 88.8, rounded to single precision once.
 int exp_in_range(double X, float* result);
 

@@ -31,23 +31,37 @@ double subnormal(double s, double hi, int exponent) {
     return h * 0x1p-60 + l * 0x1p-60;
 }
 
-}  // namespace
-
-int exp_of_finite(double X, float* result) {
-    if (!(X <= largest)) return give(result, overflowed(), overflow);
-    if (!(X >= smallest)) return give(result, underflowed(), underflow);
-    return exp_in_range(X, result);
-}
-
-int exp_in_range(double X, float* result) {
+// e^X = 2^exponent (s + hi).
+struct ExpParts {
+    double s, hi;
+    int exponent;
+};
+ExpParts exp_parts(double X) {
     const auto [low_bits, n] = round_by_shifter(X * sixtyfour_log2_e, round_shifter);
     const auto [row, exponent] = sixtyfourths(low_bits);
     const double r = (X - n * ln2_64th_head) - n * ln2_64th_tail;
     const double q = horner(r, c5, c4, c3, c2, 0.5) * r * r + r;
     const double hi = exp2_pairs[row][0], lo = exp2_pairs[row][1];
-    const double s = (q + lo) * hi;
+    return {(q + lo) * hi, hi, exponent};
+}
+
+}  // namespace
+
+double exp_of(double X) {
+    const auto [s, hi, exponent] = exp_parts(X);
+    return (s + hi) * power_of_two(exponent);
+}
+
+int exp_in_range(double X, float* result) {
+    const auto [s, hi, exponent] = exp_parts(X);
     if (X < smallest_normal) return give(result, subnormal(s, hi, exponent), underflow);
     return give(result, (s + hi) * power_of_two(exponent));
+}
+
+int exp_of_finite(double X, float* result) {
+    if (!(X <= largest)) return give(result, overflowed(), overflow);
+    if (!(X >= smallest)) return give(result, underflowed(), underflow);
+    return exp_in_range(X, result);
 }
 
 int expf(const float* x, float* result) {

@@ -12,6 +12,9 @@ TARN_INLINE std::uint64_t pattern(double x) { return static_cast<std::uint64_t>(
 TARN_INLINE bool is_nan(float x) { return x != x; }
 TARN_INLINE bool is_nan(double x) { return x != x; }
 
+// Set for -0 too.
+TARN_INLINE bool has_sign(float x) { return (pattern(x) & 0x80000000) != 0; }
+
 // Infinity or NaN.
 TARN_INLINE bool not_finite(float x) { return (pattern(x) & 0x7F800000) == 0x7F800000; }
 TARN_INLINE bool not_finite(double x) { return pattern(x) >> 52 << 53 == 0xFFE0000000000000; }

@@ -2,6 +2,7 @@
 // each thing that operators cannot say.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <smmintrin.h>
 
@@ -77,12 +78,18 @@ TARN_INLINE i64x2 select(i64x2 mask, i64x2 yes, i64x2 no) {
     return (i64x2)_mm_blendv_epi8((__m128i)no, (__m128i)yes, (__m128i)mask);
 }
 
+// The value where the mask lane is all ones, else +0.
+TARN_INLINE f32x4 where(i32x4 mask, f32x4 x) { return from_bits(bits(x) & mask); }
+TARN_INLINE f64x2 where(i64x2 mask, f64x2 x) { return from_bits(bits(x) & mask); }
+
 // The processor's minimum and maximum: the second operand comes back when either is a NaN or both
 // are zeros, so the order of the operands is part of the result.
 TARN_INLINE f32x4 min(f32x4 x, f32x4 y) { return _mm_min_ps(x, y); }
 TARN_INLINE f64x2 min(f64x2 x, f64x2 y) { return _mm_min_pd(x, y); }
 TARN_INLINE f32x4 max(f32x4 x, f32x4 y) { return _mm_max_ps(x, y); }
 TARN_INLINE f64x2 max(f64x2 x, f64x2 y) { return _mm_max_pd(x, y); }
+TARN_INLINE i32x4 min(i32x4 x, i32x4 y) { return (i32x4)_mm_min_epi32((__m128i)x, (__m128i)y); }
+TARN_INLINE i32x4 max(i32x4 x, i32x4 y) { return (i32x4)_mm_max_epi32((__m128i)x, (__m128i)y); }
 
 // Rounding to an integral value ------------------------------------------------------------------
 
@@ -110,6 +117,23 @@ TARN_INLINE f32x4 rsqrt_estimate(f32x4 x) { return _mm_rsqrt_ps(x); }
 TARN_INLINE f64x2 widen_low(f32x4 x) { return _mm_cvtps_pd(x); }
 TARN_INLINE f64x2 widen_high(f32x4 x) { return _mm_cvtps_pd(_mm_movehl_ps(x, x)); }
 TARN_INLINE f32x4 narrow(f64x2 low, f64x2 high) { return _mm_movelh_ps(_mm_cvtpd_ps(low), _mm_cvtpd_ps(high)); }
+TARN_INLINE f32x4 narrow(f64x2 x) { return _mm_cvtpd_ps(x); }  // in the low half
+
+// The halves of two 64-bit lanes, in the low half of a block; and 32-bit lanes put into upper halves.
+TARN_INLINE i32x4 low_words(i64x2 v) { return (i32x4)_mm_shuffle_epi32((__m128i)v, _MM_SHUFFLE(2, 0, 2, 0)); }
+TARN_INLINE i32x4 high_words(i64x2 v) { return (i32x4)_mm_shuffle_epi32((__m128i)v, _MM_SHUFFLE(3, 1, 3, 1)); }
+TARN_INLINE i64x2 as_high_words(i32x4 v) { return (i64x2)_mm_unpacklo_epi32(_mm_setzero_si128(), (__m128i)v); }
+TARN_INLINE i64x2 widen_unsigned(i32x4 v) { return (i64x2)_mm_unpacklo_epi32((__m128i)v, _mm_setzero_si128()); }
+
+// Between integers and floating point --------------------------------------------------------------
+// To integers toward zero; what has no value there, NaN included, gives the lowest integer. Two lanes
+// are the low half of a block of 32-bit lanes.
+
+TARN_INLINE i32x4 to_i32(f32x4 x) { return (i32x4)_mm_cvttps_epi32(x); }
+TARN_INLINE i32x4 to_i32(f64x2 x) { return (i32x4)_mm_cvttpd_epi32(x); }
+TARN_INLINE i64x2 to_i64(f64x2 x) { return i64x2{_mm_cvttsd_si64(x), _mm_cvttsd_si64(_mm_unpackhi_pd(x, x))}; }
+TARN_INLINE f32x4 to_f32(i32x4 v) { return _mm_cvtepi32_ps((__m128i)v); }
+TARN_INLINE f64x2 to_f64(i32x4 v) { return _mm_cvtepi32_pd((__m128i)v); }
 
 // The halves of four 64-bit lanes.
 TARN_INLINE i32x4 upper_words(i64x2 low, i64x2 high) {
@@ -156,38 +180,54 @@ TARN_INLINE f64x2 gather_high(const double* table, i32x4 index) {
     return f64x2{table[c], table[d]};
 }
 
-// The rows of a table of 8-byte pairs, as one vector of firsts and one of seconds.
+// Two neighbouring columns of two rows of doubles, a vector each.
+struct ColumnsF64 {
+    f64x2 first, second;
+};
+TARN_INLINE ColumnsF64 columns(const double* row0, const double* row1) {
+    const __m128d a = _mm_loadu_pd(row0), b = _mm_loadu_pd(row1);
+    return {_mm_unpacklo_pd(a, b), _mm_unpackhi_pd(a, b)};
+}
+
+// Two neighbouring columns of a table's rows, from `column` on, a vector each.
 struct PairLanes {
     f32x4 first, second;
 };
-template <class Entry> TARN_INLINE PairLanes gather_pairs(const Entry (*table)[2], i32x4 index) {
+template <int column = 0, class Entry, std::size_t columns>
+TARN_INLINE PairLanes gather_pairs(const Entry (*table)[columns], i32x4 index) {
     static_assert(sizeof(Entry) == 4);
     const auto [a, b, c, d] = rows(index).row;
     const auto at = [&](std::uint64_t row) __attribute__((always_inline)) {
-        return reinterpret_cast<const double*>(table[row]);
+        return reinterpret_cast<const double*>(table[row] + column);
     };
     const __m128 low = (__m128)_mm_loadh_pd(_mm_load_sd(at(a)), at(b));
     const __m128 high = (__m128)_mm_loadh_pd(_mm_load_sd(at(c)), at(d));
     return {_mm_shuffle_ps(low, high, _MM_SHUFFLE(2, 0, 2, 0)), _mm_shuffle_ps(low, high, _MM_SHUFFLE(3, 1, 3, 1))};
 }
 
-// The rows of a table of 16 bytes each, by column; the fourth is padding.
-struct TripleLanes {
-    f32x4 first, second, third;
+// Four neighbouring columns, from `column` on.
+struct QuadLanes {
+    f32x4 first, second, third, fourth;
 };
-TARN_INLINE TripleLanes gather_triples(const float (*table)[4], i32x4 index) {
+template <int column = 0, class Entry, std::size_t columns>
+TARN_INLINE QuadLanes gather_quads(const Entry (*table)[columns], i32x4 index) {
+    static_assert(sizeof(Entry) == 4);
     const auto [i, j, k, l] = rows(index).row;
-    const __m128 a = _mm_load_ps(table[i]), b = _mm_load_ps(table[j]);
-    const __m128 c = _mm_load_ps(table[k]), d = _mm_load_ps(table[l]);
-    const __m128 ab = _mm_unpacklo_ps(a, b), cd = _mm_unpacklo_ps(c, d);
-    return {_mm_movelh_ps(ab, cd), _mm_movehl_ps(cd, ab),
-            _mm_movelh_ps(_mm_unpackhi_ps(a, b), _mm_unpackhi_ps(c, d))};
+    const auto at = [&](std::uint64_t row) __attribute__((always_inline)) {
+        return _mm_loadu_ps(reinterpret_cast<const float*>(table[row] + column));
+    };
+    __m128 a = at(i), b = at(j), c = at(k), d = at(l);
+    _MM_TRANSPOSE4_PS(a, b, c, d);
+    return {a, b, c, d};
 }
 
 // Special-lane tests -----------------------------------------------------------------------------
 
 // Bit pattern of |x| above the bound; infinities and NaNs are above every finite bound.
 TARN_INLINE i32x4 magnitude_above(f32x4 x, std::uint32_t bound) { return bits(abs(x)) > splat_i32(bound); }
+
+// Infinities and NaNs.
+TARN_INLINE i32x4 not_finite(f32x4 x) { return magnitude_above(x, 0x7F7FFFFF); }
 
 // |x| within the bound as a float comparison turned round, so that a NaN is not within.
 TARN_INLINE i32x4 not_within(f32x4 x, f32x4 bound) { return (i32x4)_mm_cmpnle_ps(abs(x), bound); }
@@ -209,6 +249,10 @@ TARN_INLINE float opaque(float x) {
 TARN_INLINE double opaque(double x) {
     asm volatile("" : "+x"(x));
     return x;
+}
+TARN_INLINE std::uint64_t opaque(std::uint64_t v) {
+    asm volatile("" : "+r"(v));
+    return v;
 }
 
 }  // namespace tarn

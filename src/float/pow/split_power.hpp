@@ -51,7 +51,7 @@ TARN_INLINE Split split_log(f32x4 x) {
     const i32x4 row = (rounded >> 16) & splat(127);
     const f32x4 k = to_float(((rounded + switch_row) >> 23) - splat(127));
     const f32x4 m = from_bits(bits(x) - (rounded & splat_i32(0x7F800000)) + splat_i32(0x3F800000));
-    const auto [reciprocal, table_head, table_tail] = gather_triples(powrf_logs, row);
+    const auto [reciprocal, table_head, table_tail, padding] = gather_quads(powrf_logs, row);
 
     const f32x4 mh = from_bits(bits(m) & splat_i32(0x7FFFC000));
     const f32x4 u = mh * reciprocal - splat(1.0f);

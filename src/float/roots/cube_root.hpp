@@ -45,7 +45,7 @@ template <class Root, bool short_series = false> TARN_INLINE f32x4 cube_root_ste
     const i32x4 rem = e - splat(1) - (q + q + q);
 
     const i32x4 row = ((rem << 5) + (shift_right_logical(b, 18) & splat(31))) & ~special;
-    const auto [table_high, table_low, minus_reciprocal] = gather_triples(Root::rows, row);
+    const auto [table_high, table_low, minus_reciprocal, padding] = gather_quads(Root::rows, row);
     const f32x4 minus_m = from_bits((b & splat(0x007FFFFF)) | splat_i32(0xBF800000));
     const f32x4 minus_c = from_bits((b & splat(0x007E0000)) | splat_i32(0xBF820000));
     const f32x4 t = (minus_m - minus_c) * minus_reciprocal;

@@ -1,0 +1,25 @@
+// gamma(x), ln |gamma(x)|, and the latter with the sign of gamma(x): the callouts compute every lane.
+//
+// WORST
+#include "callout/callouts.hpp"
+#include "frame/exports.hpp"
+
+namespace tarn {
+namespace {
+
+struct Tgammaf : Kernel<float(float)> {
+    static constexpr auto callout = callout::tgammaf;
+};
+struct Lgammaf : Kernel<float(float)> {
+    static constexpr auto callout = callout::lgammaf;
+};
+struct Lgammarf : Kernel<Both<float, std::int32_t>(float)> {
+    static constexpr auto callout = callout::lgammarf;
+};
+
+}  // namespace
+}  // namespace tarn
+
+TARN_EXPORT(unary, tgammaf, full, tarn::Tgammaf)
+TARN_EXPORT(unary, lgammaf, full, tarn::Lgammaf)
+TARN_EXPORT(unary_second, lgammarf, full, tarn::Lgammarf)

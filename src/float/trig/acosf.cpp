@@ -1,0 +1,25 @@
+// arccos x: pi/2 - arcsin x up to |x| = 1/2; above it 2 arcsin(sqrt((1 - |x|)/2)), or pi less that for
+// a negative x, with the arcsine's polynomial of degree 11 (native: degree 5 and an estimated root).
+// Magnitudes from 1 on are the callout's.
+#include "callout/callouts.hpp"
+#include "float/trig/arcsine.hpp"
+#include "frame/exports.hpp"
+
+namespace tarn {
+namespace {
+
+template <class Form> struct Acosf : Kernel<float(float)> {
+    static constexpr auto callout = callout::acosf;
+
+    static TARN_INLINE auto fast(f32x4 x) {
+        const auto folded = arcsine::fold_signed<Form>(x);
+        const f32x4 offset = arcsine::start(x, folded, arcsine::half_pi, arcsine::pi);
+        return Flagged{offset + Form::value(folded.u, folded.z), arcsine::one <= abs(x)};
+    }
+};
+
+}  // namespace
+}  // namespace tarn
+
+TARN_EXPORT(unary, acosf, full, tarn::Acosf<tarn::arcsine::Radians>)
+TARN_EXPORT(unary, acosf, native, tarn::Acosf<tarn::arcsine::RadiansNative>)

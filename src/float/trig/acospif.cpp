@@ -1,0 +1,28 @@
+// arccos(x)/pi: the arccosine with its coefficients divided by pi, 1/pi the leading one of the
+// polynomial. Magnitudes from 1 on are the callout's.
+#include "callout/callouts.hpp"
+#include "float/trig/arcsine.hpp"
+#include "frame/exports.hpp"
+
+namespace tarn {
+namespace {
+
+struct Full : arcsine::HalfTurns {
+    static TARN_INLINE f32x4 value(f32x4 u, f32x4 z) { return (rest(z) + arcsine::inv_pi) * u; }
+};
+
+template <class Form> struct Acospif : Kernel<float(float)> {
+    static constexpr auto callout = callout::acospif;
+
+    static TARN_INLINE auto fast(f32x4 x) {
+        const auto folded = arcsine::fold_signed<Form>(x);
+        const f32x4 offset = arcsine::start(x, folded, arcsine::half, arcsine::one);
+        return Flagged{Form::value(folded.u, folded.z) + offset, arcsine::one <= abs(x)};
+    }
+};
+
+}  // namespace
+}  // namespace tarn
+
+TARN_EXPORT(unary, acospif, full, tarn::Acospif<tarn::Full>)
+TARN_EXPORT(unary, acospif, native, tarn::Acospif<tarn::arcsine::HalfTurnsNative>)

@@ -1,0 +1,25 @@
+// arcsin x: an odd polynomial of degree 11 up to |x| = 1/2, above it pi/2 - 2 arcsin(sqrt((1 - |x|)/2))
+// (native: degree 5 and an estimated root). Magnitudes from 1 on are the callout's.
+#include "callout/callouts.hpp"
+#include "float/trig/arcsine.hpp"
+#include "frame/exports.hpp"
+
+namespace tarn {
+namespace {
+
+template <class Form> struct Asinf : Kernel<float(float)> {
+    static constexpr auto callout = callout::asinf;
+
+    static TARN_INLINE auto fast(f32x4 x) {
+        const f32x4 a = abs(x);
+        const auto [u, z, upper] = arcsine::fold<Form>(a);
+        const f32x4 y = Form::value(u, z) + where(upper, arcsine::half_pi);
+        return Flagged{xor_bits(y, sign_bit(x)), arcsine::one <= a};
+    }
+};
+
+}  // namespace
+}  // namespace tarn
+
+TARN_EXPORT(unary, asinf, full, tarn::Asinf<tarn::arcsine::Radians>)
+TARN_EXPORT(unary, asinf, native, tarn::Asinf<tarn::arcsine::RadiansNative>)

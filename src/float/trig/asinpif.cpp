@@ -1,0 +1,35 @@
+// arcsin(x)/pi: the arcsine with its coefficients divided by pi; u/pi is added to the offset before
+// the final sum, which keeps its rounding error small. The native form takes 1/pi into the polynomial.
+// Magnitudes from 1 on are the callout's.
+#include "callout/callouts.hpp"
+#include "float/trig/arcsine.hpp"
+#include "frame/exports.hpp"
+
+namespace tarn {
+namespace {
+
+struct Full : arcsine::HalfTurns {
+    static TARN_INLINE f32x4 sum(f32x4 u, f32x4 z, f32x4 offset) {
+        return rest(z) * u + (u * arcsine::inv_pi + offset);
+    }
+};
+struct Native : arcsine::HalfTurnsNative {
+    static TARN_INLINE f32x4 sum(f32x4 u, f32x4 z, f32x4 offset) { return value(u, z) + offset; }
+};
+
+template <class Form> struct Asinpif : Kernel<float(float)> {
+    static constexpr auto callout = callout::asinpif;
+
+    static TARN_INLINE auto fast(f32x4 x) {
+        const f32x4 a = abs(x);
+        const auto [u, z, upper] = arcsine::fold<Form>(a);
+        const f32x4 y = Form::sum(u, z, where(upper, arcsine::half));
+        return Flagged{xor_bits(y, sign_bit(x)), arcsine::one <= a};
+    }
+};
+
+}  // namespace
+}  // namespace tarn
+
+TARN_EXPORT(unary, asinpif, full, tarn::Asinpif<tarn::Full>)
+TARN_EXPORT(unary, asinpif, native, tarn::Asinpif<tarn::Native>)

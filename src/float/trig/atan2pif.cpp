@@ -1,0 +1,17 @@
+// arctan(y/x)/pi in the quadrant of the point (y, x), with the polynomial of arctan(t)/pi. The native
+// form estimates the reciprocal of the larger coordinate and has degree 7 instead of 17.
+#include "float/trig/arctangent.hpp"
+#include "float/trig/quadrants.hpp"
+#include "frame/exports.hpp"
+
+namespace tarn {
+namespace {
+
+using Atan2pif = Atan2<arctangent::HalfTurns, callout::atan2pif>;
+using Atan2pifNative = Atan2Native<arctangent::HalfTurnsNative, callout::atan2pif>;
+
+}  // namespace
+}  // namespace tarn
+
+TARN_EXPORT(binary, atan2pif, full, tarn::Atan2pif)
+TARN_EXPORT(binary, atan2pif, native, tarn::Atan2pifNative)

@@ -1,0 +1,46 @@
+// arctan(x)/pi by an odd polynomial of degree 17 in t = x, or above 1 in -1/x, from half a quarter turn;
+// the reciprocal is an estimate refined once, of 1 where x stays (native: the bare estimate, degree 7).
+// Below 2^-125, where the products would underflow, and from 2^123 on, where the reciprocal would,
+// the callout answers, as for NaN.
+#include "callout/callouts.hpp"
+#include "float/trig/arctangent.hpp"
+#include "frame/exports.hpp"
+
+namespace tarn {
+namespace {
+
+using arctangent::one;
+constexpr f32x4 two = splat(2.0f);
+constexpr f32x4 minus_one = splat(-1.0f);
+
+struct Full : arctangent::HalfTurns {
+    static TARN_INLINE f32x4 argument(f32x4 a, i32x4 small) {
+        const f32x4 d = select(small, one, a);
+        const f32x4 estimate = reciprocal_estimate(d);
+        return select(small, a, minus_one) * (estimate * (two - d * estimate));
+    }
+};
+struct Native : arctangent::HalfTurnsNative {
+    static TARN_INLINE f32x4 argument(f32x4 a, i32x4 small) {
+        return select(small, a, xor_bits(reciprocal_estimate(a), sign_mask_f32));
+    }
+};
+
+template <class Form> struct Atanpif : Kernel<float(float)> {
+    static constexpr auto callout = callout::atanpif;
+
+    static TARN_INLINE auto fast(f32x4 x) {
+        const f32x4 a = abs(x);
+        const i32x4 small = a <= one;
+        const f32x4 t = Form::argument(a, small);
+        const f32x4 y = Form::over_t(t) * t + where(~small, Form::quarter);
+        const i32x4 from_smallest = bits(a) - splat_i32(0x81000000);  // 2^-125 becomes the least integer
+        return Flagged{or_bits(y, sign_bit(x)), from_smallest >= splat_i32(0xFC000000)};
+    }
+};
+
+}  // namespace
+}  // namespace tarn
+
+TARN_EXPORT(unary, atanpif, full, tarn::Atanpif<tarn::Full>)
+TARN_EXPORT(unary, atanpif, native, tarn::Atanpif<tarn::Native>)

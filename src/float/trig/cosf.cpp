@@ -1,0 +1,39 @@
+// cos x = +-sin r with n = round((x + pi/2)/pi) and r = x - (n - 1/2) pi, |r| <= pi/2; pi in four
+// pieces, the sine an odd polynomial of degree 9 (native: three pieces, degree 5).
+//
+// One lane above 10000 sends the whole call through the exact reduction in turns and the angle table;
+// infinities and NaNs are then the callout's.
+#include "callout/callouts.hpp"
+#include "float/trig/angle_table.hpp"
+#include "float/trig/sine.hpp"
+#include "frame/exports.hpp"
+
+namespace tarn {
+namespace {
+
+constexpr f32x4 half_pi = splat_f32(0x3FC90FDB);  // 1.5707963705062866
+
+// One copy for all widths and variants: inlined, it would be most of the code.
+[[gnu::noinline]] f32x4 large_argument(f32x4 x) { return from_angle_table(cosine_256ths, reduce_exactly<Turns>(x)); }
+
+template <class Form> struct Cosf : Kernel<float(float)> {
+    static constexpr auto callout = callout::cosf;
+
+    static TARN_INLINE auto fast(f32x4 x) {
+        using namespace sine;
+        const f32x4 shifted = (x + half_pi) * inv_pi + shifter;
+        const f32x4 m = (shifted - shifter) - half;
+        const f32x4 r = Form::rest(near(x, m), m);
+        const f32x4 y = Form::polynomial(xor_bits(r, parity_sign(shifted)), r * r);
+        return Flagged{y, abs(x) > limit};
+    }
+
+    static TARN_INLINE auto long_path(f32x4 x) { return Flagged{large_argument(x), not_finite(x)}; }
+};
+
+}  // namespace
+}  // namespace tarn
+
+TARN_EXPORT(unary, cosf, full, tarn::Cosf<tarn::sine::Full>)
+TARN_EXPORT(unary, cosf, native, tarn::Cosf<tarn::sine::Native>)
+TARN_EXPORT_SAME(cosf, half, native)

@@ -1,0 +1,39 @@
+// cos(pi x) = +-sin(pi r) with n = round(|x| + 1/2) and r = |x| - (n - 1/2) exact, |r| <= 1/2; pi r is
+// rounded once and its sine an odd polynomial of degree 9 (native: degree 5). Where |r| is 0 or 1/2
+// the result is exact (native: at 0).
+//
+// One lane above 2^22 sends the call through the same steps after an exact removal of periods, which
+// gives every lane the same bits; infinities and NaNs are then the callout's.
+#include "callout/callouts.hpp"
+#include "float/trig/period.hpp"
+#include "float/trig/sine.hpp"
+#include "frame/exports.hpp"
+
+namespace tarn {
+namespace {
+
+template <class Form> struct Cospif : Kernel<float(float)> {
+    static constexpr auto callout = callout::cospif;
+
+    static TARN_INLINE f32x4 of_magnitude(f32x4 a) {
+        const f32x4 shifted = (a + sine::half) + sine::shifter;
+        const f32x4 m = (shifted - sine::shifter) - sine::half;
+        const f32x4 r = (a - m) * pi;
+        return Form::polynomial(xor_bits(r, sine::parity_sign(shifted)), r * r);
+    }
+
+    static TARN_INLINE auto fast(f32x4 x) {
+        const f32x4 a = abs(x);
+        return Flagged{of_magnitude(a), a > splat(0x1p22f)};
+    }
+
+    static TARN_INLINE auto long_path(f32x4 x) {
+        return Flagged{of_magnitude(without_periods(abs(x))), not_finite(x)};
+    }
+};
+
+}  // namespace
+}  // namespace tarn
+
+TARN_EXPORT(unary, cospif, full, tarn::Cospif<tarn::sine::Full>)
+TARN_EXPORT(unary, cospif, native, tarn::Cospif<tarn::sine::Native>)

@@ -1,0 +1,38 @@
+// sin x = +-sin r with n = round(|x|/pi) and r = |x| - n pi, |r| <= pi/2; pi in four pieces, the sine
+// an odd polynomial of degree 9 (native: three pieces, degree 5).
+//
+// One lane above 10000 sends the whole call through the exact reduction in turns and the angle table;
+// there a zero of either sign gives +0. Infinities and NaNs are then the callout's.
+#include "callout/callouts.hpp"
+#include "float/trig/angle_table.hpp"
+#include "float/trig/sine.hpp"
+#include "frame/exports.hpp"
+
+namespace tarn {
+namespace {
+
+// One copy for all widths and variants: inlined, it would be most of the code.
+[[gnu::noinline]] f32x4 large_argument(f32x4 x) { return from_angle_table(sine_256ths, reduce_exactly<Turns>(x)); }
+
+template <class Form> struct Sinf : Kernel<float(float)> {
+    static constexpr auto callout = callout::sinf;
+
+    static TARN_INLINE auto fast(f32x4 x) {
+        using namespace sine;
+        const f32x4 a = abs(x);
+        const f32x4 shifted = a * inv_pi + shifter;
+        const f32x4 n = shifted - shifter;
+        const f32x4 r = Form::rest(near(a, n), n);
+        const f32x4 y = Form::polynomial(xor_bits(r, parity_sign(shifted)), r * r);
+        return Flagged{xor_bits(y, sign_bit(x)), a > limit};
+    }
+
+    static TARN_INLINE auto long_path(f32x4 x) { return Flagged{large_argument(x), not_finite(x)}; }
+};
+
+}  // namespace
+}  // namespace tarn
+
+TARN_EXPORT(unary, sinf, full, tarn::Sinf<tarn::sine::Full>)
+TARN_EXPORT(unary, sinf, native, tarn::Sinf<tarn::sine::Native>)
+TARN_EXPORT_SAME(sinf, half, native)

@@ -1,0 +1,39 @@
+// sin(pi x) = +-sin(pi r) with n = round(|x|) and r = |x| - n exact, |r| <= 1/2; pi r is rounded once
+// and its sine an odd polynomial of degree 9 (native: degree 5). Where |r| is 0 or 1/2 the result is
+// exact (native: at 0).
+//
+// One lane above 2^22 sends the call through the same steps after an exact removal of periods, which
+// gives every lane the same bits; infinities and NaNs are then the callout's.
+#include "callout/callouts.hpp"
+#include "float/trig/period.hpp"
+#include "float/trig/sine.hpp"
+#include "frame/exports.hpp"
+
+namespace tarn {
+namespace {
+
+template <class Form> struct Sinpif : Kernel<float(float)> {
+    static constexpr auto callout = callout::sinpif;
+
+    static TARN_INLINE f32x4 of_magnitude(f32x4 a, f32x4 x) {
+        const f32x4 shifted = a + sine::shifter;
+        const f32x4 r = (a - (shifted - sine::shifter)) * pi;
+        const f32x4 y = Form::polynomial(xor_bits(r, sine::parity_sign(shifted)), r * r);
+        return xor_bits(y, sign_bit(x));
+    }
+
+    static TARN_INLINE auto fast(f32x4 x) {
+        const f32x4 a = abs(x);
+        return Flagged{of_magnitude(a, x), a > splat(0x1p22f)};
+    }
+
+    static TARN_INLINE auto long_path(f32x4 x) {
+        return Flagged{of_magnitude(without_periods(abs(x)), x), not_finite(x)};
+    }
+};
+
+}  // namespace
+}  // namespace tarn
+
+TARN_EXPORT(unary, sinpif, full, tarn::Sinpif<tarn::sine::Full>)
+TARN_EXPORT(unary, sinpif, native, tarn::Sinpif<tarn::sine::Native>)

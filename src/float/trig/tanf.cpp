@@ -1,0 +1,67 @@
+// tan x = +-Q/P or its cotangent -+P/Q with n = round(2|x|/pi) and r = |x| - n pi/2, |r| <= pi/4: the
+// tangent of r as a quotient of polynomials, inverted where n is odd; pi/2 in four pieces. The native
+// form has three, and the processor's reciprocal estimate for the division.
+//
+// One lane above 8256 sends the whole call through the exact reduction in half turns and the table of
+// the tangent; infinities and NaNs are then the callout's.
+#include "callout/callouts.hpp"
+#include "float/trig/tangent_quotient.hpp"
+#include "float/trig/tangent_table.hpp"
+#include "float/trig/turns.hpp"
+#include "frame/exports.hpp"
+
+namespace tarn {
+namespace {
+
+constexpr f32x4 limit = splat_f32(0x46010000);         // 8256.0
+constexpr f32x4 two_over_pi = splat_f32(0x3F22F983);   // 0.6366197466850281
+constexpr f32x4 shifter = splat_f32(0x4B400000);       // 12582912.0 = 1.5 * 2^23
+constexpr f32x4 half_pi_1 = splat_f32(0x3FC90000);     // 1.5703125
+
+struct Full {
+    static constexpr f32x4 half_pi_2 = splat_f32(0x39FD8000);  // 0.00048351287841796875
+    static constexpr f32x4 half_pi_3 = splat_f32(0x34A88000);  // 3.1385570764541626e-07
+    static constexpr f32x4 half_pi_4 = splat_f32(0x2E85A309);  // 6.07710062827671e-11
+
+    static TARN_INLINE f32x4 reduced(f32x4 a, f32x4 n) {
+        return (((a - n * half_pi_1) - n * half_pi_2) - n * half_pi_3) - n * half_pi_4;
+    }
+    static TARN_INLINE f32x4 value(Quotient y) { return y.numerator / y.denominator; }
+};
+struct Native {
+    static constexpr f32x4 half_pi_2 = splat_f32(0x39FDA000);  // 0.0004837512969970703
+    static constexpr f32x4 half_pi_3 = splat_f32(0x33A22169);  // 7.549790126404332e-08
+
+    static TARN_INLINE f32x4 reduced(f32x4 a, f32x4 n) {
+        return ((a - n * half_pi_1) - n * half_pi_2) - n * half_pi_3;
+    }
+    static TARN_INLINE f32x4 value(Quotient y) { return y.numerator * reciprocal_estimate(y.denominator); }
+};
+
+// One copy for all widths and variants: inlined, it would be most of the code.
+[[gnu::noinline]] f32x4 large_argument(f32x4 x) {
+    const Reduced angle = reduce_exactly<HalfTurns>(x);
+    return select(x == splat(0.0f), x, from_tangent_table(angle.row, angle.head, angle.tail));
+}
+
+template <class Form> struct Tanf : Kernel<float(float)> {
+    static constexpr auto callout = callout::tanf;
+
+    static TARN_INLINE auto fast(f32x4 x) {
+        const f32x4 a = abs(x);
+        const f32x4 shifted = a * two_over_pi + shifter;
+        const i32x4 parity = bits(shifted) << 31;
+        const f32x4 r = Form::reduced(a, shifted - shifter);
+        const f32x4 y = Form::value(tangent_quotient(r, parity));
+        return Flagged{xor_bits(y, sign_bit(x) ^ parity), a > limit};
+    }
+
+    static TARN_INLINE auto long_path(f32x4 x) { return Flagged{large_argument(x), not_finite(x)}; }
+};
+
+}  // namespace
+}  // namespace tarn
+
+TARN_EXPORT(unary, tanf, full, tarn::Tanf<tarn::Full>)
+TARN_EXPORT(unary, tanf, native, tarn::Tanf<tarn::Native>)
+TARN_EXPORT_SAME(tanf, half, native)

@@ -1,0 +1,63 @@
+// tan(pi x): x without its periods to the nearest 128th, the remainder times pi, and the table of the
+// tangent. At integers the result is a zero, at half-integers an infinity, both exactly, with the
+// sign alternating from one to the next. Infinities and NaNs are the callout's.
+//
+// The native form takes r = x - n/2 to the nearest half, |r| <= 1/4, and the quotient of polynomials
+// of the tangent with the processor's reciprocal estimate.
+#include "callout/callouts.hpp"
+#include "float/trig/period.hpp"
+#include "float/trig/tangent_quotient.hpp"
+#include "float/trig/tangent_table.hpp"
+#include "frame/exports.hpp"
+
+namespace tarn {
+namespace {
+
+constexpr i32x4 infinity = splat_i32(0x7F800000);
+constexpr f32x4 zero = splat(0.0f);
+
+struct Tanpif : Kernel<float(float)> {
+    static constexpr auto callout = callout::tanpif;
+
+    static constexpr f32x4 shifter = splat_f32(0x47C00000);  // 98304.0 = 1.5 * 2^16: rounds to 128ths
+
+    static TARN_INLINE auto fast(f32x4 x) {
+        const f32x4 within = without_periods(x);
+        const f32x4 shifted = within + shifter;
+        const i32x4 row = bits(shifted) & splat_i32(127);
+        const f32x4 r = (within - (shifted - shifter)) * pi;
+        const f32x4 y = from_tangent_table(row, r, zero);
+
+        const i32x4 odd = bits(shifted) << 24 & sign_mask_f32;
+        const i32x4 on_pole = (i32x4)(r == zero) & (row == splat_i32(64));
+        const i32x4 on_zero = (i32x4)(r == zero) & (row == splat_i32(0));
+        const f32x4 at_zero = from_bits(sign_bit(x) ^ odd);
+        return Flagged{select(on_pole, from_bits(infinity | odd), select(on_zero, at_zero, y)), not_finite(x)};
+    }
+};
+
+struct TanpifNative : Kernel<float(float)> {
+    static constexpr auto callout = callout::tanpif;
+
+    static constexpr f32x4 shifter = splat_f32(0x4AC00000);  // 6291456.0 = 1.5 * 2^22: rounds to halves
+
+    static TARN_INLINE auto fast(f32x4 x) {
+        const f32x4 within = without_periods(x);
+        const f32x4 shifted = within + shifter;
+        const i32x4 inverted = bits(shifted) << 31;
+        const f32x4 r = (within - (shifted - shifter)) * pi;
+        const auto [numerator, denominator] = tangent_quotient(r, inverted);
+        const f32x4 y = numerator * reciprocal_estimate(denominator);
+
+        // Where r is 0, y is +0 or +inf.
+        const i32x4 odd = bits(shifted) << 30 & sign_mask_f32;
+        const i32x4 exact_sign = odd ^ (sign_bit(x) & ~(inverted >> 31));
+        return Flagged{xor_bits(y, select((i32x4)(r == zero), exact_sign, inverted)), not_finite(x)};
+    }
+};
+
+}  // namespace
+}  // namespace tarn
+
+TARN_EXPORT(unary, tanpif, full, tarn::Tanpif)
+TARN_EXPORT(unary, tanpif, native, tarn::TanpifNative)

@@ -1,0 +1,102 @@
+// Exact reduction of any finite angle: x in turns (or half turns), reduced to the nearest point of a
+// grid and the remainder in radians as head and tail.
+//
+// x = m 2^(e-150) with a significand m of 24 bits. Row e of two_over_pi_96 holds as many bits of 2/pi as matter:
+// those above give whole turns, those below vanish. The product with m is formed in columns of 16
+// bits, because the instruction set multiplies lanes of 32 bits only; its bits 32 to 95 are the
+// fraction of a turn.
+#pragma once
+
+#include "frame/simd.hpp"
+
+namespace tarn {
+
+#include "tables/two_over_pi_96.inc"
+
+// What the angle is counted in: the fraction of a turn doubled or not, the grid (the shifter whose
+// sum is rounded to it, the mask of a grid point's number), and the unit in radians: rounded, and as
+// a head of 12 bits with a tail.
+struct Turns {
+    static constexpr int doublings = 0;
+    static constexpr f32x4 shifter = splat_f32(0x47400000);    // 49152.0 = 1.5 * 2^15: 256ths
+    static constexpr i32x4 row_mask = splat_i32(255);
+    static constexpr f32x4 unit = splat_f32(0x40C90FDB);       // 6.2831854820251465 = 2 pi
+    static constexpr f32x4 unit_head = splat_f32(0x40C91000);  // 6.283203125
+    static constexpr f32x4 unit_tail = splat_f32(0xB795777A);  // -1.781781975296326e-05
+};
+struct HalfTurns {
+    static constexpr int doublings = 1;
+    static constexpr f32x4 shifter = splat_f32(0x47C00000);    // 98304.0 = 1.5 * 2^16: 128ths
+    static constexpr i32x4 row_mask = splat_i32(127);
+    static constexpr f32x4 unit = splat_f32(0x40490FDB);       // 3.1415927410125732 = pi
+    static constexpr f32x4 unit_head = splat_f32(0x40491000);  // 3.1416015625
+    static constexpr f32x4 unit_tail = splat_f32(0xB715777A);  // -8.90890987648163e-06
+};
+
+// The angle of grid point `row`, plus head + tail radians.
+struct Reduced {
+    i32x4 row;
+    f32x4 head, tail;
+};
+
+struct Fraction {
+    u32x4 high, low;
+};
+
+// The 64 bits after the binary point of |x| / (2 pi). Products below bit 32 are left out but for what
+// they carry, as they change nothing above 2^-63.
+TARN_INLINE Fraction fraction_of_turn(f32x4 x) {
+    const i32x4 exponent = shift_right_logical(bits(abs(x)), 23);
+    const auto row = gather_quads(two_over_pi_96, exponent);
+    const u32x4 m = (u32x4)((bits(x) & splat_i32(0x007FFFFF)) + splat_i32(0x00800000));
+    const u32x4 m_high = m >> 16, m_low = m & 0xFFFF;
+    const u32x4 t0 = (u32x4)row.first, t1 = (u32x4)row.second, t2 = (u32x4)row.third;
+    const u32x4 t0_high = t0 >> 16, t0_low = t0 & 0xFFFF;
+    const u32x4 t1_high = t1 >> 16, t1_low = t1 & 0xFFFF;
+    const u32x4 t2_high = t2 >> 16, t2_low = t2 & 0xFFFF;
+    const u32x4 p0 = m_low * t2_high, p1 = m_low * t1_low, p2 = m_low * t1_high;
+    const u32x4 p3 = m_low * t0_low, p4 = m_low * t0_high;
+    const u32x4 k0 = (p1 & 0xFFFF) + m_high * t2_high + (p0 >> 16) + ((m_high * t2_low) >> 16);
+    const u32x4 k1 = (k0 >> 16) + (p2 & 0xFFFF) + m_high * t1_low + (p1 >> 16);
+    const u32x4 k2 = (k1 >> 16) + (p3 & 0xFFFF) + m_high * t1_high + (p2 >> 16);
+    const u32x4 k3 = (k2 >> 16) + (p4 & 0xFFFF) + m_high * t0_low + (p3 >> 16);
+    return {(k3 << 16) + (k2 & 0xFFFF), (k1 << 16) + (k0 & 0xFFFF)};
+}
+
+template <class Unit> TARN_INLINE Reduced reduce_exactly(f32x4 x) {
+    auto [high, low] = fraction_of_turn(x);
+    if constexpr (Unit::doublings == 1) {
+        high = high << 1 | low >> 31;
+        low = low << 1;
+    }
+
+    // The fraction as three floats of 23, 23 and 18 bits with the sign of x, each made by writing its
+    // bits below a leading one and subtracting that.
+    const u32x4 sign = (u32x4)sign_bit(x);
+    const auto leading = [&](std::uint32_t power) __attribute__((always_inline)) { return sign | power; };
+    const auto value = [&](u32x4 bits_below, std::uint32_t power) __attribute__((always_inline)) {
+        return (f32x4)(bits_below | leading(power)) - (f32x4)leading(power);
+    };
+    const f32x4 one_and_top = (f32x4)(high >> 9 | leading(0x3F800000));              // 1.0 and 2^-23 units
+    const f32x4 middle = value((high & 0x1FF) << 14 | low >> 18, 0x34000000);        // 2^-23
+    const f32x4 last = value((low & 0x3FFFF) << 5, 0x28800000);                      // 2^-46
+    const f32x4 shifted = one_and_top + Unit::shifter;
+    const f32x4 top = one_and_top - (shifted - Unit::shifter);
+
+    // The remainder in units, as a sum of 12 leading bits, the rest and a tail; then in radians.
+    const f32x4 s = top + middle;
+    const f32x4 s_head = from_bits(bits(s) & splat_i32(0xFFFFF000));
+    const f32x4 s_rest = s - s_head;
+    const f32x4 s_tail = (middle + (top - s)) + last;
+    const f32x4 head = Unit::unit_head * s_head;  // exact
+    const f32x4 rest = (Unit::unit_head * s_rest + s_head * Unit::unit_tail) +
+                       (Unit::unit * s_tail + Unit::unit_tail * s_rest);
+    const f32x4 r = head + rest;
+    const f32x4 r_tail = (head - r) + rest;
+
+    // Too small for the fraction's bits: row 0, and x is its own remainder.
+    const i32x4 tiny = abs(x) <= splat_f32(0x35800000);  // 2^-20
+    return {bits(shifted) & Unit::row_mask, select(tiny, x, r), where(~tiny, r_tail)};
+}
+
+}  // namespace tarn

@@ -1,0 +1,60 @@
+// The smaller, the larger, the one larger or smaller in magnitude, and the positive difference. Exact
+// (fdim: one rounding). Ordinary lanes are one or a few of the processor's comparisons, whose answer
+// for two zeros is the second operand; lanes with an infinity or a NaN go to the callout, where one
+// NaN is ignored.
+#include "callout/callouts.hpp"
+#include "frame/exports.hpp"
+#include "lanewise/format.hpp"
+
+namespace tarn {
+namespace {
+
+template <class Lane> TARN_INLINE i32x4 either_not_finite(Block<Lane> x, Block<Lane> y) {
+    return not_finite<Lane>(x) | not_finite<Lane>(y);
+}
+
+template <class Lane> struct Fmin : Kernel<Lane(Lane, Lane)> {
+    static constexpr auto callout = callout::fmin<Lane>;
+    static TARN_INLINE auto fast(Block<Lane> x, Block<Lane> y) {
+        return Flagged{min(x, y), either_not_finite<Lane>(x, y)};
+    }
+};
+
+template <class Lane> struct Fmax : Kernel<Lane(Lane, Lane)> {
+    static constexpr auto callout = callout::fmax<Lane>;
+    static TARN_INLINE auto fast(Block<Lane> x, Block<Lane> y) {
+        return Flagged{max(x, y), either_not_finite<Lane>(x, y)};
+    }
+};
+
+template <class Lane> struct MaxMag : Kernel<Lane(Lane, Lane)> {
+    static constexpr auto callout = callout::maxmag<Lane>;
+    static TARN_INLINE auto fast(Block<Lane> x, Block<Lane> y) {
+        const auto unequal = select(abs(x) > abs(y), x, y);
+        return Flagged{select(abs(x) == abs(y), max(y, x), unequal), either_not_finite<Lane>(x, y)};
+    }
+};
+
+template <class Lane> struct MinMag : Kernel<Lane(Lane, Lane)> {
+    static constexpr auto callout = callout::minmag<Lane>;
+    static TARN_INLINE auto fast(Block<Lane> x, Block<Lane> y) {
+        const auto unequal = select(abs(x) < abs(y), x, y);
+        return Flagged{select(abs(x) == abs(y), min(y, x), unequal), either_not_finite<Lane>(x, y)};
+    }
+};
+
+template <class Lane> struct Fdim : Kernel<Lane(Lane, Lane)> {
+    static constexpr auto callout = callout::fdim<Lane>;
+    static TARN_INLINE auto fast(Block<Lane> x, Block<Lane> y) {
+        return Flagged{from_bits(bits(x - y) & (y < x)), either_not_finite<Lane>(x, y)};
+    }
+};
+
+}  // namespace
+}  // namespace tarn
+
+TARN_EXPORT_BOTH(binary, fmin, tarn::Fmin)
+TARN_EXPORT_BOTH(binary, fmax, tarn::Fmax)
+TARN_EXPORT_BOTH(binary, maxmag, tarn::MaxMag)
+TARN_EXPORT_BOTH(binary, minmag, tarn::MinMag)
+TARN_EXPORT_BOTH(binary, fdim, tarn::Fdim)
