@@ -110,11 +110,34 @@ TARN_INLINE f32x4 narrow(f64x2 low, f64x2 high) { return _mm_movelh_ps(_mm_cvtpd
 
 // Polynomials ------------------------------------------------------------------------------------
 
-// Horner's rule, highest coefficient first: ((c0*x + c1)*x + c2)*x + ...
+// Horner's rule, highest coefficient first: ((c0*x + c1)*x + c2)*x + ... A coefficient may be one lane.
 template <class V> TARN_INLINE V horner(V, V sum) { return sum; }
-template <class V, class... More> TARN_INLINE V horner(V x, V leading, V next, More... more) {
-    return horner(x, leading * x + next, more...);
+template <class V, class C, class D, class... More> TARN_INLINE V horner(V x, C leading, D next, More... more) {
+    return horner(x, V(leading * x + next), more...);
 }
+
+// Several blocks as one --------------------------------------------------------------------------
+// A kernel written for blocks of any size takes all lanes of a wide call at once, and the compiler
+// interleaves its blocks operation by operation: they advance together, where one after the other the
+// processor can only look ahead from one to the next. Its constants are single lanes.
+
+template <int blocks> struct SeveralBlocks;
+template <> struct SeveralBlocks<2> {
+    typedef float f32 __attribute__((vector_size(32)));
+};
+template <> struct SeveralBlocks<4> {
+    typedef float f32 __attribute__((vector_size(64)));
+};
+
+template <class V> concept Several = sizeof(V) > 16;
+template <class V> using LanesOf = decltype(V{} < V{});  // the integers, or the mask, beside a vector of floats
+
+template <Several V> TARN_INLINE LanesOf<V> bits(V x) { return (LanesOf<V>)x; }
+template <Several V> TARN_INLINE LanesOf<V> sign_bit(V x) { return bits(x) & bits(-0.0f); }
+template <Several V> TARN_INLINE V abs(V x) { return (V)(bits(x) & 0x7FFFFFFF); }
+template <Several V> TARN_INLINE V or_bits(V x, LanesOf<V> pattern) { return (V)(bits(x) | pattern); }
+template <Several V> TARN_INLINE V xor_bits(V x, LanesOf<V> pattern) { return (V)(bits(x) ^ pattern); }
+template <Several V> TARN_INLINE V where(LanesOf<V> mask, V x) { return (V)(bits(x) & mask); }
 
 // Table rows -------------------------------------------------------------------------------------
 

@@ -11,20 +11,21 @@
 namespace tarn {
 namespace {
 
-constexpr f32x4 half_pi = splat_f32(0x3FC90FDB);  // 1.5707963705062866
+constexpr float half_pi = f32(0x3FC90FDB);  // 1.5707963705062866
 
 // One copy for all widths and variants: inlined, it would be most of the code.
 [[gnu::noinline]] f32x4 large_argument(f32x4 x) { return from_angle_table(cosine_256ths, reduce_exactly<Turns>(x)); }
 
 template <class Form> struct Cosf : Kernel<float(float)> {
     static constexpr auto callout = callout::cosf;
+    static constexpr bool any_blocks = true;
 
-    static TARN_INLINE auto fast(f32x4 x) {
+    template <class V> static TARN_INLINE auto fast(V x) {
         using namespace sine;
-        const f32x4 shifted = (x + half_pi) * inv_pi + shifter;
-        const f32x4 m = (shifted - shifter) - half;
-        const f32x4 r = Form::rest(near(x, m), m);
-        const f32x4 y = Form::polynomial(xor_bits(r, parity_sign(shifted)), r * r);
+        const V shifted = (x + half_pi) * inv_pi + shifter;
+        const V m = (shifted - shifter) - half;
+        const V r = Form::rest(near(x, m), m);
+        const V y = Form::polynomial(xor_bits(r, parity_sign(shifted)), r * r);
         return Flagged{y, abs(x) > limit};
     }
 

@@ -16,14 +16,15 @@ namespace {
 
 template <class Form> struct Sinf : Kernel<float(float)> {
     static constexpr auto callout = callout::sinf;
+    static constexpr bool any_blocks = true;
 
-    static TARN_INLINE auto fast(f32x4 x) {
+    template <class V> static TARN_INLINE auto fast(V x) {
         using namespace sine;
-        const f32x4 a = abs(x);
-        const f32x4 shifted = a * inv_pi + shifter;
-        const f32x4 n = shifted - shifter;
-        const f32x4 r = Form::rest(near(a, n), n);
-        const f32x4 y = Form::polynomial(xor_bits(r, parity_sign(shifted)), r * r);
+        const V a = abs(x);
+        const V shifted = a * inv_pi + shifter;
+        const V n = shifted - shifter;
+        const V r = Form::rest(near(a, n), n);
+        const V y = Form::polynomial(xor_bits(r, parity_sign(shifted)), r * r);
         return Flagged{xor_bits(y, sign_bit(x)), a > limit};
     }
 
