@@ -1,7 +1,9 @@
 // arctan(x)/pi by an odd polynomial of degree 17 in t = x, or above 1 in -1/x, from half a quarter turn;
-// the reciprocal is an estimate refined once, of 1 where x stays (native: the bare estimate, degree 7).
+// the reciprocal is an estimate refined once, of 1 where x stays (native: the bare estimate, degree 9).
 // Below 2^-125, where the products would underflow, and from 2^123 on, where the reciprocal would,
 // the callout answers, as for NaN.
+//
+// Worst error 3.61 ulp at 0.9969794; native 1854 at 1.1950682.
 #include "callout/callouts.hpp"
 #include "float/trig/arctangent.hpp"
 #include "frame/exports.hpp"
