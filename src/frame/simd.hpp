@@ -33,6 +33,9 @@ TARN_INLINE f64x2 from_bits(i64x2 pattern) { return (f64x2)pattern; }
 TARN_INLINE i32x4 shift_right_logical(i32x4 v, int count) { return (i32x4)((u32x4)v >> count); }
 TARN_INLINE i64x2 shift_right_logical(i64x2 v, int count) { return (i64x2)((u64x2)v >> count); }
 
+// A sum that may wrap round; `+` on signed lanes must not.
+TARN_INLINE i32x4 wrapping_sum(i32x4 v, i32x4 w) { return (i32x4)((u32x4)v + (u32x4)w); }
+
 // Constants: every lane the same -----------------------------------------------------------------
 
 constexpr i32x4 splat(std::int32_t v) { return i32x4{v, v, v, v}; }

@@ -36,7 +36,7 @@ template <class Form> struct Atanpif : Kernel<float(float)> {
         const i32x4 small = a <= one;
         const f32x4 t = Form::argument(a, small);
         const f32x4 y = Form::over_t(t) * t + where(~small, Form::quarter);
-        const i32x4 from_smallest = bits(a) - splat_i32(0x81000000);  // 2^-125 becomes the least integer
+        const i32x4 from_smallest = wrapping_sum(bits(a), splat_i32(0x7F000000));  // 2^-125 becomes the least integer
         return Flagged{or_bits(y, sign_bit(x)), from_smallest >= splat_i32(0xFC000000)};
     }
 };
