@@ -722,7 +722,9 @@ tarn_double16 __ocl_tarn_k1_hypot16_native(tarn_double16 x, tarn_double16 y) TAR
 
 /* Trigonometry ------------------------------------------------------------------------------------ */
 
-/* sinf: sin x. Domain: radians, every finite x. Special values: infinities give NaN; zeros keep their sign. */
+/* sinf: sin x. Domain: radians, every finite x. Special values: infinities give NaN; zeros keep their sign.
+   Worst error 2.474 ulp (OpenCL allows 4); native and half 2321; measured over all inputs up to 10000,
+   every 211th above. */
 float __ocl_tarn_k1_sinf1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_sinf2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_sinf3(tarn_float3 x) TARN_CONST;
@@ -756,7 +758,8 @@ tarn_double4 __ocl_tarn_k1_sin4_native(tarn_double4 x) TARN_CONST;
 tarn_double8 __ocl_tarn_k1_sin8_native(tarn_double8 x) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_sin16_native(tarn_double16 x) TARN_CONST;
 
-/* cosf: cos x. Domain: radians, every finite x. Special values: infinities give NaN. */
+/* cosf: cos x. Domain: radians, every finite x. Special values: infinities give NaN. Worst error 2.387 ulp
+   (OpenCL allows 4); native and half 2349; measured over all inputs up to 10000, every 211th above. */
 float __ocl_tarn_k1_cosf1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_cosf2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_cosf3(tarn_float3 x) TARN_CONST;
@@ -791,7 +794,8 @@ tarn_double8 __ocl_tarn_k1_cos8_native(tarn_double8 x) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_cos16_native(tarn_double16 x) TARN_CONST;
 
 /* sincosf: sin x, and cos x through the pointer. Domain: radians, every finite x. Special values: as sin
-   and cos. */
+   and cos. Worst error 2.474 ulp (OpenCL allows 4); native 2321; measured over all inputs up to 10000,
+   every 211th above. */
 float __ocl_tarn_k1_sincosf1(float x, float* second);
 tarn_float2 __ocl_tarn_k1_sincosf2(tarn_float2 x, float* second);
 tarn_float3 __ocl_tarn_k1_sincosf3(tarn_float3 x, float* second);
@@ -820,7 +824,8 @@ tarn_double4 __ocl_tarn_k1_sincos4_native(tarn_double4 x, double* second);
 tarn_double8 __ocl_tarn_k1_sincos8_native(tarn_double8 x, double* second);
 tarn_double16 __ocl_tarn_k1_sincos16_native(tarn_double16 x, double* second);
 
-/* sincosregf: sin x and cos x. Domain: radians, every finite x. Special values: as sin and cos. */
+/* sincosregf: sin x and cos x. Domain: radians, every finite x. Special values: as sin and cos. Worst error
+   2.474 ulp (OpenCL allows 4); native 2321; measured over all inputs up to 10000, every 211th above. */
 tarn_sincos_float1 __ocl_tarn_k1_sincosregf1(float x) TARN_CONST;
 tarn_sincos_float2 __ocl_tarn_k1_sincosregf2(tarn_float2 x) TARN_CONST;
 tarn_sincos_float3 __ocl_tarn_k1_sincosregf3(tarn_float3 x) TARN_CONST;
@@ -848,7 +853,9 @@ tarn_sincos_double4 __ocl_tarn_k1_sincosreg4_native(tarn_double4 x) TARN_CONST;
 tarn_sincos_double8 __ocl_tarn_k1_sincosreg8_native(tarn_double8 x) TARN_CONST;
 tarn_sincos_double16 __ocl_tarn_k1_sincosreg16_native(tarn_double16 x) TARN_CONST;
 
-/* tanf: tan x. Domain: radians, every finite x. Special values: infinities give NaN; zeros keep their sign. */
+/* tanf: tan x. Domain: radians, every finite x. Special values: infinities give NaN; zeros keep their sign.
+   Worst error 4.556 ulp (OpenCL allows 5); native and half 5203; measured over all inputs up to 8256, every
+   211th above. */
 float __ocl_tarn_k1_tanf1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_tanf2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_tanf3(tarn_float3 x) TARN_CONST;
@@ -883,7 +890,8 @@ tarn_double8 __ocl_tarn_k1_tan8_native(tarn_double8 x) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_tan16_native(tarn_double16 x) TARN_CONST;
 
 /* sinpif: sin(pi x). Domain: half turns, every finite x. Special values: infinities give NaN; integers a
-   zero with the sign of x. */
+   zero with the sign of x. Worst error 2.131 ulp (OpenCL allows 4); native 2280; measured over all inputs
+   up to 2^24; integers beyond. */
 float __ocl_tarn_k1_sinpif1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_sinpif2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_sinpif3(tarn_float3 x) TARN_CONST;
@@ -913,7 +921,8 @@ tarn_double8 __ocl_tarn_k1_sinpi8_native(tarn_double8 x) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_sinpi16_native(tarn_double16 x) TARN_CONST;
 
 /* cospif: cos(pi x). Domain: half turns, every finite x. Special values: infinities give NaN; half-integers
-   +0. */
+   +0. Worst error 2.109 ulp (OpenCL allows 4); native 2280; measured over all inputs up to 2^24; integers
+   beyond. */
 float __ocl_tarn_k1_cospif1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_cospif2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_cospif3(tarn_float3 x) TARN_CONST;
@@ -943,7 +952,8 @@ tarn_double8 __ocl_tarn_k1_cospi8_native(tarn_double8 x) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_cospi16_native(tarn_double16 x) TARN_CONST;
 
 /* tanpif: tan(pi x). Domain: half turns, every finite x. Special values: infinities give NaN; tanpi(n) is
-   copysign(0, n) for even n, copysign(0, -n) for odd n. */
+   copysign(0, n) for even n, copysign(0, -n) for odd n. Worst error 1.908 ulp (OpenCL allows 6); native
+   5197; measured over all inputs up to 2^24; integers beyond. */
 float __ocl_tarn_k1_tanpif1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_tanpif2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_tanpif3(tarn_float3 x) TARN_CONST;
@@ -974,7 +984,8 @@ tarn_double16 __ocl_tarn_k1_tanpi16_native(tarn_double16 x) TARN_CONST;
 
 /* Inverse trigonometry ---------------------------------------------------------------------------- */
 
-/* asinf: arcsin x. Domain: |x| <= 1; radians. Special values: beyond 1 NaN; zeros keep their sign. */
+/* asinf: arcsin x. Domain: |x| <= 1; radians. Special values: beyond 1 NaN; zeros keep their sign. Worst
+   error 2.274 ulp (OpenCL allows 4); native 4541; measured over all inputs (native: from 0.2 on). */
 float __ocl_tarn_k1_asinf1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_asinf2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_asinf3(tarn_float3 x) TARN_CONST;
@@ -1002,7 +1013,8 @@ tarn_double4 __ocl_tarn_k1_asin4_native(tarn_double4 x) TARN_CONST;
 tarn_double8 __ocl_tarn_k1_asin8_native(tarn_double8 x) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_asin16_native(tarn_double16 x) TARN_CONST;
 
-/* acosf: arccos x. Domain: |x| <= 1; radians. Special values: beyond 1 NaN; acos(1) is +0. */
+/* acosf: arccos x. Domain: |x| <= 1; radians. Special values: beyond 1 NaN; acos(1) is +0. Worst error
+   1.238 ulp (OpenCL allows 4); native 4685; measured over all inputs. */
 float __ocl_tarn_k1_acosf1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_acosf2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_acosf3(tarn_float3 x) TARN_CONST;
@@ -1030,7 +1042,9 @@ tarn_double4 __ocl_tarn_k1_acos4_native(tarn_double4 x) TARN_CONST;
 tarn_double8 __ocl_tarn_k1_acos8_native(tarn_double8 x) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_acos16_native(tarn_double16 x) TARN_CONST;
 
-/* atanf: arctan x. Domain: every x; radians. Special values: infinities give +-pi/2; zeros keep their sign. */
+/* atanf: arctan x. Domain: every x; radians. Special values: infinities give +-pi/2; zeros keep their sign.
+   Worst error 3.752 ulp (OpenCL allows 5); native 2912; measured over all inputs (native: every third from
+   0.1 to 10000). */
 float __ocl_tarn_k1_atanf1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_atanf2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_atanf3(tarn_float3 x) TARN_CONST;
@@ -1059,7 +1073,7 @@ tarn_double8 __ocl_tarn_k1_atan8_native(tarn_double8 x) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_atan16_native(tarn_double16 x) TARN_CONST;
 
 /* atan2f: the angle of the point (y, x); first argument y. Domain: every y and x; radians. Special values:
-   C99 Annex F. */
+   C99 Annex F. Worst error 3.908 ulp (OpenCL allows 6); native 5585; measured over 2 * 10^8 random pairs. */
 float __ocl_tarn_k1_atan2f1(float x, float y) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_atan2f2(tarn_float2 x, tarn_float2 y) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_atan2f3(tarn_float3 x, tarn_float3 y) TARN_CONST;
@@ -1089,7 +1103,8 @@ tarn_double8 __ocl_tarn_k1_atan28_native(tarn_double8 x, tarn_double8 y) TARN_CO
 tarn_double16 __ocl_tarn_k1_atan216_native(tarn_double16 x, tarn_double16 y) TARN_CONST;
 
 /* asinpif: arcsin(x) / pi. Domain: |x| <= 1; half turns. Special values: beyond 1 NaN; zeros keep their
-   sign. */
+   sign. Worst error 3.208 ulp (OpenCL allows 5); native 844.3; measured over all inputs (native: every
+   third from 0.2 on). */
 float __ocl_tarn_k1_asinpif1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_asinpif2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_asinpif3(tarn_float3 x) TARN_CONST;
@@ -1118,7 +1133,8 @@ tarn_double4 __ocl_tarn_k1_asinpi4_native(tarn_double4 x) TARN_CONST;
 tarn_double8 __ocl_tarn_k1_asinpi8_native(tarn_double8 x) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_asinpi16_native(tarn_double16 x) TARN_CONST;
 
-/* acospif: arccos(x) / pi. Domain: |x| <= 1; half turns. Special values: beyond 1 NaN; acospi(1) is +0. */
+/* acospif: arccos(x) / pi. Domain: |x| <= 1; half turns. Special values: beyond 1 NaN; acospi(1) is +0.
+   Worst error 2.457 ulp (OpenCL allows 5); native 4331; measured over all inputs (native: from 0.2 on). */
 float __ocl_tarn_k1_acospif1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_acospif2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_acospif3(tarn_float3 x) TARN_CONST;
@@ -1147,7 +1163,8 @@ tarn_double8 __ocl_tarn_k1_acospi8_native(tarn_double8 x) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_acospi16_native(tarn_double16 x) TARN_CONST;
 
 /* atanpif: arctan(x) / pi. Domain: every x; half turns. Special values: infinities give +-0.5; zeros keep
-   their sign. */
+   their sign. Worst error 3.607 ulp (OpenCL allows 5); native 1854; measured over all inputs (native: every
+   third from 0.1 to 10000). */
 float __ocl_tarn_k1_atanpif1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_atanpif2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_atanpif3(tarn_float3 x) TARN_CONST;
@@ -1177,7 +1194,8 @@ tarn_double8 __ocl_tarn_k1_atanpi8_native(tarn_double8 x) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_atanpi16_native(tarn_double16 x) TARN_CONST;
 
 /* atan2pif: the angle of the point (y, x) over pi; first argument y. Domain: every y and x; half turns.
-   Special values: as atan2, divided by pi. */
+   Special values: as atan2, divided by pi. Worst error 3.14 ulp (OpenCL allows 6); native 5578; measured
+   over 2 * 10^8 random pairs. */
 float __ocl_tarn_k1_atan2pif1(float x, float y) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_atan2pif2(tarn_float2 x, tarn_float2 y) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_atan2pif3(tarn_float3 x, tarn_float3 y) TARN_CONST;

@@ -9,6 +9,7 @@
 //   fast gives Flagged, finish                   every group with a flagged lane is finished by the kernel
 //   callout alone                                every lane goes to the callout
 //
+// A kernel that declares `any_blocks` has a `fast` for one block or several as one vector.
 // `fast`, `long_path` and `finish` take and give groups. A callout is scalar and takes one pointer for
 // each operand, inputs first: int(const A*..., R*), or int(const A*..., R*, S*) with a second result.
 #pragma once
@@ -182,13 +183,30 @@ private:
     // Computes all groups on one path; the special lanes are the result.
     template <class Path>
     static TARN_INLINE unsigned evaluate(Result& result, const Vec<A, width>&... x, S*... second) {
-        if constexpr (requires { &K::fast; }) {
+        if constexpr (requires { K::any_blocks; } && in_memory<R, width> && std::is_same_v<Path, Fast>) {
+            return at_once(result, x..., second...);
+        } else if constexpr (requires { &K::fast; } || requires { K::any_blocks; }) {
             return over<Path>(std::make_integer_sequence<int, count>{}, result, x..., second...);
         } else {
             if constexpr (!in_memory<R, width>) result = Result{};  // the lane that width 3 does not call for
             LaneArray<R, width> lanes_of_result(result);
             Special::visit(lane_mask(width), K::callout, lanes_of_result, LaneArray<A, width>(x)..., second...);
             result = lanes_of_result.reload();
+            return 0;
+        }
+    }
+
+    // All lanes of a wide call at once, for a kernel written for any number of blocks.
+    static TARN_INLINE unsigned at_once(Result& result, const Vec<A, width>&... x, S*... second) {
+        using Blocks = typename SeveralBlocks<count>::f32;
+        const auto g = K::fast(__builtin_bit_cast(Blocks, x)...);
+        result = __builtin_bit_cast(Result, value_of(g));
+        ((__builtin_memcpy(second, &g.second, sizeof g.second)), ...);
+        if constexpr (requires { g.special; }) {
+            i32x4 masks[count];
+            __builtin_memcpy(masks, &g.special, sizeof masks);
+            return special_bits<lanes>(masks);
+        } else {
             return 0;
         }
     }

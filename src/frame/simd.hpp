@@ -33,6 +33,9 @@ TARN_INLINE f64x2 from_bits(i64x2 pattern) { return (f64x2)pattern; }
 TARN_INLINE i32x4 shift_right_logical(i32x4 v, int count) { return (i32x4)((u32x4)v >> count); }
 TARN_INLINE i64x2 shift_right_logical(i64x2 v, int count) { return (i64x2)((u64x2)v >> count); }
 
+// A sum that may wrap round; `+` on signed lanes must not.
+TARN_INLINE i32x4 wrapping_sum(i32x4 v, i32x4 w) { return (i32x4)((u32x4)v + (u32x4)w); }
+
 // Constants: every lane the same -----------------------------------------------------------------
 
 constexpr i32x4 splat(std::int32_t v) { return i32x4{v, v, v, v}; }
@@ -139,11 +142,34 @@ TARN_INLINE i32x4 lower_words(i64x2 low, i64x2 high) {
 
 // Polynomials ------------------------------------------------------------------------------------
 
-// Horner's rule, highest coefficient first: ((c0*x + c1)*x + c2)*x + ...
+// Horner's rule, highest coefficient first: ((c0*x + c1)*x + c2)*x + ... A coefficient may be one lane.
 template <class V> TARN_INLINE V horner(V, V sum) { return sum; }
-template <class V, class... More> TARN_INLINE V horner(V x, V leading, V next, More... more) {
-    return horner(x, leading * x + next, more...);
+template <class V, class C, class D, class... More> TARN_INLINE V horner(V x, C leading, D next, More... more) {
+    return horner(x, V(leading * x + next), more...);
 }
+
+// Several blocks as one --------------------------------------------------------------------------
+// A kernel written for blocks of any size takes all lanes of a wide call at once, and the compiler
+// interleaves its blocks operation by operation: they advance together, where one after the other the
+// processor can only look ahead from one to the next. Its constants are single lanes.
+
+template <int blocks> struct SeveralBlocks;
+template <> struct SeveralBlocks<2> {
+    typedef float f32 __attribute__((vector_size(32)));
+};
+template <> struct SeveralBlocks<4> {
+    typedef float f32 __attribute__((vector_size(64)));
+};
+
+template <class V> concept Several = sizeof(V) > 16;
+template <class V> using LanesOf = decltype(V{} < V{});  // the integers, or the mask, beside a vector of floats
+
+template <Several V> TARN_INLINE LanesOf<V> bits(V x) { return (LanesOf<V>)x; }
+template <Several V> TARN_INLINE LanesOf<V> sign_bit(V x) { return bits(x) & bits(-0.0f); }
+template <Several V> TARN_INLINE V abs(V x) { return (V)(bits(x) & 0x7FFFFFFF); }
+template <Several V> TARN_INLINE V or_bits(V x, LanesOf<V> pattern) { return (V)(bits(x) | pattern); }
+template <Several V> TARN_INLINE V xor_bits(V x, LanesOf<V> pattern) { return (V)(bits(x) ^ pattern); }
+template <Several V> TARN_INLINE V where(LanesOf<V> mask, V x) { return (V)(bits(x) & mask); }
 
 // Table rows -------------------------------------------------------------------------------------
 

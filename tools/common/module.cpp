@@ -16,10 +16,9 @@ template <class... T> struct List {};
 
 // Calls through the C signature that the public header gives a shape at a width.
 template <int width, class R, class Second, bool pair, class... A> struct Caller {
-    template <class T> static Vec<T, width> load(const std::byte* from, std::size_t call) {
-        Vec<T, width> v;
-        std::memcpy(&v, from + call * sizeof v, sizeof v);
-        return v;
+    // A reference, so that a vector in memory is copied once, to where the callee expects it.
+    template <class T> static const Vec<T, width>& load(const std::byte* from, std::size_t call) {
+        return reinterpret_cast<const Vec<T, width>*>(from)[call];
     }
 
     template <std::size_t... i>

@@ -1,4 +1,4 @@
-// arctan(t)/t on [0, 1], in radians and in half turns: even polynomials of degree 16 (native: 6), and
+// arctan(t)/t on [0, 1], in radians and in half turns: even polynomials of degree 16 (native: 8), and
 // a quarter and half of a turn in the same unit.
 #pragma once
 
@@ -29,11 +29,12 @@ struct Radians {
     }
 };
 struct RadiansNative : Radians {
-    static constexpr f32x4 b3 = splat_f32(0xBD3E7316);  // -0.046496473252773285
-    static constexpr f32x4 b2 = splat_f32(0x3E232344);  // 0.15931421518325806
-    static constexpr f32x4 b1 = splat_f32(0xBEA7BE2C);  // -0.32762277126312256
+    static constexpr f32x4 b4 = splat_f32(0x3CCB7DDB);  // 0.024840286001563072
+    static constexpr f32x4 b3 = splat_f32(0xBDC0B66D);  // -0.09409794956445694
+    static constexpr f32x4 b2 = splat_f32(0x3E3F4C37);  // 0.18681417405605316
+    static constexpr f32x4 b1 = splat_f32(0xBEAA0D0A);  // -0.3321307301521301
 
-    static TARN_INLINE f32x4 over_t(f32x4 t) { return horner(t * t, b3, b2, b1, one); }
+    static TARN_INLINE f32x4 over_t(f32x4 t) { return horner(t * t, b4, b3, b2, b1, one); }
 };
 
 struct HalfTurns {
@@ -53,11 +54,12 @@ struct HalfTurns {
     static TARN_INLINE f32x4 over_t(f32x4 t) { return horner(t * t, g8, g7, g6, g5, g4, g3, g2, g1, g0); }
 };
 struct HalfTurnsNative : HalfTurns {
-    static constexpr f32x4 g3 = splat_f32(0xBC727CE8);  // -0.014800287783145905
-    static constexpr f32x4 g2 = splat_f32(0x3D4FB6A5);  // 0.050711292773485184
-    static constexpr f32x4 g1 = splat_f32(0xBDD593AC);  // -0.10428556799888611
+    static constexpr f32x4 g4 = splat_f32(0x3C018BFA);  // 0.007906908169388771
+    static constexpr f32x4 g3 = splat_f32(0xBCF55E8A);  // -0.029952306300401688
+    static constexpr f32x4 g2 = splat_f32(0x3D73915D);  // 0.05946480110287666
+    static constexpr f32x4 g1 = splat_f32(0xBDD883FC);  // -0.10572049021720886
 
-    static TARN_INLINE f32x4 over_t(f32x4 t) { return horner(t * t, g3, g2, g1, g0); }
+    static TARN_INLINE f32x4 over_t(f32x4 t) { return horner(t * t, g4, g3, g2, g1, g0); }
 };
 
 }  // namespace tarn::arctangent

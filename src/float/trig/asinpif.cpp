@@ -1,6 +1,9 @@
 // arcsin(x)/pi: the arcsine with its coefficients divided by pi; u/pi is added to the offset before
-// the final sum, which keeps its rounding error small. The native form takes 1/pi into the polynomial.
+// the final sum, which keeps its rounding error small. The native form takes 1/pi into a shorter
+// polynomial, but not an estimated root: just above 1/2 that alone could cost more than 8192 ulp.
 // Magnitudes from 1 on are the callout's.
+//
+// Worst error 3.21 ulp at 0.7000836; native 844 at 0.5000039.
 #include "callout/callouts.hpp"
 #include "float/trig/arcsine.hpp"
 #include "frame/exports.hpp"
@@ -14,6 +17,7 @@ struct Full : arcsine::HalfTurns {
     }
 };
 struct Native : arcsine::HalfTurnsNative {
+    static TARN_INLINE f32x4 root(f32x4 y) { return arcsine::twice_root(y); }
     static TARN_INLINE f32x4 sum(f32x4 u, f32x4 z, f32x4 offset) { return value(u, z) + offset; }
 };
 

@@ -1,6 +1,8 @@
 // arctan x = +-arctan t, or +-(pi/2 - arctan t) above 1, with t = |x| or its reciprocal by one
 // division; an odd polynomial of degree 17 on [0, 1] in two interleaved halves. No lane is special.
-// The native form estimates the reciprocal and has degree 7.
+// The native form estimates the reciprocal and has degree 9.
+//
+// Worst error 3.75 ulp at 0.9509087; native 2912 at 1.1950682.
 #include "float/trig/arctangent.hpp"
 #include "frame/exports.hpp"
 

@@ -1,7 +1,9 @@
 // arctan(x)/pi by an odd polynomial of degree 17 in t = x, or above 1 in -1/x, from half a quarter turn;
-// the reciprocal is an estimate refined once, of 1 where x stays (native: the bare estimate, degree 7).
+// the reciprocal is an estimate refined once, of 1 where x stays (native: the bare estimate, degree 9).
 // Below 2^-125, where the products would underflow, and from 2^123 on, where the reciprocal would,
 // the callout answers, as for NaN.
+//
+// Worst error 3.61 ulp at 0.9969794; native 1854 at 1.1950682.
 #include "callout/callouts.hpp"
 #include "float/trig/arctangent.hpp"
 #include "frame/exports.hpp"
@@ -34,7 +36,7 @@ template <class Form> struct Atanpif : Kernel<float(float)> {
         const i32x4 small = a <= one;
         const f32x4 t = Form::argument(a, small);
         const f32x4 y = Form::over_t(t) * t + where(~small, Form::quarter);
-        const i32x4 from_smallest = bits(a) - splat_i32(0x81000000);  // 2^-125 becomes the least integer
+        const i32x4 from_smallest = wrapping_sum(bits(a), splat_i32(0x7F000000));  // 2^-125 becomes the least integer
         return Flagged{or_bits(y, sign_bit(x)), from_smallest >= splat_i32(0xFC000000)};
     }
 };

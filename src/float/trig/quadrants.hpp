@@ -33,7 +33,7 @@ template <class Unit, callout::BinaryFloat scalar> struct Atan2 : Kernel<float(f
         const Ordered o = ordered(ax < ay, ay, ax);
         const f32x4 value = angle_of<Unit>(y, x, o, o.smaller / o.larger, x < splat(0.0f));
         // Infinities and NaNs become negative integers, zero the least that is not.
-        const i32x4 x_class = bits(ax) + splat_i32(0x00800000);
+        const i32x4 x_class = wrapping_sum(bits(ax), splat_i32(0x00800000));
         return Flagged{value, not_finite(y) | (x_class <= splat_i32(0x00800000))};
     }
 
@@ -57,7 +57,7 @@ template <class Unit, callout::BinaryFloat scalar> struct Atan2Native : Kernel<f
         const f32x4 ay = abs(y), ax = abs(x);
         const Ordered o = ordered(bits(ay) > bits(ax), ay, ax);
         const f32x4 value = angle_of<Unit>(y, x, o, o.smaller * reciprocal_estimate(o.larger), bits(x) >> 31);
-        const i32x4 from_smallest = bits(o.larger) - splat_i32(0x80800000);  // 2^-126 becomes the least integer
+        const i32x4 from_smallest = wrapping_sum(bits(o.larger), splat_i32(0x7F800000));  // 2^-126 becomes the least integer
         return Flagged{value, from_smallest >= splat_i32(0xFE000000)};       // 2^126
     }
 };

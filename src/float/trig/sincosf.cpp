@@ -1,6 +1,8 @@
 // sin x and cos x from one reduction: n and r as for the sine, |r| <= pi/2; the cosine is the sine of
 // the angle half a step further toward r, +-(|r| - pi/2), reduced afresh with the pieces of pi.
 //
+// Worst error 2.47 ulp (sine) and 2.39 (cosine), on the long path 0.60; native 2321 and 2306.
+//
 // One lane above 10000 sends the whole call through the exact reduction in turns and the angle
 // tables, where the sine has the bits of sinf; infinities and NaNs are then the callout's.
 #include "callout/callouts.hpp"
@@ -20,20 +22,21 @@ namespace {
 
 template <class Form> struct Sincosf : Kernel<Both<float, float>(float)> {
     static constexpr auto callout = callout::sincosf;
+    static constexpr bool any_blocks = true;
 
-    static TARN_INLINE auto fast(f32x4 x) {
+    template <class V> static TARN_INLINE auto fast(V x) {
         using namespace sine;
-        const f32x4 a = abs(x);
-        const f32x4 shifted = a * inv_pi + shifter;
-        const f32x4 n = shifted - shifter;
-        const i32x4 parity = parity_sign(shifted);
-        const f32x4 near_n = near(a, n);
-        const i32x4 side = sign_bit(near_n);
-        const f32x4 m = n + or_bits(half, side);
-        const f32x4 sine_r = xor_bits(Form::rest(near_n, n), parity);
-        const f32x4 cosine_r = xor_bits(Form::rest(near(a, m), m), sign_mask_f32 ^ side ^ parity);
-        const f32x4 sine = xor_bits(Form::polynomial(sine_r, sine_r * sine_r), sign_bit(x));
-        const f32x4 cosine = Form::polynomial(cosine_r, cosine_r * cosine_r);
+        const V a = abs(x);
+        const V shifted = a * inv_pi + shifter;
+        const V n = shifted - shifter;
+        const auto parity = parity_sign(shifted);
+        const V near_n = near(a, n);
+        const auto side = sign_bit(near_n);
+        const V m = n + or_bits(V{} + half, side);
+        const V sine_r = xor_bits(Form::rest(near_n, n), parity);
+        const V cosine_r = xor_bits(Form::rest(near(a, m), m), bits(-0.0f) ^ side ^ parity);
+        const V sine = xor_bits(Form::polynomial(sine_r, sine_r * sine_r), sign_bit(x));
+        const V cosine = Form::polynomial(cosine_r, cosine_r * cosine_r);
         return FlaggedPair{sine, cosine, a > limit};
     }
 

@@ -1,6 +1,8 @@
 // sin x = +-sin r with n = round(|x|/pi) and r = |x| - n pi, |r| <= pi/2; pi in four pieces, the sine
 // an odd polynomial of degree 9 (native: three pieces, degree 5).
 //
+// Worst error 2.47 ulp at 9201.4746, on the long path 0.60; native and half 2321 at 9740.5088.
+//
 // One lane above 10000 sends the whole call through the exact reduction in turns and the angle table;
 // there a zero of either sign gives +0. Infinities and NaNs are then the callout's.
 #include "callout/callouts.hpp"
@@ -16,14 +18,15 @@ namespace {
 
 template <class Form> struct Sinf : Kernel<float(float)> {
     static constexpr auto callout = callout::sinf;
+    static constexpr bool any_blocks = true;
 
-    static TARN_INLINE auto fast(f32x4 x) {
+    template <class V> static TARN_INLINE auto fast(V x) {
         using namespace sine;
-        const f32x4 a = abs(x);
-        const f32x4 shifted = a * inv_pi + shifter;
-        const f32x4 n = shifted - shifter;
-        const f32x4 r = Form::rest(near(a, n), n);
-        const f32x4 y = Form::polynomial(xor_bits(r, parity_sign(shifted)), r * r);
+        const V a = abs(x);
+        const V shifted = a * inv_pi + shifter;
+        const V n = shifted - shifter;
+        const V r = Form::rest(near(a, n), n);
+        const V y = Form::polynomial(xor_bits(r, parity_sign(shifted)), r * r);
         return Flagged{xor_bits(y, sign_bit(x)), a > limit};
     }
 

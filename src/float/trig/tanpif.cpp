@@ -4,6 +4,8 @@
 //
 // The native form takes r = x - n/2 to the nearest half, |r| <= 1/4, and the quotient of polynomials
 // of the tangent with the processor's reciprocal estimate.
+//
+// Worst error 1.91 ulp at 0.4974632; native 5197 at 0.4209858.
 #include "callout/callouts.hpp"
 #include "float/trig/period.hpp"
 #include "float/trig/tangent_quotient.hpp"
@@ -42,7 +44,7 @@ struct TanpifNative : Kernel<float(float)> {
     static constexpr f32x4 shifter = splat_f32(0x4AC00000);  // 6291456.0 = 1.5 * 2^22: rounds to halves
 
     static TARN_INLINE auto fast(f32x4 x) {
-        const f32x4 within = without_periods(x);
+        const f32x4 within = without_periods(x) + zero;  // -0 becomes +0
         const f32x4 shifted = within + shifter;
         const i32x4 inverted = bits(shifted) << 31;
         const f32x4 r = (within - (shifted - shifter)) * pi;
