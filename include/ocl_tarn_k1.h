@@ -1650,8 +1650,8 @@ tarn_double4 __ocl_tarn_k1_nan4(tarn_ulong4 x) TARN_CONST;
 tarn_double8 __ocl_tarn_k1_nan8(tarn_ulong8 x) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_nan16(tarn_ulong16 x) TARN_CONST;
 
-/* fminf: the smaller of x and y. Domain: every x and y. Special values: one NaN is ignored. Exact, or
-   rounded once. */
+/* fminf: the smaller of x and y. Domain: every x and y. Special values: one NaN is ignored; of two zeros y
+   comes back. Exact, or rounded once. */
 float __ocl_tarn_k1_fminf1(float x, float y) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_fminf2(tarn_float2 x, tarn_float2 y) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_fminf3(tarn_float3 x, tarn_float3 y) TARN_CONST;
@@ -1659,8 +1659,8 @@ tarn_float4 __ocl_tarn_k1_fminf4(tarn_float4 x, tarn_float4 y) TARN_CONST;
 tarn_float8 __ocl_tarn_k1_fminf8(tarn_float8 x, tarn_float8 y) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_fminf16(tarn_float16 x, tarn_float16 y) TARN_CONST;
 
-/* fmin: the smaller of x and y. Domain: every x and y. Special values: one NaN is ignored. Exact, or
-   rounded once. */
+/* fmin: the smaller of x and y. Domain: every x and y. Special values: one NaN is ignored; of two zeros y
+   comes back. Exact, or rounded once. */
 double __ocl_tarn_k1_fmin1(double x, double y) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_fmin2(tarn_double2 x, tarn_double2 y) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_fmin3(tarn_double3 x, tarn_double3 y) TARN_CONST;
@@ -1668,26 +1668,26 @@ tarn_double4 __ocl_tarn_k1_fmin4(tarn_double4 x, tarn_double4 y) TARN_CONST;
 tarn_double8 __ocl_tarn_k1_fmin8(tarn_double8 x, tarn_double8 y) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_fmin16(tarn_double16 x, tarn_double16 y) TARN_CONST;
 
-/* fmaxf: the larger of x and y. Domain: every x and y. Special values: one NaN is ignored. Exact, or
-   rounded once. */
-float __ocl_tarn_k1_fmaxf1(float x, float y);
-tarn_float2 __ocl_tarn_k1_fmaxf2(tarn_float2 x, tarn_float2 y);
-tarn_float3 __ocl_tarn_k1_fmaxf3(tarn_float3 x, tarn_float3 y);
-tarn_float4 __ocl_tarn_k1_fmaxf4(tarn_float4 x, tarn_float4 y);
-tarn_float8 __ocl_tarn_k1_fmaxf8(tarn_float8 x, tarn_float8 y);
-tarn_float16 __ocl_tarn_k1_fmaxf16(tarn_float16 x, tarn_float16 y);
+/* fmaxf: the larger of x and y. Domain: every x and y. Special values: one NaN is ignored; of two zeros y
+   comes back. Exact, or rounded once. */
+float __ocl_tarn_k1_fmaxf1(float x, float y) TARN_CONST;
+tarn_float2 __ocl_tarn_k1_fmaxf2(tarn_float2 x, tarn_float2 y) TARN_CONST;
+tarn_float3 __ocl_tarn_k1_fmaxf3(tarn_float3 x, tarn_float3 y) TARN_CONST;
+tarn_float4 __ocl_tarn_k1_fmaxf4(tarn_float4 x, tarn_float4 y) TARN_CONST;
+tarn_float8 __ocl_tarn_k1_fmaxf8(tarn_float8 x, tarn_float8 y) TARN_CONST;
+tarn_float16 __ocl_tarn_k1_fmaxf16(tarn_float16 x, tarn_float16 y) TARN_CONST;
 
-/* fmax: the larger of x and y. Domain: every x and y. Special values: one NaN is ignored. Exact, or rounded
-   once. */
-double __ocl_tarn_k1_fmax1(double x, double y);
-tarn_double2 __ocl_tarn_k1_fmax2(tarn_double2 x, tarn_double2 y);
-tarn_double3 __ocl_tarn_k1_fmax3(tarn_double3 x, tarn_double3 y);
-tarn_double4 __ocl_tarn_k1_fmax4(tarn_double4 x, tarn_double4 y);
-tarn_double8 __ocl_tarn_k1_fmax8(tarn_double8 x, tarn_double8 y);
-tarn_double16 __ocl_tarn_k1_fmax16(tarn_double16 x, tarn_double16 y);
+/* fmax: the larger of x and y. Domain: every x and y. Special values: one NaN is ignored; of two zeros y
+   comes back. Exact, or rounded once. */
+double __ocl_tarn_k1_fmax1(double x, double y) TARN_CONST;
+tarn_double2 __ocl_tarn_k1_fmax2(tarn_double2 x, tarn_double2 y) TARN_CONST;
+tarn_double3 __ocl_tarn_k1_fmax3(tarn_double3 x, tarn_double3 y) TARN_CONST;
+tarn_double4 __ocl_tarn_k1_fmax4(tarn_double4 x, tarn_double4 y) TARN_CONST;
+tarn_double8 __ocl_tarn_k1_fmax8(tarn_double8 x, tarn_double8 y) TARN_CONST;
+tarn_double16 __ocl_tarn_k1_fmax16(tarn_double16 x, tarn_double16 y) TARN_CONST;
 
-/* maxmagf: the one larger in magnitude. Domain: every x and y. Special values: equal magnitudes and NaN as
-   fmax. Exact, or rounded once. */
+/* maxmagf: the one larger in magnitude. Domain: every x and y. Special values: equal magnitudes as fmax(y,
+   x); one NaN is ignored. Exact, or rounded once. */
 float __ocl_tarn_k1_maxmagf1(float x, float y) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_maxmagf2(tarn_float2 x, tarn_float2 y) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_maxmagf3(tarn_float3 x, tarn_float3 y) TARN_CONST;
@@ -1695,8 +1695,8 @@ tarn_float4 __ocl_tarn_k1_maxmagf4(tarn_float4 x, tarn_float4 y) TARN_CONST;
 tarn_float8 __ocl_tarn_k1_maxmagf8(tarn_float8 x, tarn_float8 y) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_maxmagf16(tarn_float16 x, tarn_float16 y) TARN_CONST;
 
-/* maxmag: the one larger in magnitude. Domain: every x and y. Special values: equal magnitudes and NaN as
-   fmax. Exact, or rounded once. */
+/* maxmag: the one larger in magnitude. Domain: every x and y. Special values: equal magnitudes as fmax(y,
+   x); one NaN is ignored. Exact, or rounded once. */
 double __ocl_tarn_k1_maxmag1(double x, double y) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_maxmag2(tarn_double2 x, tarn_double2 y) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_maxmag3(tarn_double3 x, tarn_double3 y) TARN_CONST;
@@ -1704,8 +1704,8 @@ tarn_double4 __ocl_tarn_k1_maxmag4(tarn_double4 x, tarn_double4 y) TARN_CONST;
 tarn_double8 __ocl_tarn_k1_maxmag8(tarn_double8 x, tarn_double8 y) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_maxmag16(tarn_double16 x, tarn_double16 y) TARN_CONST;
 
-/* minmagf: the one smaller in magnitude. Domain: every x and y. Special values: equal magnitudes and NaN as
-   fmin. Exact, or rounded once. */
+/* minmagf: the one smaller in magnitude. Domain: every x and y. Special values: equal magnitudes as fmin(y,
+   x); one NaN is ignored. Exact, or rounded once. */
 float __ocl_tarn_k1_minmagf1(float x, float y) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_minmagf2(tarn_float2 x, tarn_float2 y) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_minmagf3(tarn_float3 x, tarn_float3 y) TARN_CONST;
@@ -1713,8 +1713,8 @@ tarn_float4 __ocl_tarn_k1_minmagf4(tarn_float4 x, tarn_float4 y) TARN_CONST;
 tarn_float8 __ocl_tarn_k1_minmagf8(tarn_float8 x, tarn_float8 y) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_minmagf16(tarn_float16 x, tarn_float16 y) TARN_CONST;
 
-/* minmag: the one smaller in magnitude. Domain: every x and y. Special values: equal magnitudes and NaN as
-   fmin. Exact, or rounded once. */
+/* minmag: the one smaller in magnitude. Domain: every x and y. Special values: equal magnitudes as fmin(y,
+   x); one NaN is ignored. Exact, or rounded once. */
 double __ocl_tarn_k1_minmag1(double x, double y) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_minmag2(tarn_double2 x, tarn_double2 y) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_minmag3(tarn_double3 x, tarn_double3 y) TARN_CONST;
@@ -1722,8 +1722,8 @@ tarn_double4 __ocl_tarn_k1_minmag4(tarn_double4 x, tarn_double4 y) TARN_CONST;
 tarn_double8 __ocl_tarn_k1_minmag8(tarn_double8 x, tarn_double8 y) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_minmag16(tarn_double16 x, tarn_double16 y) TARN_CONST;
 
-/* fdimf: x - y where x > y, else +0. Domain: every x and y. Special values: a NaN gives NaN. Exact, or
-   rounded once. */
+/* fdimf: x - y where x > y, else +0. Domain: every x and y. Special values: a NaN gives NaN; (+inf, -inf)
+   +inf. Exact, or rounded once. */
 float __ocl_tarn_k1_fdimf1(float x, float y) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_fdimf2(tarn_float2 x, tarn_float2 y) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_fdimf3(tarn_float3 x, tarn_float3 y) TARN_CONST;

@@ -95,7 +95,7 @@ std::vector<std::uint64_t> inputs(Lane from) {
         for (int e = -3; e <= 65; e++)
             for (const double offset : {-1.5, -1.0, -0.5, 0.0, 0.5, 1.0, 1.5}) around(std::ldexp(1.0, e) + offset);
         for (const double x : {0x1p-150, 0x1.8p-150, 0x1p-149, 0x1.8p-149, 0x1p-126, 0x1.fffffep127, 0x1.ffffffp127, 0x1p128, 1e-50}) around(x);
-        for (int i = 0; i < 400000; i++) {
+        for (int i = 0; i < 150000; i++) {
             const double scale = std::ldexp(1.0, static_cast<int>(random() % 68) - 2);
             const double x = static_cast<double>(random() >> 11) * 0x1p-53 * scale;
             v.push_back(pattern_of(from, random() & 1 ? x : -x));
@@ -113,7 +113,7 @@ std::vector<std::uint64_t> inputs(Lane from) {
                 const std::uint64_t x = (std::uint64_t{1} << e) + offset - 2;
                 v.push_back(x & mask), v.push_back(-x & mask);
             }
-        for (int i = 0; i < 400000; i++) {
+        for (int i = 0; i < 150000; i++) {
             // Every length; ties and their neighbours.
             const std::uint64_t x = random() >> (random() % 64);
             v.push_back(x & mask);

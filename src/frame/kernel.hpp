@@ -185,6 +185,7 @@ private:
         if constexpr (requires { &K::fast; }) {
             return over<Path>(std::make_integer_sequence<int, count>{}, result, x..., second...);
         } else {
+            if constexpr (!in_memory<R, width>) result = Result{};  // the lane that width 3 does not call for
             LaneArray<R, width> lanes_of_result(result);
             Special::visit(lane_mask(width), K::callout, lanes_of_result, LaneArray<A, width>(x)..., second...);
             result = lanes_of_result.reload();

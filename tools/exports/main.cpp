@@ -55,7 +55,7 @@ std::string declaration(const Family& f, int width, Variant v) {
     text += ')';
     // A pointer is written through; these read the rounding mode or the x87 control word.
     const bool pure = (s.second == Lane::none || s.pair) && !f.base.starts_with("rint") &&
-                      !f.base.starts_with("nearbyint") && !f.base.starts_with("fma");
+                      !f.base.starts_with("nearbyint") && f.base != "fmaf" && f.base != "fma";
     return text + (pure ? " TARN_CONST;" : ";");
 }
 

@@ -1,16 +1,8 @@
 // Tables of the single-precision logarithms.
 #include "tables/tables.hpp"
 
-#include <cmath>
-
 namespace tarn::tables {
 namespace {
-
-// v rounded to a multiple of 2^exponent.
-double on_grid(const Real& v, int exponent) {
-    const double unit = std::ldexp(1.0, exponent);
-    return floor(v / Real(unit) + Real(0.5)).nearest() * unit;
-}
 
 Row reciprocal_row(int i) {
     const double reciprocal = on_grid(Real(64) / Real(64 + i), -21);

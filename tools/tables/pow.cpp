@@ -1,8 +1,6 @@
 // Tables of the single-precision powers.
 #include "tables/tables.hpp"
 
-#include <cmath>
-
 namespace tarn::tables {
 namespace {
 
@@ -15,11 +13,6 @@ Row powf_log_row(int j) {
 Row powf_exp2_row(int j) {
     const double centre = 0x1.ffffffc27dd9ep-1;
     return {(exp2_part(j, 2048) * Real(centre)).nearest()};
-}
-
-double on_grid(const Real& v, int exponent) {
-    const double unit = std::ldexp(1.0, exponent);
-    return floor(v / Real(unit) + Real(0.5)).nearest() * unit;
 }
 
 // R of ten significant bits: 1/(1 + i/128) lies in [1/2, 1), and row 0 is 1.

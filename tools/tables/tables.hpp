@@ -1,6 +1,7 @@
 // The generated tables: each with its rule, made from it in high precision.
 #pragma once
 
+#include <cmath>
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -33,6 +34,12 @@ inline std::function<std::vector<Row>()> each_row(int count, std::function<Row(i
         for (int j = 0; j < count; j++) rows.push_back(make(j));
         return rows;
     };
+}
+
+// v rounded to a multiple of 2^exponent.
+inline double on_grid(const Real& v, int exponent) {
+    const double unit = std::ldexp(1.0, exponent);
+    return floor(v / Real(unit) + Real(0.5)).nearest() * unit;
 }
 
 // 2^(j/n).
