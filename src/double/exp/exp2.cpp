@@ -40,16 +40,7 @@ struct Exp2 : Kernel<double(double)> {
 
 struct Exp2OfTwo : Kernel<double(double)> {
     static TARN_INLINE auto fast(f64x2 x) { return Exp2::fast(x); }
-    static f64x2 finish(f64x2 x, f64x2 value, unsigned flags) {
-        for (int i = 0; i < 2; i++)
-            if (flags >> i & 1) {
-                const double lane = x[i];
-                double result;
-                Exp2::callout(&lane, &result);
-                value[i] = result;
-            }
-        return value;
-    }
+    static f64x2 finish(f64x2 x, f64x2 value, unsigned flags) { return finish_lanes(callout::exp2, x, value, flags); }
 };
 
 struct Exp2Native : Kernel<double(double)> {
