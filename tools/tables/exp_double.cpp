@@ -48,7 +48,7 @@ const Register exp_double_tables({
     {"log_rows", "row i of 513, R = 512 + i: ln(512/R) up to R = 724, then ln(1024/R), rounded to nearest; row 0 is -0.",
      each_row(513, [](int i) { return log_row(i, 1); })},
     {"log2_rows", "row i of 513: as log_rows, to the base 2.", each_row(513, [](int i) { return log_row(i, Real::ln2()); })},
-    {"log10_rows", "row i of 513: as log_rows, to the base 10.", each_row(513, [](int i) { return log_row(i, log(10)); })},
+    {"log10_rows", "row i of 513: as log_rows, to the base 10.", each_row(513, [](int i) { return log_row(i, log(Real(10))); })},
     {"log1p_rows", "row i of 513: as log_rows, as a head on the grid of 2^-42 and a tail rounded to nearest.",
      each_row(513, log1p_row)},
 });
