@@ -54,6 +54,11 @@ template <class Real> int remainder(const Real* x, const Real* y, Real* result);
 template <class Real> int remquo(const Real* x, const Real* y, Real* result, int* quotient);
 template <class Real> int fma(const Real* x, const Real* y, const Real* z, Real* result);
 
+using UnaryDouble = int(const double* x, double* result);
+
+UnaryDouble exp, exp2, exp10, expm1;
+UnaryDouble log, log2, log10, log1p;
+
 #pragma GCC visibility pop
 
 }  // namespace tarn::callout

@@ -22,11 +22,38 @@ TARN_INLINE double exp2_from_pair(Sixtyfourths n, double q) {
     return ((q + lo) * hi + hi) * power_of_two(n.exponent);
 }
 
+// s + hi, scaled by 2^exponent, where the result is subnormal: the sum is cut to a head short enough that
+// adding its tail is the only rounding. Where the sum itself is not normal at 2^60 times its size, it has
+// no more bits than the result.
+TARN_INLINE double subnormal_sum(double s, double hi, int exponent) {
+    const double scale = power_of_two(exponent + 60);
+    const double a = s * scale, b = scale * hi;
+    const double y = a + b;
+    if (exponent + 1083 <= 50) return y * 0x1p-60;
+    const double e = a + (b - y);
+    const double v = y * 0x1.8p32;
+    const double h = (y + v) - v;
+    const double l = (y - h) + e;
+    return h * 0x1p-60 + l * 0x1p-60;
+}
+
+// 2^exponent times v, an exponent of 1024 in two steps.
+TARN_INLINE double scaled_up(double v, int exponent) {
+    return exponent > 1023 ? v * power_of_two(exponent - 1) * 2.0 : v * power_of_two(exponent);
+}
+
 // The exponentials of an infinity or a NaN.
-TARN_INLINE int exp_not_finite(float x, float* result) {
-    *result = pattern(x) == 0xFF800000 ? 0.0f : x * x;
+template <class Real> TARN_INLINE int exp_not_finite(Real x, Real* result) {
+    *result = x < 0 ? Real(0) : x * x;
     return ordinary;
 }
+
+// e^X = 2^exponent (s + hi), for any X whose exponential a double holds.
+struct ExpParts {
+    double s, hi;
+    int exponent;
+};
+ExpParts exp_parts(double X);
 
 // e^X of |X| below 700, to about one unit of double precision.
 double exp_of(double X);

@@ -16,26 +16,9 @@ constexpr double c5 = f64(0x3F56C16A1C2A3FFD);                 // 0.001388887045
 constexpr double c4 = f64(0x3F8111123AAF20D3);                 // 0.008333341995140497
 constexpr double c3 = f64(0x3FA5555555558FCC);                 // 0.04166666666677052
 constexpr double c2 = f64(0x3FC55555555548F8);                 // 0.1666666666665788
-constexpr double splitter = f64(0x41F8000000000000);           // 6442450944.0 = 1.5 * 2^32
 
-// s + hi, scaled by 2^exponent, where the result is subnormal in single precision: the sum is cut
-// to a head short enough that adding its tail is the only rounding.
-double subnormal(double s, double hi, int exponent) {
-    const double scale = power_of_two(exponent + 60);
-    const double a = s * scale, b = scale * hi;
-    const double y = a + b;
-    const double e = a + (b - y);
-    const double v = y * splitter;
-    const double h = (y + v) - v;
-    const double l = (y - h) + e;
-    return h * 0x1p-60 + l * 0x1p-60;
-}
+}  // namespace
 
-// e^X = 2^exponent (s + hi).
-struct ExpParts {
-    double s, hi;
-    int exponent;
-};
 ExpParts exp_parts(double X) {
     const auto [low_bits, n] = round_by_shifter(X * sixtyfour_log2_e, round_shifter);
     const auto [row, exponent] = sixtyfourths(low_bits);
@@ -45,8 +28,6 @@ ExpParts exp_parts(double X) {
     return {(q + lo) * hi, hi, exponent};
 }
 
-}  // namespace
-
 double exp_of(double X) {
     const auto [s, hi, exponent] = exp_parts(X);
     return (s + hi) * power_of_two(exponent);
@@ -54,7 +35,7 @@ double exp_of(double X) {
 
 int exp_in_range(double X, float* result) {
     const auto [s, hi, exponent] = exp_parts(X);
-    if (X < smallest_normal) return give(result, subnormal(s, hi, exponent), underflow);
+    if (X < smallest_normal) return give(result, subnormal_sum(s, hi, exponent), underflow);
     return give(result, (s + hi) * power_of_two(exponent));
 }
 

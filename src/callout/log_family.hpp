@@ -5,7 +5,7 @@
 
 namespace tarn::callout {
 
-// ln X of a positive normal double, to about one unit of double precision.
-double log_of(double X);
+// ln(X 2^moved) of a positive normal double, to about one unit of double precision.
+double log_of(double X, int moved = 0);
 
 }  // namespace tarn::callout

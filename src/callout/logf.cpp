@@ -28,10 +28,10 @@ double log_near_one(double v) { return v + v * v * q(v); }
 
 }  // namespace
 
-double log_of(double X) {
+double log_of(double X, int moved) {
     const double v = X - 1.0;
     if (v <= near_one && v >= -near_one) return log_near_one(v);
-    const double k = static_cast<double>(static_cast<int>(pattern(X) >> 52) - 1023);
+    const double k = static_cast<double>(static_cast<int>(pattern(X) >> 52) - 1023 + moved);
     const double m = f64((pattern(X) & 0x000FFFFFFFFFFFFF) | 0x3FF0000000000000);
     const double row_shifter = 0x1p46 + 1;  // row: 64 (m - 1) rounded, in the low bits of the sum
     const auto [reciprocal, head, tail] = log_reciprocals[pattern(m + row_shifter) & 127];

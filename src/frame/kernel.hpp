@@ -285,6 +285,19 @@ private:
     }
 };
 
+// For `finish`: the flagged lanes of a group through a scalar function that is known where it is called.
+template <class V, class Scalar>
+TARN_INLINE V finish_lanes(Scalar scalar, V x, V value, unsigned flags) {
+    for (int i = 0; flags >> i != 0; i++)
+        if (flags >> i & 1) {
+            const auto lane = x[i];
+            auto result = lane;
+            scalar(&lane, &result);
+            value[i] = result;
+        }
+    return value;
+}
+
 // Two results as one value.
 template <class K, int width, class... V> TARN_INLINE auto run_pair(const V&... x) {
     using Lane = typename Parts<typename K::Signature>::Result;

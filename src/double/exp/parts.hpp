@@ -1,0 +1,15 @@
+// What the double-precision exponentials share: 2^(n/2^k) with the row n mod 2^k from a table and the
+// rest of n in the exponent field.
+#pragma once
+
+#include "frame/simd.hpp"
+
+namespace tarn {
+
+// y times 2^(n >> index_bits), n in the low bits of a shifted sum; wrapping makes a negative n subtract.
+template <int index_bits> TARN_INLINE f64x2 raised(f64x2 y, f64x2 shifted) {
+    const i64x2 whole = bits(shifted) & ~splat_i64((1 << index_bits) - 1);
+    return from_bits(bits(y) + (whole << (52 - index_bits)));
+}
+
+}  // namespace tarn

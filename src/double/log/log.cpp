@@ -1,0 +1,48 @@
+// ln x, log2 x and log10 x = T(R) + k u + p(r) with u the unit of a binary exponent, R and r as in
+// table_log.hpp and p of degree 5; the other bases have the whole polynomial multiplied through. The
+// native forms are of degree 3 with an unsplit product.
+//
+// WORST
+// log2 of a power of two is exact. Its width 2 finishes its special lanes in line.
+#include "callout/callouts.hpp"
+#include "double/log/table_log.hpp"
+#include "frame/exports.hpp"
+
+namespace tarn {
+namespace {
+
+template <class Base, auto special> struct Log : Kernel<double(double)> {
+    static constexpr auto callout = special;
+    static TARN_INLINE auto fast(f64x2 x) { return Flagged{table_log<Base>(x, splat(0.0)), not_positive_normal(x)}; }
+};
+template <class Base, auto special> struct LogNative : Kernel<double(double)> {
+    static constexpr auto callout = special;
+    static TARN_INLINE auto fast(f64x2 x) { return Flagged{native_table_log<Base>(x), not_positive_normal(x)}; }
+};
+
+using LogE = Log<BaseE, callout::log>;
+using LogENative = LogNative<BaseE, callout::log>;
+using Log2 = Log<Base2, callout::log2>;
+using Log2Native = LogNative<Base2, callout::log2>;
+using Log10 = Log<Base10, callout::log10>;
+using Log10Native = LogNative<Base10, callout::log10>;
+
+struct Log2OfTwo : Kernel<double(double)> {
+    static TARN_INLINE auto fast(f64x2 x) { return Log2::fast(x); }
+    static f64x2 finish(f64x2 x, f64x2 value, unsigned flags) { return finish_lanes(callout::log2, x, value, flags); }
+};
+
+}  // namespace
+}  // namespace tarn
+
+TARN_EXPORT(unary, log, full, tarn::LogE)
+TARN_EXPORT(unary, log, native, tarn::LogENative)
+TARN_EXPORT_WIDTH(unary, log2, 1, full, tarn::Log2)
+TARN_EXPORT_WIDTH(unary, log2, 2, full, tarn::Log2OfTwo)
+TARN_EXPORT_WIDTH(unary, log2, 3, full, tarn::Log2)
+TARN_EXPORT_WIDTH(unary, log2, 4, full, tarn::Log2)
+TARN_EXPORT_WIDTH(unary, log2, 8, full, tarn::Log2)
+TARN_EXPORT_WIDTH(unary, log2, 16, full, tarn::Log2)
+TARN_EXPORT(unary, log2, native, tarn::Log2Native)
+TARN_EXPORT(unary, log10, full, tarn::Log10)
+TARN_EXPORT(unary, log10, native, tarn::Log10Native)
