@@ -86,7 +86,8 @@ typedef struct tarn_sincos_double16 { tarn_double16 sine, cosine; } tarn_sincos_
 /* Exponentials ------------------------------------------------------------------------------------ */
 
 /* expf: e^x. Domain: every x. Special values: +inf gives +inf, -inf +0; overflow gives +inf, underflow a
-   subnormal or +0. */
+   subnormal or +0. Worst error 2.932 ulp (OpenCL allows 3); native and half 2169; measured over all 2^32
+   inputs. */
 float __ocl_tarn_k1_expf1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_expf2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_expf3(tarn_float3 x) TARN_CONST;
@@ -107,7 +108,8 @@ tarn_float8 __ocl_tarn_k1_expf8_half(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_expf16_half(tarn_float16 x) TARN_CONST;
 
 /* exp: e^x. Domain: every x. Special values: +inf gives +inf, -inf +0; overflow gives +inf, underflow a
-   subnormal or +0. */
+   subnormal or +0. Worst error 2.598 ulp, width 2 2.893 (OpenCL allows 3); native 5.944e+07; measured over
+   1.5 million samples where the error is largest, and the ends of the range. */
 double __ocl_tarn_k1_exp1(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_exp2(tarn_double2 x) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_exp3(tarn_double3 x) TARN_CONST;
@@ -122,7 +124,8 @@ tarn_double8 __ocl_tarn_k1_exp8_native(tarn_double8 x) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_exp16_native(tarn_double16 x) TARN_CONST;
 
 /* exp2f: 2^x. Domain: every x. Special values: +inf gives +inf, -inf +0; overflow gives +inf, underflow a
-   subnormal or +0. */
+   subnormal or +0. Worst error 1.102 ulp, width 1 0.5069, width 4 2.555 (OpenCL allows 3); native and half
+   1230; measured over all 2^32 inputs. */
 float __ocl_tarn_k1_exp2f1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_exp2f2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_exp2f3(tarn_float3 x) TARN_CONST;
@@ -143,7 +146,8 @@ tarn_float8 __ocl_tarn_k1_exp2f8_half(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_exp2f16_half(tarn_float16 x) TARN_CONST;
 
 /* exp2: 2^x. Domain: every x. Special values: +inf gives +inf, -inf +0; overflow gives +inf, underflow a
-   subnormal or +0. */
+   subnormal or +0. Worst error 1.636 ulp (OpenCL allows 3); native 2.976e+07; measured over 1.5 million
+   samples where the error is largest, and the ends of the range. */
 double __ocl_tarn_k1_exp21(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_exp22(tarn_double2 x) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_exp23(tarn_double3 x) TARN_CONST;
@@ -158,7 +162,8 @@ tarn_double8 __ocl_tarn_k1_exp28_native(tarn_double8 x) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_exp216_native(tarn_double16 x) TARN_CONST;
 
 /* exp10f: 10^x. Domain: every x. Special values: +inf gives +inf, -inf +0; overflow gives +inf, underflow a
-   subnormal or +0. */
+   subnormal or +0. Worst error 2.922 ulp (OpenCL allows 3); native and half 1304; measured over all 2^32
+   inputs. */
 float __ocl_tarn_k1_exp10f1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_exp10f2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_exp10f3(tarn_float3 x) TARN_CONST;
@@ -179,7 +184,8 @@ tarn_float8 __ocl_tarn_k1_exp10f8_half(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_exp10f16_half(tarn_float16 x) TARN_CONST;
 
 /* exp10: 10^x. Domain: every x. Special values: +inf gives +inf, -inf +0; overflow gives +inf, underflow a
-   subnormal or +0. */
+   subnormal or +0. Worst error 1 ulp (OpenCL allows 3); native 2.974e+07; measured over 1.5 million samples
+   where the error is largest, and the ends of the range. */
 double __ocl_tarn_k1_exp101(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_exp102(tarn_double2 x) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_exp103(tarn_double3 x) TARN_CONST;
@@ -193,7 +199,8 @@ tarn_double4 __ocl_tarn_k1_exp104_native(tarn_double4 x) TARN_CONST;
 tarn_double8 __ocl_tarn_k1_exp108_native(tarn_double8 x) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_exp1016_native(tarn_double16 x) TARN_CONST;
 
-/* expm1f: e^x - 1. Domain: every x. Special values: +inf gives +inf, -inf -1; zeros keep their sign. */
+/* expm1f: e^x - 1. Domain: every x. Special values: +inf gives +inf, -inf -1; zeros keep their sign. Worst
+   error 1.802 ulp (OpenCL allows 3); native 283.7; measured over all 2^32 inputs. */
 float __ocl_tarn_k1_expm1f1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_expm1f2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_expm1f3(tarn_float3 x) TARN_CONST;
@@ -207,7 +214,9 @@ tarn_float4 __ocl_tarn_k1_expm1f4_native(tarn_float4 x) TARN_CONST;
 tarn_float8 __ocl_tarn_k1_expm1f8_native(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_expm1f16_native(tarn_float16 x) TARN_CONST;
 
-/* expm1: e^x - 1. Domain: every x. Special values: +inf gives +inf, -inf -1; zeros keep their sign. */
+/* expm1: e^x - 1. Domain: every x. Special values: +inf gives +inf, -inf -1; zeros keep their sign. Worst
+   error 1.964 ulp (OpenCL allows 3); native 5.189e+06; measured over 1.5 million samples where the error is
+   largest, and the ends of the range. */
 double __ocl_tarn_k1_expm11(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_expm12(tarn_double2 x) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_expm13(tarn_double3 x) TARN_CONST;
@@ -244,7 +253,9 @@ tarn_float4 __ocl_tarn_k1_logf4_half(tarn_float4 x) TARN_CONST;
 tarn_float8 __ocl_tarn_k1_logf8_half(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_logf16_half(tarn_float16 x) TARN_CONST;
 
-/* log: ln x. Domain: x >= 0. Special values: zeros give -inf, +inf +inf, negative x NaN. */
+/* log: ln x. Domain: x >= 0. Special values: zeros give -inf, +inf +inf, negative x NaN. Worst error 1.563
+   ulp (OpenCL allows 3); native 2.095e+06; measured over 1.5 million samples where the error is largest,
+   and the ends of the range. */
 double __ocl_tarn_k1_log1(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_log2(tarn_double2 x) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_log3(tarn_double3 x) TARN_CONST;
@@ -281,7 +292,8 @@ tarn_float8 __ocl_tarn_k1_log2f8_half(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_log2f16_half(tarn_float16 x) TARN_CONST;
 
 /* log2: log2 x. Domain: x >= 0. Special values: zeros give -inf, +inf +inf, negative x NaN; exact at powers
-   of two. */
+   of two. Worst error 2.081 ulp (OpenCL allows 3); native 2.426e+06; measured over 1.5 million samples
+   where the error is largest, and the ends of the range. */
 double __ocl_tarn_k1_log21(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_log22(tarn_double2 x) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_log23(tarn_double3 x) TARN_CONST;
@@ -316,7 +328,9 @@ tarn_float4 __ocl_tarn_k1_log10f4_half(tarn_float4 x) TARN_CONST;
 tarn_float8 __ocl_tarn_k1_log10f8_half(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_log10f16_half(tarn_float16 x) TARN_CONST;
 
-/* log10: log10 x. Domain: x >= 0. Special values: zeros give -inf, +inf +inf, negative x NaN. */
+/* log10: log10 x. Domain: x >= 0. Special values: zeros give -inf, +inf +inf, negative x NaN. Worst error
+   2.075 ulp (OpenCL allows 3); native 2.921e+06; measured over 1.5 million samples where the error is
+   largest, and the ends of the range. */
 double __ocl_tarn_k1_log101(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_log102(tarn_double2 x) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_log103(tarn_double3 x) TARN_CONST;
@@ -346,7 +360,8 @@ tarn_float8 __ocl_tarn_k1_log1pf8_native(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_log1pf16_native(tarn_float16 x) TARN_CONST;
 
 /* log1p: ln(1 + x). Domain: x >= -1. Special values: -1 gives -inf, +inf +inf, x < -1 NaN; zeros keep their
-   sign. */
+   sign. Worst error 0.9999 ulp (OpenCL allows 2); native 2.095e+06; measured over 1.5 million samples where
+   the error is largest, and the ends of the range. */
 double __ocl_tarn_k1_log1p1(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_log1p2(tarn_double2 x) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_log1p3(tarn_double3 x) TARN_CONST;
@@ -1226,7 +1241,8 @@ tarn_double16 __ocl_tarn_k1_atan2pi16_native(tarn_double16 x, tarn_double16 y) T
 
 /* Hyperbolic functions ---------------------------------------------------------------------------- */
 
-/* sinhf: (e^x - e^-x) / 2. Domain: every x. Special values: infinities and zeros come back. */
+/* sinhf: (e^x - e^-x) / 2. Domain: every x. Special values: infinities and zeros come back. Worst error
+   2.024 ulp (OpenCL allows 4); native 1079; measured over all 2^32 inputs (native: 30 million samples). */
 float __ocl_tarn_k1_sinhf1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_sinhf2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_sinhf3(tarn_float3 x) TARN_CONST;
@@ -1254,7 +1270,8 @@ tarn_double4 __ocl_tarn_k1_sinh4_native(tarn_double4 x) TARN_CONST;
 tarn_double8 __ocl_tarn_k1_sinh8_native(tarn_double8 x) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_sinh16_native(tarn_double16 x) TARN_CONST;
 
-/* coshf: (e^x + e^-x) / 2. Domain: every x. Special values: infinities give +inf. */
+/* coshf: (e^x + e^-x) / 2. Domain: every x. Special values: infinities give +inf. Worst error 1.841 ulp
+   (OpenCL allows 4); native 427.3; measured over all 2^32 inputs (native: 30 million samples). */
 float __ocl_tarn_k1_coshf1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_coshf2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_coshf3(tarn_float3 x) TARN_CONST;
@@ -1282,7 +1299,8 @@ tarn_double4 __ocl_tarn_k1_cosh4_native(tarn_double4 x) TARN_CONST;
 tarn_double8 __ocl_tarn_k1_cosh8_native(tarn_double8 x) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_cosh16_native(tarn_double16 x) TARN_CONST;
 
-/* tanhf: sinh x / cosh x. Domain: every x. Special values: infinities give +-1; zeros keep their sign. */
+/* tanhf: sinh x / cosh x. Domain: every x. Special values: infinities give +-1; zeros keep their sign.
+   Worst error 1.026 ulp (OpenCL allows 5); native 1.026; measured over all 2^32 inputs. */
 float __ocl_tarn_k1_tanhf1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_tanhf2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_tanhf3(tarn_float3 x) TARN_CONST;
@@ -1310,7 +1328,9 @@ tarn_double4 __ocl_tarn_k1_tanh4_native(tarn_double4 x) TARN_CONST;
 tarn_double8 __ocl_tarn_k1_tanh8_native(tarn_double8 x) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_tanh16_native(tarn_double16 x) TARN_CONST;
 
-/* asinhf: ln(x + (x^2 + 1)^(1/2)). Domain: every x. Special values: infinities and zeros come back. */
+/* asinhf: ln(x + (x^2 + 1)^(1/2)). Domain: every x. Special values: infinities and zeros come back. Worst
+   error 1.886 ulp (OpenCL allows 4); native 1238; measured over all inputs of one sign on which the
+   function is neither constant nor the argument (native: 30 million samples). */
 float __ocl_tarn_k1_asinhf1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_asinhf2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_asinhf3(tarn_float3 x) TARN_CONST;
@@ -1338,7 +1358,8 @@ tarn_double4 __ocl_tarn_k1_asinh4_native(tarn_double4 x) TARN_CONST;
 tarn_double8 __ocl_tarn_k1_asinh8_native(tarn_double8 x) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_asinh16_native(tarn_double16 x) TARN_CONST;
 
-/* acoshf: ln(x + (x^2 - 1)^(1/2)). Domain: x >= 1. Special values: below 1 NaN; +inf gives +inf. */
+/* acoshf: ln(x + (x^2 - 1)^(1/2)). Domain: x >= 1. Special values: below 1 NaN; +inf gives +inf. Worst
+   error 2.085 ulp (OpenCL allows 4); native 3878; measured over all inputs (native: 30 million samples). */
 float __ocl_tarn_k1_acoshf1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_acoshf2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_acoshf3(tarn_float3 x) TARN_CONST;
@@ -1367,7 +1388,8 @@ tarn_double8 __ocl_tarn_k1_acosh8_native(tarn_double8 x) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_acosh16_native(tarn_double16 x) TARN_CONST;
 
 /* atanhf: ln((1 + x) / (1 - x)) / 2. Domain: |x| <= 1. Special values: +-1 gives +-inf, beyond NaN; zeros
-   keep their sign. */
+   keep their sign. Worst error 2.093 ulp (OpenCL allows 5); native 1470; measured over all inputs of one
+   sign on which the function is neither constant nor the argument (native: 30 million samples). */
 float __ocl_tarn_k1_atanhf1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_atanhf2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_atanhf3(tarn_float3 x) TARN_CONST;
@@ -1399,7 +1421,8 @@ tarn_double16 __ocl_tarn_k1_atanh16_native(tarn_double16 x) TARN_CONST;
 /* Error and gamma functions ----------------------------------------------------------------------- */
 
 /* erff: 2/sqrt(pi) times the integral of e^(-t^2) from 0 to x. Domain: every x. Special values: infinities
-   give +-1; zeros keep their sign. */
+   give +-1; zeros keep their sign. Worst error 1.929 ulp (OpenCL allows 16); native 68.52; measured over
+   all inputs up to 4.1 (native: 30 million samples). */
 float __ocl_tarn_k1_erff1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_erff2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_erff3(tarn_float3 x) TARN_CONST;
@@ -1428,7 +1451,8 @@ tarn_double4 __ocl_tarn_k1_erf4_native(tarn_double4 x) TARN_CONST;
 tarn_double8 __ocl_tarn_k1_erf8_native(tarn_double8 x) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_erf16_native(tarn_double16 x) TARN_CONST;
 
-/* erfcf: 1 - erf x. Domain: every x. Special values: -inf gives 2, +inf +0. */
+/* erfcf: 1 - erf x. Domain: every x. Special values: -inf gives 2, +inf +0. Worst error 1.763 ulp (OpenCL
+   allows 16); native 1250; measured over all inputs from -4.5 to 10.06 but |x| < 0.0001. */
 float __ocl_tarn_k1_erfcf1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_erfcf2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_erfcf3(tarn_float3 x) TARN_CONST;
@@ -1457,7 +1481,8 @@ tarn_double8 __ocl_tarn_k1_erfc8_native(tarn_double8 x) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_erfc16_native(tarn_double16 x) TARN_CONST;
 
 /* tgammaf: gamma(x). Domain: x not a negative integer. Special values: zeros give an infinity of their
-   sign; negative integers and -inf NaN. */
+   sign; negative integers and -inf NaN. Worst error 0.5 ulp (OpenCL allows 16); measured over all inputs
+   from -46 to 36 but |x| < 0.01. */
 float __ocl_tarn_k1_tgammaf1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_tgammaf2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_tgammaf3(tarn_float3 x) TARN_CONST;
@@ -1474,7 +1499,9 @@ tarn_double4 __ocl_tarn_k1_tgamma4(tarn_double4 x) TARN_CONST;
 tarn_double8 __ocl_tarn_k1_tgamma8(tarn_double8 x) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_tgamma16(tarn_double16 x) TARN_CONST;
 
-/* lgammaf: ln |gamma(x)|. Domain: every x. Special values: poles and infinities give +inf; 1 and 2 give +0. */
+/* lgammaf: ln |gamma(x)|. Domain: every x. Special values: poles and infinities give +inf; 1 and 2 give +0.
+   Worst error 0.5 ulp; measured over all inputs from 1/2 to 10, those next to the first negative zeros, and
+   3 million negative samples. */
 float __ocl_tarn_k1_lgammaf1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_lgammaf2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_lgammaf3(tarn_float3 x) TARN_CONST;
@@ -1491,7 +1518,8 @@ tarn_double8 __ocl_tarn_k1_lgamma8(tarn_double8 x) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_lgamma16(tarn_double16 x) TARN_CONST;
 
 /* lgammarf: ln |gamma(x)|, and the sign of gamma(x) through the pointer. Domain: every x. Special values:
-   as lgamma; the sign is +1 at poles, -1 at -0. */
+   as lgamma; the sign is +1 at poles, -1 at -0. Worst error 0.5 ulp; measured over all inputs from 1/2 to
+   10, those next to the first negative zeros, and 3 million negative samples. */
 float __ocl_tarn_k1_lgammarf1(float x, int32_t* second);
 tarn_float2 __ocl_tarn_k1_lgammarf2(tarn_float2 x, int32_t* second);
 tarn_float3 __ocl_tarn_k1_lgammarf3(tarn_float3 x, int32_t* second);

@@ -107,7 +107,8 @@ int log_gamma(float x, float* result, std::int32_t* sign) {
         if (floor_of(half) != half) *sign = -1;
         return give(result, X > -0x1p-60 ? -log_of(-X) : log_gamma_of_negative(X));
     }
-    return give(result, log_gamma_of_positive(X), X > 0x1.89p121 ? overflow : ordinary);
+    // At 1 the polynomial gives -0.
+    return give(result, log_gamma_of_positive(X) + 0.0, X > 0x1.89p121 ? overflow : ordinary);
 }
 
 }  // namespace

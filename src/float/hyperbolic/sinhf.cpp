@@ -3,7 +3,7 @@
 // field, sinh x = cosh(n ln 2) S + sinh(n ln 2) C + sinh(n ln 2), and cosh x with the two exchanged.
 // The native forms take both polynomials from one cubic exponential and ln 2 in one piece.
 //
-// WORST
+// Worst error 2.02 ulp at 0.3836 (sinhf) and 1.84 at 8.0082 (coshf); native 1079 and 427.
 #include "callout/callouts.hpp"
 #include "frame/exports.hpp"
 

@@ -3,7 +3,7 @@
 // computed far above the subnormals, and the last multiplication is the only rounding into them. For
 // negative x the same sum is turned into 2 - erfc |x| before that.
 //
-// WORST
+// Worst error 1.76 ulp at 8.9296; native 1250.
 #include "callout/callouts.hpp"
 #include "frame/exports.hpp"
 
@@ -36,8 +36,9 @@ struct Full {
 
 struct Native {
     static constexpr f32x4 shifter = splat_f32(0x48800000);  // 262144.0: rounds to 32nds
-    static constexpr f32x4 u1 = splat_f32(0xBF7F8F5C);       // fitted over |u| <= 0.16
-    static constexpr f32x4 u2 = splat_f32(0x3F2AAAAB);       // 0.6666666865348816
+    // Fitted to the least error over the whole grid, the terms in h^2 alone left out.
+    static constexpr f32x4 u1 = splat_f32(0xBF80D115);       // -1.0063806772232056
+    static constexpr f32x4 u2 = splat_f32(0x3F2A0E54);       // 0.6642811298370361
 
     static TARN_INLINE PairLanes row(i32x4 k) { return gather_pairs(erfcf_native_points, k); }
     static TARN_INLINE f32x4 series(f32x4 u, f32x4) { return u * (u1 + u2 * u); }
