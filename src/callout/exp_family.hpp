@@ -16,12 +16,6 @@ struct Sixtyfourths {
 };
 TARN_INLINE Sixtyfourths sixtyfourths(std::uint32_t n) { return {n & 63, static_cast<std::int32_t>(n) >> 6}; }
 
-// 2^(n/64) * (1 + q), for a q below 1/128.
-TARN_INLINE double exp2_from_pair(Sixtyfourths n, double q) {
-    const double hi = exp2_pairs[n.row][0], lo = exp2_pairs[n.row][1];
-    return ((q + lo) * hi + hi) * power_of_two(n.exponent);
-}
-
 // s + hi, scaled by 2^exponent, where the result is subnormal: the sum is cut to a head short enough that
 // adding its tail is the only rounding. Where the sum itself is not normal at 2^60 times its size, it has
 // no more bits than the result.
@@ -48,12 +42,14 @@ template <class Real> TARN_INLINE int exp_not_finite(Real x, Real* result) {
     return ordinary;
 }
 
-// e^X = 2^exponent (s + hi), for any X whose exponential a double holds.
+// A power as 2^exponent (s + hi), for any X for which a double holds it.
 struct ExpParts {
     double s, hi;
     int exponent;
 };
 ExpParts exp_parts(double X);
+ExpParts exp2_parts(double X);
+ExpParts exp10_parts(double X);
 
 // e^X of |X| below 700, to about one unit of double precision.
 double exp_of(double X);
