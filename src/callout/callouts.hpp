@@ -36,6 +36,12 @@ UnaryFloat sinpif, cospif, tanpif;
 UnaryFloat asinf, acosf, asinpif, acospif, atanpif;
 BinaryFloat atan2f, atan2pif;
 
+using UnaryDouble = int(const double* x, double* result);
+using UnaryDoublePair = int(const double* x, double* result, double* second);
+UnaryDouble sin, cos, tan;
+UnaryDoublePair sincos;
+UnaryDouble sinpi, cospi, tanpi;
+
 // The lane-wise families and the remainders, in both precisions.
 template <class Real> int fmin(const Real* x, const Real* y, Real* result);
 template <class Real> int fmax(const Real* x, const Real* y, Real* result);
