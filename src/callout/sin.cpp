@@ -34,9 +34,15 @@ double with_sign_of(double x, double magnitude) { return xor_bits(splat(magnitud
     return {bits(shifted) & Turns::row_mask, in_radians<HalfTurns>(s, splat(0.0))};
 }
 
-// pi |x| where it has fewer bits than a normal number: 3 |x| is exact.
-constexpr double least_of_half_turns = f64(0x000517CC1B727221);  // 2^-1022 / pi
-double pi_times(double a) { return 3 * a + a * f64(0x3FC21FB54442D184); }  // 0.14159265358979323 = pi - 3
+// pi a for small a, which is its sine and tangent. The pieces of the product need room below: a is scaled
+// up, but where the result is subnormal, and would be rounded twice, 3 a is exact.
+constexpr double small_half_turns = 0x1p-500;
+double pi_times(double a) {
+    constexpr double least = f64(0x000517CC1B727221);      // 2^-1022 / pi
+    constexpr double pi_less_3 = f64(0x3FC21FB54442D184);  // 0.14159265358979323
+    if (a < least) return 3 * a + a * pi_less_3;
+    return in_radians<HalfTurns>(splat(a * 0x1p200), splat(0.0)).head[0] * 0x1p-200;
+}
 
 [[gnu::noinline]] Sum sine(const Reduced& angle) { return sine_from_table(angle); }
 [[gnu::noinline]] Sum cosine(const Reduced& angle) { return cosine_from_table(angle); }
@@ -79,7 +85,7 @@ int tan(const double* x, double* result) {
 int sinpi(const double* x, double* result) {
     if (not_finite(*x)) return no_angle(*x, result);
     const double a = __builtin_fabs(*x);
-    if (a < least_of_half_turns) return give(result, with_sign_of(*x, pi_times(a)));
+    if (a < small_half_turns) return give(result, with_sign_of(*x, pi_times(a)));
     return give(result, with_sign_of(*x, sine(reduced_half_turns(*x)).rounded()[0]));
 }
 
@@ -92,7 +98,7 @@ int cospi(const double* x, double* result) {
 int tanpi(const double* x, double* result) {
     if (not_finite(*x)) return no_angle(*x, result);
     const double a = __builtin_fabs(*x);
-    if (a < least_of_half_turns) return give(result, with_sign_of(*x, pi_times(a)));
+    if (a < small_half_turns) return give(result, with_sign_of(*x, pi_times(a)));
     const Reduced angle = reduced_half_turns(*x);
     const Sum denominator = cosine(angle);
     give(result, with_sign_of(*x, quotient(sine(angle), denominator)));
