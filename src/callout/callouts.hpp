@@ -36,6 +36,15 @@ UnaryFloat sinpif, cospif, tanpif;
 UnaryFloat asinf, acosf, asinpif, acospif, atanpif;
 BinaryFloat atan2f, atan2pif;
 
+using UnaryDouble = int(const double* x, double* result);
+using UnaryDoublePair = int(const double* x, double* result, double* second);
+
+UnaryDouble exp, exp2, exp10, expm1;
+UnaryDouble log, log2, log10, log1p;
+UnaryDouble sin, cos, tan;
+UnaryDoublePair sincos;
+UnaryDouble sinpi, cospi, tanpi;
+
 // The lane-wise families and the remainders, in both precisions.
 template <class Real> int fmin(const Real* x, const Real* y, Real* result);
 template <class Real> int fmax(const Real* x, const Real* y, Real* result);
@@ -53,11 +62,6 @@ template <class Real> int fmod(const Real* x, const Real* y, Real* result);
 template <class Real> int remainder(const Real* x, const Real* y, Real* result);
 template <class Real> int remquo(const Real* x, const Real* y, Real* result, int* quotient);
 template <class Real> int fma(const Real* x, const Real* y, const Real* z, Real* result);
-
-using UnaryDouble = int(const double* x, double* result);
-
-UnaryDouble exp, exp2, exp10, expm1;
-UnaryDouble log, log2, log10, log1p;
 
 #pragma GCC visibility pop
 

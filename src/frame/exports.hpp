@@ -58,7 +58,9 @@ template <class K, int width> using Arg3 = Vec<typename ListedArgs<K>::third, wi
     }
 #define TARN_SHAPE_unary_pair(name, width, K)                                                \
     tarn::VecPair<tarn::SecondOf<K>, width> name(tarn::Arg1<K, width> x) {                   \
-        return tarn::run_pair<K, width>(x);                                                  \
+        tarn::VecPair<tarn::SecondOf<K>, width> pair;                                        \
+        tarn::run_pair<K, width>(pair, x);                                                   \
+        return pair;                                                                         \
     }
 
 #define TARN_EXPORT_WIDTH(shape, base, width, variant, Kernel)                                \

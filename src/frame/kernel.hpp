@@ -298,12 +298,10 @@ TARN_INLINE V finish_lanes(Scalar scalar, V x, V value, unsigned flags) {
     return value;
 }
 
-// Two results as one value.
-template <class K, int width, class... V> TARN_INLINE auto run_pair(const V&... x) {
+// Two results as one value, filled where the caller holds it.
+template <class K, int width, class Pair, class... V> TARN_INLINE void run_pair(Pair& pair, const V&... x) {
     using Lane = typename Parts<typename K::Signature>::Result;
-    VecPair<Lane, width> pair;
     pair.sine = Call<K, width>::run(x..., reinterpret_cast<Lane*>(&pair.cosine));
-    return pair;
 }
 
 }  // namespace tarn

@@ -140,6 +140,9 @@ TARN_INLINE i32x4 lower_words(i64x2 low, i64x2 high) {
     return (i32x4)_mm_shuffle_ps((__m128)low, (__m128)high, _MM_SHUFFLE(2, 0, 2, 0));
 }
 
+// Multiplication of 32-bit words: the low word of each 64-bit lane, to 64 bits.
+TARN_INLINE u64x2 multiply_words(u64x2 a, u64x2 b) { return (u64x2)_mm_mul_epu32((__m128i)a, (__m128i)b); }
+
 // Polynomials ------------------------------------------------------------------------------------
 
 // Horner's rule, highest coefficient first: ((c0*x + c1)*x + c2)*x + ... A coefficient may be one lane.

@@ -1,18 +1,11 @@
 // Tables of the single-precision trigonometry.
+#include "tables/angles.hpp"
 #include "tables/tables.hpp"
 
 #include <cmath>
 
 namespace tarn::tables {
 namespace {
-
-// Sine and cosine of j/n of a turn, exact at the quarters.
-Real sine_of(int j, int n) {
-    j %= n;
-    if (4 * j % n == 0) return Real(j == n / 4 ? 1 : j == 3 * n / 4 ? -1 : 0);
-    return sin(Real(2 * j) * Real::pi() / Real(n));
-}
-Real cosine_of(int j, int n) { return sine_of(j + n / 4, n); }
 
 // The power of two nearest on a logarithmic scale, with the sign of v. `half` is what the tie at
 // sqrt(1/2) becomes.

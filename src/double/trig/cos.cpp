@@ -1,0 +1,40 @@
+// cos x = +-sin r with n = round((x + pi/2)/pi) and r = x - (n - 1/2) pi, |r| <= pi/2; pi in four
+// pieces, the sine an odd polynomial of degree 15 (native: three pieces, degree 9).
+//
+// One lane with |x + pi/2| above 2^23 sends the whole call through the exact reduction in turns and the
+// angle table; infinities are then the callout's. A NaN goes through the arithmetic.
+#include "callout/callouts.hpp"
+#include "double/trig/angle_table.hpp"
+#include "double/trig/sine.hpp"
+#include "frame/exports.hpp"
+
+namespace tarn {
+namespace {
+
+using namespace trig_f64;
+
+constexpr f64x2 half_pi = splat_f64(0x3FF921FB54442D18);  // 1.5707963267948966
+
+// One copy for all widths and variants: inlined, it would be most of the code.
+[[gnu::noinline]] f64x2 large_argument(f64x2 x) { return cosine_from_table(reduce_exactly<Turns>(x)).rounded(); }
+
+template <class Form> struct Cos : Kernel<double(double)> {
+    static constexpr auto callout = callout::cos;
+
+    static TARN_INLINE auto fast(f64x2 x) {
+        const f64x2 v = x + half_pi;
+        const f64x2 shifted = v * inv_pi + shifter;
+        const f64x2 m = (shifted - shifter) - half;
+        const f64x2 r = Form::rest(Form::near(x, m), m);
+        const f64x2 y = Form::cosine(xor_bits(r, parity_sign(shifted)), r * r);
+        return Flagged{y, (i64x2)(abs(v) > splat(0x1p23))};
+    }
+
+    static TARN_INLINE auto long_path(f64x2 x) { return Flagged{large_argument(x), is_infinite(x)}; }
+};
+
+}  // namespace
+}  // namespace tarn
+
+TARN_EXPORT(unary, cos, full, tarn::Cos<tarn::trig_f64::Full>)
+TARN_EXPORT(unary, cos, native, tarn::Cos<tarn::trig_f64::Native>)

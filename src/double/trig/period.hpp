@@ -1,0 +1,16 @@
+// The pi forms have a period that doubles hold exactly: x without a multiple of 256, which lies in
+// [-128, 128]. From 2^59 on every double is such a multiple. Infinities give a NaN.
+#pragma once
+
+#include "frame/simd.hpp"
+
+namespace tarn::trig_f64 {
+
+TARN_INLINE f64x2 without_periods(f64x2 x) {
+    constexpr f64x2 all_periods = splat_f64(0x43A0000000000000);     // 2^59
+    constexpr f64x2 period_shifter = splat_f64(0x43B8000000000000);  // 1.5 * 2^60: rounds to 256s
+    const f64x2 s = where((i64x2)(abs(x) < all_periods), period_shifter);
+    return x - ((x + s) - s);
+}
+
+}  // namespace tarn::trig_f64

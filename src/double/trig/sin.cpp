@@ -1,0 +1,40 @@
+// sin x = +-sin r with n = round(|x|/pi) and r = |x| - n pi, |r| <= pi/2; pi in four pieces, the sine
+// an odd polynomial of degree 15 (native: three pieces, degree 9).
+//
+// One lane above 2^24 sends the whole call through the exact reduction in turns and the angle table;
+// infinities are then the callout's. A NaN goes through the arithmetic.
+#include "callout/callouts.hpp"
+#include "double/trig/angle_table.hpp"
+#include "double/trig/sine.hpp"
+#include "frame/exports.hpp"
+
+namespace tarn {
+namespace {
+
+using namespace trig_f64;
+
+// One copy for all widths and variants: inlined, it would be most of the code.
+[[gnu::noinline]] f64x2 large_argument(f64x2 x) {
+    return xor_bits(sine_from_table(reduce_exactly<Turns>(x)).rounded(), sign_bit(x));
+}
+
+template <class Form> struct Sin : Kernel<double(double)> {
+    static constexpr auto callout = callout::sin;
+
+    static TARN_INLINE auto fast(f64x2 x) {
+        const f64x2 a = abs(x);
+        const f64x2 shifted = a * inv_pi + shifter;
+        const f64x2 n = shifted - shifter;
+        const f64x2 r = Form::rest(Form::near(a, n), n);
+        const f64x2 y = Form::sine(xor_bits(r, parity_sign(shifted)), r * r);
+        return Flagged{xor_bits(y, sign_bit(x)), (i64x2)(a > splat(0x1p24))};
+    }
+
+    static TARN_INLINE auto long_path(f64x2 x) { return Flagged{large_argument(x), is_infinite(x)}; }
+};
+
+}  // namespace
+}  // namespace tarn
+
+TARN_EXPORT(unary, sin, full, tarn::Sin<tarn::trig_f64::Full>)
+TARN_EXPORT(unary, sin, native, tarn::Sin<tarn::trig_f64::Native>)

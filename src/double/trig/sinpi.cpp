@@ -1,0 +1,42 @@
+// sin(pi x) = +-sin(pi r) with n = round(|x|) and r = |x| - n exact, |r| <= 1/2; pi r is rounded once
+// and its sine an odd polynomial of degree 15 (native: degree 9). Where |r| is 0 or 1/2 the result is
+// exact (native: at 0).
+//
+// One lane above 2^51 sends the call through the same steps after an exact removal of periods, which
+// gives every lane the same bits; infinities are then the callout's. A NaN goes through the arithmetic.
+#include "callout/callouts.hpp"
+#include "double/trig/period.hpp"
+#include "double/trig/sine.hpp"
+#include "double/trig/turns.hpp"
+#include "frame/exports.hpp"
+
+namespace tarn {
+namespace {
+
+using namespace trig_f64;
+
+template <class Form> struct Sinpi : Kernel<double(double)> {
+    static constexpr auto callout = callout::sinpi;
+
+    static TARN_INLINE f64x2 of_magnitude(f64x2 a, f64x2 x) {
+        const f64x2 shifted = a + shifter;
+        const f64x2 r = (a - (shifted - shifter)) * pi;
+        const f64x2 y = Form::cosine(xor_bits(r, parity_sign(shifted)), r * r);
+        return xor_bits(y, sign_bit(x));
+    }
+
+    static TARN_INLINE auto fast(f64x2 x) {
+        const f64x2 a = abs(x);
+        return Flagged{of_magnitude(a, x), (i64x2)(a > splat(0x1p51))};
+    }
+
+    static TARN_INLINE auto long_path(f64x2 x) {
+        return Flagged{of_magnitude(without_periods(abs(x)), x), is_infinite(x)};
+    }
+};
+
+}  // namespace
+}  // namespace tarn
+
+TARN_EXPORT(unary, sinpi, full, tarn::Sinpi<tarn::trig_f64::Full>)
+TARN_EXPORT(unary, sinpi, native, tarn::Sinpi<tarn::trig_f64::Native>)
