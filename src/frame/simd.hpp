@@ -173,6 +173,7 @@ TARN_INLINE f64x2 gather_high(const double* table, i32x4 index) {
     const auto [a, b, c, d] = rows(index).row;
     return f64x2{table[c], table[d]};
 }
+TARN_INLINE f64x2 gather(const double* table, i64x2 index) { return f64x2{table[index[0]], table[index[1]]}; }
 
 // Two neighbouring columns of two rows of doubles, a vector each.
 struct ColumnsF64 {
@@ -181,6 +182,12 @@ struct ColumnsF64 {
 TARN_INLINE ColumnsF64 columns(const double* row0, const double* row1) {
     const __m128d a = _mm_loadu_pd(row0), b = _mm_loadu_pd(row1);
     return {_mm_unpacklo_pd(a, b), _mm_unpackhi_pd(a, b)};
+}
+template <int column = 0, class Entry, std::size_t count>
+TARN_INLINE ColumnsF64 gather_columns(const Entry (*table)[count], i64x2 index) {
+    static_assert(sizeof(Entry) == 8);
+    return columns(reinterpret_cast<const double*>(table[index[0]] + column),
+                   reinterpret_cast<const double*>(table[index[1]] + column));
 }
 
 // Two neighbouring columns of a table's rows, from `column` on, a vector each.
@@ -223,6 +230,11 @@ TARN_INLINE i32x4 magnitude_above(f32x4 x, std::uint32_t bound) { return bits(ab
 // Infinities and NaNs.
 TARN_INLINE i32x4 not_finite(f32x4 x) { return magnitude_above(x, 0x7F7FFFFF); }
 
+// The upper word of |x| above the bound, in the upper words of the mask.
+TARN_INLINE i32x4 upper_magnitude_above(f64x2 x, std::uint32_t bound) {
+    return (i32x4)bits(abs(x)) > splat_i32(bound);
+}
+
 // |x| within the bound as a float comparison turned round, so that a NaN is not within.
 TARN_INLINE i32x4 not_within(f32x4 x, f32x4 bound) { return (i32x4)_mm_cmpnle_ps(abs(x), bound); }
 
@@ -230,6 +242,10 @@ TARN_INLINE i32x4 not_within(f32x4 x, f32x4 bound) { return (i32x4)_mm_cmpnle_ps
 // infinities and NaNs.
 TARN_INLINE i32x4 not_positive_normal(f32x4 x) {
     return (i32x4)((u32x4)x + (u32x4)splat_i32(0x00800000)) < splat_i32(0x01000000);
+}
+// The same in double precision, in the upper words of the mask.
+TARN_INLINE i32x4 not_positive_normal(f64x2 x) {
+    return (i32x4)((u32x4)x + (u32x4)splat_i32(0x00100000)) < splat_i32(0x00200000);
 }
 
 // Floating-point flags ---------------------------------------------------------------------------
