@@ -36,6 +36,15 @@ UnaryFloat sinpif, cospif, tanpif;
 UnaryFloat asinf, acosf, asinpif, acospif, atanpif;
 BinaryFloat atan2f, atan2pif;
 
+using UnaryDouble = int(const double* x, double* result);
+using BinaryDouble = int(const double* x, const double* y, double* result);
+using DoubleAndInt = int(const double* x, const std::int32_t* n, double* result);
+
+UnaryDouble inv, rsqrt, cbrt, rcbrt;
+BinaryDouble div, hypot;
+BinaryDouble pow, powr;
+DoubleAndInt pown, rootn;
+
 // The lane-wise families and the remainders, in both precisions.
 template <class Real> int fmin(const Real* x, const Real* y, Real* result);
 template <class Real> int fmax(const Real* x, const Real* y, Real* result);

@@ -15,11 +15,6 @@ template <class Real> Real larger(Real x, Real y) {
     return is_nan(x) || is_nan(y) ? ignoring_nan(x, y) : x > y ? x : y;
 }
 
-template <class Real> int give(Real* result, Real value) {
-    *result = value;
-    return ordinary;
-}
-
 }  // namespace
 
 template <class Real> int fmin(const Real* x, const Real* y, Real* result) { return give(result, smaller(*x, *y)); }

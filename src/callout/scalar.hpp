@@ -54,8 +54,8 @@ TARN_INLINE Rounded round_by_shifter(double x, double shifter) {
 }
 
 // Stores a callout's result, rounded once, and hands the status on.
-TARN_INLINE int give(float* result, double value, Status status = ordinary) {
-    *result = static_cast<float>(value);
+template <class Real> TARN_INLINE int give(Real* result, double value, Status status = ordinary) {
+    *result = static_cast<Real>(value);
     return status;
 }
 

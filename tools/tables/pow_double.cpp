@@ -21,6 +21,11 @@ Row log2_pair_row(int i) {
     return {head, (value - Real(head)).nearest()};
 }
 
+Row log2_row(int i) {
+    const Real c = Real(1024 + i) / Real(1024);
+    return {(Real(1) / c).nearest(), (log2(c) - Real(i < 512 ? 0 : 1)).nearest()};
+}
+
 const Register pow_double_tables({
     {"log2_reciprocals", "row i of 1025: 0x1.715474p+0/(1 + i/1024) rounded to nearest at 23 significant bits.",
      each_row(1025, [](int i) -> Row { return {log2_reciprocal(i)}; })},
@@ -28,6 +33,8 @@ const Register pow_double_tables({
      "row i of 1025, R the i-th of log2_reciprocals: log2(0x1.715474p+0/R), less 1 from row 512 on, the lower 32 bits "
      "cleared; what that leaves. The first and last row are zero.",
      each_row(1025, log2_pair_row)},
+    {"log2_rows", "row i of 1025, c = 1 + i/1024: 1/c and log2 c, less 1 from row 512 on, rounded to nearest.",
+     each_row(1025, log2_row)},
     {"exp2_128ths", "row j of 128: 2^(j/128) rounded to nearest.",
      each_row(128, [](int j) -> Row { return {exp2_part(j, 128).nearest()}; })},
 });

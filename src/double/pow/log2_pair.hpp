@@ -20,7 +20,23 @@ struct Log2Pair {
 // The upper 26 bits of a number: products of two such are exact.
 TARN_INLINE f64x2 short_head(f64x2 x) { return from_bits(bits(x) & splat_i64(0xFFFFFFFFF8000000)); }
 
+// x = 2^e M: M rounded to 10 fraction bits as a row 0 to 1024, M, and e as it goes with the row's logarithm.
 // Numbers that are not positive and normal give anything, from rows that exist.
+struct Log2Reduction {
+    i64x2 row;
+    f64x2 m, e;
+};
+TARN_INLINE Log2Reduction log2_reduction(f64x2 x) {
+    const i64x2 row = shift_right_logical((bits(x) & splat_i64(0x000FFE0000000000)) + splat_i64(0x0000020000000000), 42);
+    const f64x2 m = from_bits((bits(x) & splat_i64(0x000FFFFFFFFFFFFF)) | bits(splat(1.0)));
+
+    // The exponent as the low bits of a double's upper word, above 1.5 * 2^20.
+    const f64x2 shifter = splat_f64(0x4138000000000000);  // 1572864.0 = 1.5 * 2^20
+    const i32x4 exponent = ((i32x4)bits(x) - splat_i32(0x3FE7FE00)) >> 20;
+    const i64x2 shifted = (i64x2)(exponent + splat_i32(0x41380000)) & splat_i64(0xFFFFFFFF00000000);
+    return {row, m, from_bits(shifted) - shifter};
+}
+
 TARN_INLINE Log2Pair log2_pair(f64x2 x) {
     const f64x2 log2_e = splat_f64(0x3FF7154740000000);  // 1.442694902420044
     const f64x2 k6 = splat_f64(0xBF9B4EA0E9419F52);      // -0.026667131649815552
@@ -30,14 +46,7 @@ TARN_INLINE Log2Pair log2_pair(f64x2 x) {
     const f64x2 k2 = splat_f64(0xBFD62E4346694107);      // -0.3465736568077919
     const f64x2 k1 = splat_f64(0x3E79C3A6966457EE);      // 9.597935033233511e-08
 
-    const i64x2 row = shift_right_logical((bits(x) & splat_i64(0x000FFE0000000000)) + splat_i64(0x0000020000000000), 42);
-    const f64x2 m = from_bits((bits(x) & splat_i64(0x000FFFFFFFFFFFFF)) | bits(splat(1.0)));
-
-    // The exponent as the low bits of a double's upper word, 1.5 * 2^20 above its value.
-    const i32x4 exponent = ((i32x4)bits(x) - splat_i32(0x3FE7FE00)) >> 20;
-    const f64x2 shifter = splat_f64(0x4138000000000000);  // 1572864.0 = 1.5 * 2^20
-    const f64x2 e = from_bits(((i64x2)(exponent + splat_i32(0x41380000))) & splat_i64(0xFFFFFFFF00000000)) - shifter;
-
+    const auto [row, m, e] = log2_reduction(x);
     const f64x2 reciprocal = gather(log2_reciprocals, row);
     const auto [log_head, log_tail] = gather_columns(log2_pairs, row);
     const f64x2 mh = short_head(m), ml = m - mh;

@@ -1,0 +1,28 @@
+// x^(-1/2) as the reciprocal of the square root, corrected by what both roundings left (corrected_roots.hpp). The
+// native form has no correction and no special lanes.
+//
+// @@
+#include "callout/callouts.hpp"
+#include "double/roots/corrected_roots.hpp"
+#include "frame/exports.hpp"
+
+namespace tarn {
+namespace {
+
+struct Rsqrt : Kernel<double(double)> {
+    static constexpr auto callout = callout::rsqrt;
+
+    static TARN_INLINE auto fast(f64x2 x) {
+        return Flagged{corrected_rsqrt(x), below_or_not_finite(x, least_correctable)};
+    }
+};
+
+struct RsqrtNative : Kernel<double(double)> {
+    static TARN_INLINE f64x2 fast(f64x2 x) { return splat(1.0) / sqrt(x); }
+};
+
+}  // namespace
+}  // namespace tarn
+
+TARN_EXPORT(unary, rsqrt, full, tarn::Rsqrt)
+TARN_EXPORT(unary, rsqrt, native, tarn::RsqrtNative)
