@@ -1,7 +1,7 @@
 // Division and roots in double precision. The quotients are the processor's; the others are the kernels' own steps
 // after scaling by a power of two whose root is one.
 #include "callout/scalar.hpp"
-#include "double/roots/corrected_roots.hpp"
+#include "double/roots/corrected_rsqrt.hpp"
 #include "double/roots/cube_root.hpp"
 
 namespace tarn::callout {
@@ -53,7 +53,8 @@ int hypot(const double* px, const double* py, double* result) {
     if (is_nan(*px) || is_nan(*py)) return give(result, *px + *py);
     if (larger == 0) return give(result, 0.0);
     const double scale = larger > 0x1p500 ? 0x1p-600 : larger < 0x1p-400 ? 0x1p600 : 1.0;
-    return give(result, corrected_hypot(splat(x * scale), splat(y * scale)).root[0] * (1.0 / scale));
+    const double X = x * scale, Y = y * scale;
+    return give(result, __builtin_sqrt(X * X + Y * Y) * (1.0 / scale));
 }
 
 }  // namespace tarn::callout

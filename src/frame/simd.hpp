@@ -243,10 +243,12 @@ TARN_INLINE i32x4 not_within(f32x4 x, f32x4 bound) { return (i32x4)_mm_cmpnle_ps
 TARN_INLINE i32x4 not_positive_normal(f32x4 x) {
     return (i32x4)((u32x4)x + (u32x4)splat_i32(0x00800000)) < splat_i32(0x01000000);
 }
-// The same in double precision, in the upper words of the mask.
-TARN_INLINE i32x4 not_positive_normal(f64x2 x) {
-    return (i32x4)((u32x4)x + (u32x4)splat_i32(0x00100000)) < splat_i32(0x00200000);
+// The same in double precision, in the upper words of the mask; and anything below a bound, given as an upper
+// word, in the place of what is not normal.
+TARN_INLINE i32x4 below_or_not_finite(f64x2 x, std::uint32_t bound) {
+    return (i32x4)((u32x4)x + (u32x4)splat_i32(0x00100000)) < splat_i32(bound + 0x00100000);
 }
+TARN_INLINE i32x4 not_positive_normal(f64x2 x) { return below_or_not_finite(x, 0x00100000); }
 
 // Floating-point flags ---------------------------------------------------------------------------
 

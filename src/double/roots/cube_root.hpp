@@ -25,23 +25,28 @@ struct CubeRoot64 {
     static constexpr f64x2 native_c2 = splat_f64(0xBFBC7241B3FB1497);  // -0.11111841816007693
     static constexpr f64x2 native_c1 = splat_f64(0x3FD5555554AEC3A1);  // 0.33333333272735827
 
+    static TARN_INLINE f64x2 series(f64x2 t) { return horner(t, c7, c6, c5, c4, c3, c2, c1); }
+    static TARN_INLINE f64x2 native_series(f64x2 t) { return horner(t, native_c3, native_c2, native_c1); }
     static TARN_INLINE i64x2 exponent(i64x2 q) { return q + splat(std::int64_t{1023 - 341}); }
 };
 
 struct ReciprocalCubeRoot64 {
     static constexpr const auto& rows = reciprocal_cube_root_pairs;
-    static constexpr f64x2 c7 = splat_f64(0xBFB9B5ED8D5BF053);  // -0.10043225003386284
-    static constexpr f64x2 c6 = splat_f64(0x3FBC6A49C53A75F6);  // 0.11099682870050018
-    static constexpr f64x2 c5 = splat_f64(0xBFBFF4C324A57078);  // -0.12482852596935057
-    static constexpr f64x2 c4 = splat_f64(0x3FC26FABAEAB1BA6);  // 0.14403291729669582
-    static constexpr f64x2 c3 = splat_f64(0xBFC61F9ADD3C38C3);  // -0.172839506173153
-    static constexpr f64x2 c2 = splat_f64(0x3FCC71C71C71D9E9);  // 0.2222222222223558
+    static constexpr f64x2 c8 = splat_f64(0x3FB791C7B3DDAFDF);  // 0.092068177616681166
+    static constexpr f64x2 c7 = splat_f64(0xBFB9B5E1E002E081);  // -0.10043155402206773
+    static constexpr f64x2 c6 = splat_f64(0x3FBC67C9DE2219A1);  // 0.11095868752645412
+    static constexpr f64x2 c5 = splat_f64(0xBFBFF4C325EA7955);  // -0.12482852626496783
+    static constexpr f64x2 c4 = splat_f64(0x3FC26FABB85D0023);  // 0.14403292181123203
+    static constexpr f64x2 c3 = splat_f64(0xBFC61F9ADD3C346E);  // -0.17283950617312221
+    static constexpr f64x2 c2 = splat_f64(0x3FCC71C71C71C71C);  // 0.22222222222222221
     static constexpr f64x2 c1 = splat_f64(0xBFD5555555555555);  // -0.33333333333333331
 
     static constexpr f64x2 native_c3 = splat_f64(0xBFC6209CEAE70631);  // -0.1728702685341417
     static constexpr f64x2 native_c2 = splat_f64(0x3FCC729DA8400E25);  // 0.22224779811232157
     static constexpr f64x2 native_c1 = splat_f64(0xBFD555555434E218);  // -0.33333333228395778
 
+    static TARN_INLINE f64x2 series(f64x2 t) { return horner(t, c8, c7, c6, c5, c4, c3, c2, c1); }
+    static TARN_INLINE f64x2 native_series(f64x2 t) { return horner(t, native_c3, native_c2, native_c1); }
     static TARN_INLINE i64x2 exponent(i64x2 q) { return splat(std::int64_t{1023 + 341}) - q; }
 };
 
@@ -65,11 +70,10 @@ template <class Root, bool native = false> TARN_INLINE f64x2 cube_root_steps(f64
     const f64x2 t = (minus_m - minus_c) * minus_reciprocal;
     const f64x2 high = table_high * scale;
     if constexpr (native) {
-        return horner(t, Root::native_c3, Root::native_c2, Root::native_c1) * (t * high) + high;
+        return Root::native_series(t) * (t * high) + high;
     } else {
         const f64x2 low = gather_columns<2>(Root::rows, row).first * scale;
-        const f64x2 series = horner(t, Root::c7, Root::c6, Root::c5, Root::c4, Root::c3, Root::c2, Root::c1);
-        return (series * (t * high) + low) + high;
+        return (Root::series(t) * (t * high) + low) + high;
     }
 }
 

@@ -1,9 +1,8 @@
-// (x^2 + y^2)^(1/2) as the square root of the rounded sum, corrected by what every rounding left
-// (corrected_roots.hpp). The native form has no correction. Sums of squares outside [2^-900, 2^1024) are special.
+// (x^2 + y^2)^(1/2): the processor's square root of the rounded sum where neither square can have lost accuracy to
+// the ends of the range. The native form is the same without special lanes.
 //
-// @@
+// Worst error 1.17 ulp at (1.4326, 0.32167).
 #include "callout/callouts.hpp"
-#include "double/roots/corrected_roots.hpp"
 #include "frame/exports.hpp"
 
 namespace tarn {
@@ -11,20 +10,16 @@ namespace {
 
 struct Hypot : Kernel<double(double, double)> {
     static constexpr auto callout = callout::hypot;
+    static constexpr std::uint32_t lowest = 0x07B00000;  // of 2^-900
 
     static TARN_INLINE auto fast(f64x2 x, f64x2 y) {
-        const auto [root, sum] = corrected_hypot(x, y);
-        return Flagged{root, below_or_not_finite(sum, least_correctable)};
+        const f64x2 sum = x * x + y * y;
+        return Flagged{sqrt(sum), below_or_not_finite(sum, lowest)};
     }
 };
 
 struct HypotNative : Kernel<double(double, double)> {
-    static constexpr auto callout = callout::hypot;
-
-    static TARN_INLINE auto fast(f64x2 x, f64x2 y) {
-        const f64x2 sum = x * x + y * y;
-        return Flagged{sqrt(sum), below_or_not_finite(sum, least_correctable)};
-    }
+    static TARN_INLINE f64x2 fast(f64x2 x, f64x2 y) { return sqrt(x * x + y * y); }
 };
 
 }  // namespace

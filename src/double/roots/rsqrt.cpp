@@ -1,9 +1,9 @@
-// x^(-1/2) as the reciprocal of the square root, corrected by what both roundings left (corrected_roots.hpp). The
+// x^(-1/2) as the reciprocal of the square root, corrected by what both roundings left (corrected_rsqrt.hpp). The
 // native form has no correction and no special lanes.
 //
-// @@
+// Worst error 0.500 ulp; native 1.50 at 1.00207 times a power of four.
 #include "callout/callouts.hpp"
-#include "double/roots/corrected_roots.hpp"
+#include "double/roots/corrected_rsqrt.hpp"
 #include "frame/exports.hpp"
 
 namespace tarn {
@@ -11,10 +11,9 @@ namespace {
 
 struct Rsqrt : Kernel<double(double)> {
     static constexpr auto callout = callout::rsqrt;
+    static constexpr std::uint32_t lowest = 0x07B00000;  // of 2^-900: below, residuals reach the end of the range
 
-    static TARN_INLINE auto fast(f64x2 x) {
-        return Flagged{corrected_rsqrt(x), below_or_not_finite(x, least_correctable)};
-    }
+    static TARN_INLINE auto fast(f64x2 x) { return Flagged{corrected_rsqrt(x), below_or_not_finite(x, lowest)}; }
 };
 
 struct RsqrtNative : Kernel<double(double)> {
