@@ -392,7 +392,8 @@ tarn_float4 __ocl_tarn_k1_powf4_native(tarn_float4 x, tarn_float4 y) TARN_CONST;
 tarn_float8 __ocl_tarn_k1_powf8_native(tarn_float8 x, tarn_float8 y) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_powf16_native(tarn_float16 x, tarn_float16 y) TARN_CONST;
 
-/* pow: x^y. Domain: x >= 0, or y an integer. Special values: C99 Annex F. */
+/* pow: x^y. Domain: x >= 0, or y an integer. Special values: C99 Annex F. Worst error 1.615 ulp (OpenCL
+   allows 16); native 5.248e+07; measured over 5 million samples, most of them near 1.0005. */
 double __ocl_tarn_k1_pow1(double x, double y) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_pow2(tarn_double2 x, tarn_double2 y) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_pow3(tarn_double3 x, tarn_double3 y) TARN_CONST;
@@ -427,7 +428,9 @@ tarn_float4 __ocl_tarn_k1_powrf4_half(tarn_float4 x, tarn_float4 y) TARN_CONST;
 tarn_float8 __ocl_tarn_k1_powrf8_half(tarn_float8 x, tarn_float8 y) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_powrf16_half(tarn_float16 x, tarn_float16 y) TARN_CONST;
 
-/* powr: x^y for x >= 0. Domain: x >= 0. Special values: x < 0 gives NaN; 0^0, inf^0 and 1^inf give NaN. */
+/* powr: x^y for x >= 0. Domain: x >= 0. Special values: x < 0 gives NaN; 0^0, inf^0 and 1^inf give NaN.
+   Worst error 1.615 ulp (OpenCL allows 16); native 5.248e+07; measured over 5 million samples, most of them
+   near 1.0005. */
 double __ocl_tarn_k1_powr1(double x, double y) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_powr2(tarn_double2 x, tarn_double2 y) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_powr3(tarn_double3 x, tarn_double3 y) TARN_CONST;
@@ -456,7 +459,8 @@ tarn_float4 __ocl_tarn_k1_pownf4_native(tarn_float4 x, tarn_int4 n) TARN_CONST;
 tarn_float8 __ocl_tarn_k1_pownf8_native(tarn_float8 x, tarn_int8 n) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_pownf16_native(tarn_float16 x, tarn_int16 n) TARN_CONST;
 
-/* pown: x^n, n an integer. Domain: every x. Special values: x^0 is 1, also for a NaN. */
+/* pown: x^n, n an integer. Domain: every x. Special values: x^0 is 1, also for a NaN. Worst error 1.589 ulp
+   (OpenCL allows 16); native 5.231e+07; measured over 3 million samples, most of them near 1.0005. */
 double __ocl_tarn_k1_pown1(double x, int32_t n) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_pown2(tarn_double2 x, tarn_int2 n) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_pown3(tarn_double3 x, tarn_int3 n) TARN_CONST;
@@ -486,7 +490,7 @@ tarn_float8 __ocl_tarn_k1_rootnf8_native(tarn_float8 x, tarn_int8 n) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_rootnf16_native(tarn_float16 x, tarn_int16 n) TARN_CONST;
 
 /* rootn: x^(1/n), n an integer. Domain: x >= 0, or n odd. Special values: n = 0 gives NaN, x < 0 with even
-   n NaN. */
+   n NaN. Worst error 0.9982 ulp (OpenCL allows 16); native 7.455e+06; measured over 2 million samples. */
 double __ocl_tarn_k1_rootn1(double x, int32_t n) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_rootn2(tarn_double2 x, tarn_int2 n) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_rootn3(tarn_double3 x, tarn_int3 n) TARN_CONST;
@@ -524,7 +528,8 @@ tarn_float4 __ocl_tarn_k1_divf4_half(tarn_float4 x, tarn_float4 y) TARN_CONST;
 tarn_float8 __ocl_tarn_k1_divf8_half(tarn_float8 x, tarn_float8 y) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_divf16_half(tarn_float16 x, tarn_float16 y) TARN_CONST;
 
-/* div: x / y. Domain: every x and y. Special values: IEEE division. Exact, or rounded once. */
+/* div: x / y. Domain: every x and y. Special values: IEEE division. Worst error 0.5 ulp; native 0.5;
+   measured over 2 million samples. */
 double __ocl_tarn_k1_div1(double x, double y) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_div2(tarn_double2 x, tarn_double2 y) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_div3(tarn_double3 x, tarn_double3 y) TARN_CONST;
@@ -559,7 +564,8 @@ tarn_float4 __ocl_tarn_k1_invf4_half(tarn_float4 x) TARN_CONST;
 tarn_float8 __ocl_tarn_k1_invf8_half(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_invf16_half(tarn_float16 x) TARN_CONST;
 
-/* inv: 1 / x. Domain: every x. Special values: IEEE division. Exact, or rounded once. */
+/* inv: 1 / x. Domain: every x. Special values: IEEE division. Worst error 0.5 ulp; native 0.5; measured
+   over 2 million samples. */
 double __ocl_tarn_k1_inv1(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_inv2(tarn_double2 x) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_inv3(tarn_double3 x) TARN_CONST;
@@ -595,7 +601,8 @@ tarn_float4 __ocl_tarn_k1_sqrtf4_half(tarn_float4 x) TARN_CONST;
 tarn_float8 __ocl_tarn_k1_sqrtf8_half(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_sqrtf16_half(tarn_float16 x) TARN_CONST;
 
-/* sqrt: x^(1/2). Domain: x >= 0. Special values: -0 gives -0, x < 0 NaN. Exact, or rounded once. */
+/* sqrt: x^(1/2). Domain: x >= 0. Special values: -0 gives -0, x < 0 NaN. Worst error 0.5 ulp; native 0.5;
+   measured over 2 million samples. */
 double __ocl_tarn_k1_sqrt1(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_sqrt2(tarn_double2 x) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_sqrt3(tarn_double3 x) TARN_CONST;
@@ -630,7 +637,8 @@ tarn_float4 __ocl_tarn_k1_rsqrtf4_half(tarn_float4 x) TARN_CONST;
 tarn_float8 __ocl_tarn_k1_rsqrtf8_half(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_rsqrtf16_half(tarn_float16 x) TARN_CONST;
 
-/* rsqrt: x^(-1/2). Domain: x > 0. Special values: zeros give an infinity of their sign, +inf +0, x < 0 NaN. */
+/* rsqrt: x^(-1/2). Domain: x > 0. Special values: zeros give an infinity of their sign, +inf +0, x < 0 NaN.
+   Worst error 0.5 ulp (OpenCL allows 2); native 1.496; measured over 4 million samples. */
 double __ocl_tarn_k1_rsqrt1(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_rsqrt2(tarn_double2 x) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_rsqrt3(tarn_double3 x) TARN_CONST;
@@ -659,7 +667,8 @@ tarn_float4 __ocl_tarn_k1_cbrtf4_native(tarn_float4 x) TARN_CONST;
 tarn_float8 __ocl_tarn_k1_cbrtf8_native(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_cbrtf16_native(tarn_float16 x) TARN_CONST;
 
-/* cbrt: x^(1/3). Domain: every x. Special values: zeros and infinities come back. */
+/* cbrt: x^(1/3). Domain: every x. Special values: zeros and infinities come back. Worst error 0.5157 ulp
+   (OpenCL allows 2); native 4.159e+06; measured over 3 million samples. */
 double __ocl_tarn_k1_cbrt1(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_cbrt2(tarn_double2 x) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_cbrt3(tarn_double3 x) TARN_CONST;
@@ -690,7 +699,7 @@ tarn_float8 __ocl_tarn_k1_rcbrtf8_native(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_rcbrtf16_native(tarn_float16 x) TARN_CONST;
 
 /* rcbrt: x^(-1/3). Domain: every x. Special values: zeros give an infinity and infinities a zero of their
-   sign. */
+   sign. Worst error 0.5153 ulp (OpenCL allows 2); native 1.817e+07; measured over 3 million samples. */
 double __ocl_tarn_k1_rcbrt1(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_rcbrt2(tarn_double2 x) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_rcbrt3(tarn_double3 x) TARN_CONST;
@@ -721,7 +730,8 @@ tarn_float8 __ocl_tarn_k1_hypotf8_native(tarn_float8 x, tarn_float8 y) TARN_CONS
 tarn_float16 __ocl_tarn_k1_hypotf16_native(tarn_float16 x, tarn_float16 y) TARN_CONST;
 
 /* hypot: (x^2 + y^2)^(1/2). Domain: every x and y. Special values: an infinity gives +inf, also beside a
-   NaN. */
+   NaN; in the native form sums of squares beyond the range are lost, and a NaN gives NaN. Worst error 1.174
+   ulp (OpenCL allows 4); native 1.174; measured over 6 million samples. */
 double __ocl_tarn_k1_hypot1(double x, double y) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_hypot2(tarn_double2 x, tarn_double2 y) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_hypot3(tarn_double3 x, tarn_double3 y) TARN_CONST;

@@ -38,12 +38,18 @@ BinaryFloat atan2f, atan2pif;
 
 using UnaryDouble = int(const double* x, double* result);
 using UnaryDoublePair = int(const double* x, double* result, double* second);
+using BinaryDouble = int(const double* x, const double* y, double* result);
+using DoubleAndInt = int(const double* x, const std::int32_t* n, double* result);
 
 UnaryDouble exp, exp2, exp10, expm1;
 UnaryDouble log, log2, log10, log1p;
 UnaryDouble sin, cos, tan;
 UnaryDoublePair sincos;
 UnaryDouble sinpi, cospi, tanpi;
+UnaryDouble inv, rsqrt, cbrt, rcbrt;
+BinaryDouble div, hypot;
+BinaryDouble pow, powr;
+DoubleAndInt pown, rootn;
 
 // The lane-wise families and the remainders, in both precisions.
 template <class Real> int fmin(const Real* x, const Real* y, Real* result);

@@ -202,7 +202,6 @@ TARN_INLINE f64x2 gather_high(const double* table, i32x4 index) {
     const auto [a, b, c, d] = rows(index).row;
     return f64x2{table[c], table[d]};
 }
-
 TARN_INLINE f64x2 gather(const double* table, i64x2 index) { return f64x2{table[index[0]], table[index[1]]}; }
 TARN_INLINE i64x2 gather(const std::uint64_t* table, i64x2 index) {
     return i64x2{static_cast<std::int64_t>(table[index[0]]), static_cast<std::int64_t>(table[index[1]])};
@@ -277,6 +276,12 @@ TARN_INLINE i64x2 not_within(f64x2 x, f64x2 bound) { return (i64x2)_mm_cmpnle_pd
 TARN_INLINE i32x4 not_positive_normal(f32x4 x) {
     return (i32x4)((u32x4)x + (u32x4)splat_i32(0x00800000)) < splat_i32(0x01000000);
 }
+// The same in double precision, in the upper words of the mask; and anything below a bound, given as an upper
+// word, in the place of what is not normal.
+TARN_INLINE i32x4 below_or_not_finite(f64x2 x, std::uint32_t bound) {
+    return (i32x4)((u32x4)x + (u32x4)splat_i32(0x00100000)) < splat_i32(bound + 0x00100000);
+}
+TARN_INLINE i32x4 not_positive_normal(f64x2 x) { return below_or_not_finite(x, 0x00100000); }
 
 // Floating-point flags ---------------------------------------------------------------------------
 

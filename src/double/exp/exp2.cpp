@@ -11,11 +11,9 @@
 namespace tarn {
 namespace {
 
-#include "tables/exp2_128ths.inc"
-
 // 2^(n/128) (1 + r q), n in the shifted sum.
-TARN_INLINE f64x2 exp2_128th(f64x2 shifted, f64x2 r, f64x2 q) {
-    const f64x2 table = gather(exp2_128ths, bits(shifted) & splat_i64(127));
+TARN_INLINE f64x2 exp2_sum(f64x2 shifted, f64x2 r, f64x2 q) {
+    const f64x2 table = exp2_128th(shifted);
     return raised<7>(table + (table * r) * q, shifted);
 }
 
@@ -34,7 +32,7 @@ struct Exp2 : Kernel<double(double)> {
     static TARN_INLINE auto fast(f64x2 x) {
         const f64x2 shifted = x + shifter;
         const f64x2 r = x - (shifted - shifter);
-        return Flagged{exp2_128th(shifted, r, horner(r, c4, c3, c2, c1)), upper_magnitude_above(x, exp2_bound)};
+        return Flagged{exp2_sum(shifted, r, horner(r, c4, c3, c2, c1)), upper_magnitude_above(x, exp2_bound)};
     }
 };
 
@@ -52,7 +50,7 @@ struct Exp2Native : Kernel<double(double)> {
     static TARN_INLINE auto fast(f64x2 x) {
         const f64x2 shifted = x + Exp2::shifter;
         const f64x2 r = x - (shifted - Exp2::shifter);
-        return Flagged{exp2_128th(shifted, r, c2 * r + c1), upper_magnitude_above(x, exp2_bound)};
+        return Flagged{exp2_sum(shifted, r, c2 * r + c1), upper_magnitude_above(x, exp2_bound)};
     }
 };
 
@@ -73,7 +71,7 @@ struct Exp10 : Kernel<double(double)> {
         const f64x2 shifted = x * scale + shifter;
         const f64x2 n = shifted - shifter;
         const f64x2 r = (x - n * log10_2_128th_head) - n * log10_2_128th_tail;
-        return Flagged{exp2_128th(shifted, r, horner(r, c5, c4, c3, c2, c1)), upper_magnitude_above(x, exp10_bound)};
+        return Flagged{exp2_sum(shifted, r, horner(r, c5, c4, c3, c2, c1)), upper_magnitude_above(x, exp10_bound)};
     }
 };
 
@@ -88,7 +86,7 @@ struct Exp10Native : Kernel<double(double)> {
         const f64x2 t = x * Exp10::scale;
         const f64x2 shifted = t + Exp10::shifter;
         const f64x2 u = t - (shifted - Exp10::shifter);
-        return Flagged{exp2_128th(shifted, u, c2 * u + c1), upper_magnitude_above(x, exp10_bound)};
+        return Flagged{exp2_sum(shifted, u, c2 * u + c1), upper_magnitude_above(x, exp10_bound)};
     }
 };
 

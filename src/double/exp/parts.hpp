@@ -1,10 +1,15 @@
-// What the double-precision exponentials share: 2^(n/2^k) with the row n mod 2^k from a table and the
+// What the double-precision exponentials and powers share: 2^(n/2^k) with the row n mod 2^k from a table and the
 // rest of n in the exponent field.
 #pragma once
 
 #include "frame/simd.hpp"
 
 namespace tarn {
+
+#include "tables/exp2_128ths.inc"
+
+// 2^(j/128), j in the low bits of a shifted sum.
+TARN_INLINE f64x2 exp2_128th(f64x2 shifted) { return gather(exp2_128ths, bits(shifted) & splat_i64(127)); }
 
 // y times 2^(n >> index_bits), n in the low bits of a shifted sum; wrapping makes a negative n subtract.
 template <int index_bits> TARN_INLINE f64x2 raised(f64x2 y, f64x2 shifted) {

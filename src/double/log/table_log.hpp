@@ -38,11 +38,6 @@ TARN_INLINE f64x2 reduced_exactly(f64x2 m, f64x2 R) {
     return (m_head * R - splat(1.0)) + (m - m_head) * R;
 }
 
-// Zeros, subnormals, negative numbers, infinities and NaNs.
-TARN_INLINE i64x2 not_positive_normal(f64x2 x) {
-    return (x < splat_f64(0x0010000000000000)) | (i64x2)_mm_cmpnle_pd(x, splat_f64(0x7FEFFFFFFFFFFFFF));
-}
-
 struct BaseE {
     static constexpr const double* rows = log_rows;
     static constexpr f64x2 c2 = splat_f64(0xBFDFFFFFFFFFF81F);   // -0.49999999999988803

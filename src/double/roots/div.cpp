@@ -1,0 +1,41 @@
+// x / y and 1 / x by the processor's division. A zero or subnormal divisor is divided by again in the callout, a
+// scalar operation that raises the flags of that lane alone. The native forms leave that out; their results are
+// the same.
+//
+// Correctly rounded.
+#include "callout/callouts.hpp"
+#include "frame/exports.hpp"
+
+namespace tarn {
+namespace {
+
+// Zeros and subnormals, in the upper words.
+TARN_INLINE i32x4 without_exponent(f64x2 x) { return ((i32x4)bits(x) & splat_i32(0x7FF00000)) == splat(0); }
+
+struct Div : Kernel<double(double, double)> {
+    static constexpr auto callout = callout::div;
+
+    static TARN_INLINE auto fast(f64x2 x, f64x2 y) { return Flagged{x / y, without_exponent(y)}; }
+};
+
+struct DivNative : Kernel<double(double, double)> {
+    static TARN_INLINE f64x2 fast(f64x2 x, f64x2 y) { return x / y; }
+};
+
+struct Inv : Kernel<double(double)> {
+    static constexpr auto callout = callout::inv;
+
+    static TARN_INLINE auto fast(f64x2 x) { return Flagged{splat(1.0) / x, without_exponent(x)}; }
+};
+
+struct InvNative : Kernel<double(double)> {
+    static TARN_INLINE f64x2 fast(f64x2 x) { return splat(1.0) / x; }
+};
+
+}  // namespace
+}  // namespace tarn
+
+TARN_EXPORT(binary, div, full, tarn::Div)
+TARN_EXPORT(binary, div, native, tarn::DivNative)
+TARN_EXPORT(unary, inv, full, tarn::Inv)
+TARN_EXPORT(unary, inv, native, tarn::InvNative)

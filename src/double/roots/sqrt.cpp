@@ -1,0 +1,17 @@
+// x^(1/2) by the processor's square root, which has no special lanes; the native form is the same.
+//
+// Correctly rounded.
+#include "frame/exports.hpp"
+
+namespace tarn {
+namespace {
+
+struct Sqrt : Kernel<double(double)> {
+    static TARN_INLINE f64x2 fast(f64x2 x) { return sqrt(x); }
+};
+
+}  // namespace
+}  // namespace tarn
+
+TARN_EXPORT(unary, sqrt, full, tarn::Sqrt)
+TARN_EXPORT_SAME(sqrt, native, full)
