@@ -55,9 +55,13 @@ template <class Real> int remquo(const Real* x, const Real* y, Real* result, int
 template <class Real> int fma(const Real* x, const Real* y, const Real* z, Real* result);
 
 using UnaryDouble = int(const double* x, double* result);
+using BinaryDouble = int(const double* x, const double* y, double* result);
 
 UnaryDouble exp, exp2, exp10, expm1;
 UnaryDouble log, log2, log10, log1p;
+UnaryDouble sinh, cosh, tanh;
+UnaryDouble asin, acos, asinpi, acospi;
+BinaryDouble atan2, atan2pi;
 
 #pragma GCC visibility pop
 
