@@ -62,6 +62,7 @@ UnaryDouble log, log2, log10, log1p;
 UnaryDouble sinh, cosh, tanh;
 UnaryDouble asin, acos, asinpi, acospi;
 BinaryDouble atan2, atan2pi;
+UnaryDouble erfc;
 
 #pragma GCC visibility pop
 
