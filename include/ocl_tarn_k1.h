@@ -1036,7 +1036,8 @@ tarn_float4 __ocl_tarn_k1_asinf4_native(tarn_float4 x) TARN_CONST;
 tarn_float8 __ocl_tarn_k1_asinf8_native(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_asinf16_native(tarn_float16 x) TARN_CONST;
 
-/* asin: arcsin x. Domain: |x| <= 1; radians. Special values: beyond 1 NaN; zeros keep their sign. */
+/* asin: arcsin x. Domain: |x| <= 1; radians. Special values: beyond 1 NaN; zeros keep their sign. Worst
+   error 2.144 ulp (OpenCL allows 4); native 4.571e+07; measured over 3 million random inputs. */
 double __ocl_tarn_k1_asin1(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_asin2(tarn_double2 x) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_asin3(tarn_double3 x) TARN_CONST;
@@ -1065,7 +1066,8 @@ tarn_float4 __ocl_tarn_k1_acosf4_native(tarn_float4 x) TARN_CONST;
 tarn_float8 __ocl_tarn_k1_acosf8_native(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_acosf16_native(tarn_float16 x) TARN_CONST;
 
-/* acos: arccos x. Domain: |x| <= 1; radians. Special values: beyond 1 NaN; acos(1) is +0. */
+/* acos: arccos x. Domain: |x| <= 1; radians. Special values: beyond 1 NaN; acos(1) is +0. Worst error 1.29
+   ulp (OpenCL allows 4); native 4.363e+07; measured over 3 million random inputs. */
 double __ocl_tarn_k1_acos1(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_acos2(tarn_double2 x) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_acos3(tarn_double3 x) TARN_CONST;
@@ -1095,7 +1097,9 @@ tarn_float4 __ocl_tarn_k1_atanf4_native(tarn_float4 x) TARN_CONST;
 tarn_float8 __ocl_tarn_k1_atanf8_native(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_atanf16_native(tarn_float16 x) TARN_CONST;
 
-/* atan: arctan x. Domain: every x; radians. Special values: infinities give +-pi/2; zeros keep their sign. */
+/* atan: arctan x. Domain: every x; radians. Special values: infinities give +-pi/2; zeros keep their sign.
+   Worst error 3.219 ulp, width 2 4.508 (OpenCL allows 5); native 2.3e+07; measured over 3 million random
+   inputs. */
 double __ocl_tarn_k1_atan1(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_atan2(tarn_double2 x) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_atan3(tarn_double3 x) TARN_CONST;
@@ -1125,7 +1129,8 @@ tarn_float8 __ocl_tarn_k1_atan2f8_native(tarn_float8 x, tarn_float8 y) TARN_CONS
 tarn_float16 __ocl_tarn_k1_atan2f16_native(tarn_float16 x, tarn_float16 y) TARN_CONST;
 
 /* atan2: the angle of the point (y, x); first argument y. Domain: every y and x; radians. Special values:
-   C99 Annex F. */
+   C99 Annex F. Worst error 3.857 ulp (OpenCL allows 6); native 2.3e+07; measured over 3 million random
+   pairs. */
 double __ocl_tarn_k1_atan21(double x, double y) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_atan22(tarn_double2 x, tarn_double2 y) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_atan23(tarn_double3 x, tarn_double3 y) TARN_CONST;
@@ -1156,7 +1161,7 @@ tarn_float8 __ocl_tarn_k1_asinpif8_native(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_asinpif16_native(tarn_float16 x) TARN_CONST;
 
 /* asinpi: arcsin(x) / pi. Domain: |x| <= 1; half turns. Special values: beyond 1 NaN; zeros keep their
-   sign. */
+   sign. Worst error 2.924 ulp (OpenCL allows 5); native 5.82e+07; measured over 3 million random inputs. */
 double __ocl_tarn_k1_asinpi1(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_asinpi2(tarn_double2 x) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_asinpi3(tarn_double3 x) TARN_CONST;
@@ -1185,7 +1190,8 @@ tarn_float4 __ocl_tarn_k1_acospif4_native(tarn_float4 x) TARN_CONST;
 tarn_float8 __ocl_tarn_k1_acospif8_native(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_acospif16_native(tarn_float16 x) TARN_CONST;
 
-/* acospi: arccos(x) / pi. Domain: |x| <= 1; half turns. Special values: beyond 1 NaN; acospi(1) is +0. */
+/* acospi: arccos(x) / pi. Domain: |x| <= 1; half turns. Special values: beyond 1 NaN; acospi(1) is +0.
+   Worst error 1.863 ulp (OpenCL allows 5); native 4.125e+07; measured over 3 million random inputs. */
 double __ocl_tarn_k1_acospi1(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_acospi2(tarn_double2 x) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_acospi3(tarn_double3 x) TARN_CONST;
@@ -1216,7 +1222,8 @@ tarn_float8 __ocl_tarn_k1_atanpif8_native(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_atanpif16_native(tarn_float16 x) TARN_CONST;
 
 /* atanpi: arctan(x) / pi. Domain: every x; half turns. Special values: infinities give +-0.5; zeros keep
-   their sign. */
+   their sign. Worst error 3.911 ulp (OpenCL allows 5); native 2.318e+07; measured over 3 million random
+   inputs. */
 double __ocl_tarn_k1_atanpi1(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_atanpi2(tarn_double2 x) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_atanpi3(tarn_double3 x) TARN_CONST;
@@ -1247,7 +1254,8 @@ tarn_float8 __ocl_tarn_k1_atan2pif8_native(tarn_float8 x, tarn_float8 y) TARN_CO
 tarn_float16 __ocl_tarn_k1_atan2pif16_native(tarn_float16 x, tarn_float16 y) TARN_CONST;
 
 /* atan2pi: the angle of the point (y, x) over pi; first argument y. Domain: every y and x; half turns.
-   Special values: as atan2, divided by pi. */
+   Special values: as atan2, divided by pi. Worst error 3.367 ulp (OpenCL allows 6); native 2.318e+07;
+   measured over 3 million random pairs. */
 double __ocl_tarn_k1_atan2pi1(double x, double y) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_atan2pi2(tarn_double2 x, tarn_double2 y) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_atan2pi3(tarn_double3 x, tarn_double3 y) TARN_CONST;
@@ -1278,7 +1286,8 @@ tarn_float4 __ocl_tarn_k1_sinhf4_native(tarn_float4 x) TARN_CONST;
 tarn_float8 __ocl_tarn_k1_sinhf8_native(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_sinhf16_native(tarn_float16 x) TARN_CONST;
 
-/* sinh: (e^x - e^-x) / 2. Domain: every x. Special values: infinities and zeros come back. */
+/* sinh: (e^x - e^-x) / 2. Domain: every x. Special values: infinities and zeros come back. Worst error
+   2.091 ulp (OpenCL allows 4); native 2.517e+04; measured over 6 million random inputs. */
 double __ocl_tarn_k1_sinh1(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_sinh2(tarn_double2 x) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_sinh3(tarn_double3 x) TARN_CONST;
@@ -1307,7 +1316,8 @@ tarn_float4 __ocl_tarn_k1_coshf4_native(tarn_float4 x) TARN_CONST;
 tarn_float8 __ocl_tarn_k1_coshf8_native(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_coshf16_native(tarn_float16 x) TARN_CONST;
 
-/* cosh: (e^x + e^-x) / 2. Domain: every x. Special values: infinities give +inf. */
+/* cosh: (e^x + e^-x) / 2. Domain: every x. Special values: infinities give +inf. Worst error 1.138 ulp
+   (OpenCL allows 4); native 1545; measured over 6 million random inputs. */
 double __ocl_tarn_k1_cosh1(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_cosh2(tarn_double2 x) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_cosh3(tarn_double3 x) TARN_CONST;
@@ -1336,7 +1346,8 @@ tarn_float4 __ocl_tarn_k1_tanhf4_native(tarn_float4 x) TARN_CONST;
 tarn_float8 __ocl_tarn_k1_tanhf8_native(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_tanhf16_native(tarn_float16 x) TARN_CONST;
 
-/* tanh: sinh x / cosh x. Domain: every x. Special values: infinities give +-1; zeros keep their sign. */
+/* tanh: sinh x / cosh x. Domain: every x. Special values: infinities give +-1; zeros keep their sign. Worst
+   error 0.5814 ulp (OpenCL allows 5); native 1.167e+07; measured over 6 million random inputs. */
 double __ocl_tarn_k1_tanh1(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_tanh2(tarn_double2 x) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_tanh3(tarn_double3 x) TARN_CONST;
@@ -1459,7 +1470,8 @@ tarn_float8 __ocl_tarn_k1_erff8_native(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_erff16_native(tarn_float16 x) TARN_CONST;
 
 /* erf: 2/sqrt(pi) times the integral of e^(-t^2) from 0 to x. Domain: every x. Special values: infinities
-   give +-1; zeros keep their sign. */
+   give +-1; zeros keep their sign. Worst error 2.489 ulp (OpenCL allows 16); native 1.143e+06; measured
+   over 250 thousand random inputs. */
 double __ocl_tarn_k1_erf1(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_erf2(tarn_double2 x) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_erf3(tarn_double3 x) TARN_CONST;
@@ -1488,7 +1500,8 @@ tarn_float4 __ocl_tarn_k1_erfcf4_native(tarn_float4 x) TARN_CONST;
 tarn_float8 __ocl_tarn_k1_erfcf8_native(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_erfcf16_native(tarn_float16 x) TARN_CONST;
 
-/* erfc: 1 - erf x. Domain: every x. Special values: -inf gives 2, +inf +0. */
+/* erfc: 1 - erf x. Domain: every x. Special values: -inf gives 2, +inf +0. Worst error 1.727 ulp (OpenCL
+   allows 16); native 3.968e+06; measured over 250 thousand random inputs. */
 double __ocl_tarn_k1_erfc1(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_erfc2(tarn_double2 x) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_erfc3(tarn_double3 x) TARN_CONST;
