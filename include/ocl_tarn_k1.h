@@ -1037,7 +1037,7 @@ tarn_float8 __ocl_tarn_k1_asinf8_native(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_asinf16_native(tarn_float16 x) TARN_CONST;
 
 /* asin: arcsin x. Domain: |x| <= 1; radians. Special values: beyond 1 NaN; zeros keep their sign. Worst
-   error 2.144 ulp (OpenCL allows 4); native 4.571e+07; measured over 3 million random inputs. */
+   error 2.144 ulp (OpenCL allows 4); native 4.571e+07; measured over 2 million random inputs. */
 double __ocl_tarn_k1_asin1(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_asin2(tarn_double2 x) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_asin3(tarn_double3 x) TARN_CONST;
@@ -1067,7 +1067,7 @@ tarn_float8 __ocl_tarn_k1_acosf8_native(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_acosf16_native(tarn_float16 x) TARN_CONST;
 
 /* acos: arccos x. Domain: |x| <= 1; radians. Special values: beyond 1 NaN; acos(1) is +0. Worst error 1.29
-   ulp (OpenCL allows 4); native 4.363e+07; measured over 3 million random inputs. */
+   ulp (OpenCL allows 4); native 4.363e+07; measured over 2 million random inputs. */
 double __ocl_tarn_k1_acos1(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_acos2(tarn_double2 x) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_acos3(tarn_double3 x) TARN_CONST;
@@ -1098,7 +1098,7 @@ tarn_float8 __ocl_tarn_k1_atanf8_native(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_atanf16_native(tarn_float16 x) TARN_CONST;
 
 /* atan: arctan x. Domain: every x; radians. Special values: infinities give +-pi/2; zeros keep their sign.
-   Worst error 3.219 ulp, width 2 4.508 (OpenCL allows 5); native 2.3e+07; measured over 3 million random
+   Worst error 3.219 ulp, width 2 4.508 (OpenCL allows 5); native 2.3e+07; measured over 2 million random
    inputs. */
 double __ocl_tarn_k1_atan1(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_atan2(tarn_double2 x) TARN_CONST;
@@ -1129,7 +1129,7 @@ tarn_float8 __ocl_tarn_k1_atan2f8_native(tarn_float8 x, tarn_float8 y) TARN_CONS
 tarn_float16 __ocl_tarn_k1_atan2f16_native(tarn_float16 x, tarn_float16 y) TARN_CONST;
 
 /* atan2: the angle of the point (y, x); first argument y. Domain: every y and x; radians. Special values:
-   C99 Annex F. Worst error 3.857 ulp (OpenCL allows 6); native 2.3e+07; measured over 3 million random
+   C99 Annex F. Worst error 4.017 ulp (OpenCL allows 6); native 2.3e+07; measured over 2 million random
    pairs. */
 double __ocl_tarn_k1_atan21(double x, double y) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_atan22(tarn_double2 x, tarn_double2 y) TARN_CONST;
@@ -1161,7 +1161,7 @@ tarn_float8 __ocl_tarn_k1_asinpif8_native(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_asinpif16_native(tarn_float16 x) TARN_CONST;
 
 /* asinpi: arcsin(x) / pi. Domain: |x| <= 1; half turns. Special values: beyond 1 NaN; zeros keep their
-   sign. Worst error 2.924 ulp (OpenCL allows 5); native 5.82e+07; measured over 3 million random inputs. */
+   sign. Worst error 2.924 ulp (OpenCL allows 5); native 5.82e+07; measured over 2 million random inputs. */
 double __ocl_tarn_k1_asinpi1(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_asinpi2(tarn_double2 x) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_asinpi3(tarn_double3 x) TARN_CONST;
@@ -1191,7 +1191,7 @@ tarn_float8 __ocl_tarn_k1_acospif8_native(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_acospif16_native(tarn_float16 x) TARN_CONST;
 
 /* acospi: arccos(x) / pi. Domain: |x| <= 1; half turns. Special values: beyond 1 NaN; acospi(1) is +0.
-   Worst error 1.863 ulp (OpenCL allows 5); native 4.125e+07; measured over 3 million random inputs. */
+   Worst error 1.863 ulp (OpenCL allows 5); native 4.125e+07; measured over 2 million random inputs. */
 double __ocl_tarn_k1_acospi1(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_acospi2(tarn_double2 x) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_acospi3(tarn_double3 x) TARN_CONST;
@@ -1222,7 +1222,7 @@ tarn_float8 __ocl_tarn_k1_atanpif8_native(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_atanpif16_native(tarn_float16 x) TARN_CONST;
 
 /* atanpi: arctan(x) / pi. Domain: every x; half turns. Special values: infinities give +-0.5; zeros keep
-   their sign. Worst error 3.911 ulp (OpenCL allows 5); native 2.318e+07; measured over 3 million random
+   their sign. Worst error 3.911 ulp (OpenCL allows 5); native 2.318e+07; measured over 2 million random
    inputs. */
 double __ocl_tarn_k1_atanpi1(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_atanpi2(tarn_double2 x) TARN_CONST;
@@ -1255,7 +1255,7 @@ tarn_float16 __ocl_tarn_k1_atan2pif16_native(tarn_float16 x, tarn_float16 y) TAR
 
 /* atan2pi: the angle of the point (y, x) over pi; first argument y. Domain: every y and x; half turns.
    Special values: as atan2, divided by pi. Worst error 3.367 ulp (OpenCL allows 6); native 2.318e+07;
-   measured over 3 million random pairs. */
+   measured over 2 million random pairs. */
 double __ocl_tarn_k1_atan2pi1(double x, double y) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_atan2pi2(tarn_double2 x, tarn_double2 y) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_atan2pi3(tarn_double3 x, tarn_double3 y) TARN_CONST;
