@@ -115,7 +115,6 @@ TARN_INLINE Group<Lane, lanes> with_last_lane(Group<Lane, lanes> g, Lane value) 
 TARN_INLINE unsigned gathered(i32x4 mask) { return _mm_movemask_ps((__m128)mask); }
 TARN_INLINE unsigned gathered(i64x2 mask) { return _mm_movemask_pd((__m128d)mask); }
 
-TARN_INLINE i32x4 upper_words(i32x4 low, i32x4 high) { return upper_words((i64x2)low, (i64x2)high); }
 
 // Up to 16 lanes with signed saturation, 32 to 16 to 8 bits; a missing block is a repeated one.
 TARN_INLINE unsigned gathered(i32x4 a, i32x4 b) {

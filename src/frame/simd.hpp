@@ -136,6 +136,7 @@ TARN_INLINE i64x2 to_i64(i32x4 v) { return (i64x2)_mm_cvtepi32_epi64((__m128i)v)
 TARN_INLINE i32x4 upper_words(i64x2 low, i64x2 high) {
     return (i32x4)_mm_shuffle_ps((__m128)low, (__m128)high, _MM_SHUFFLE(3, 1, 3, 1));
 }
+TARN_INLINE i32x4 upper_words(i32x4 low, i32x4 high) { return upper_words((i64x2)low, (i64x2)high); }
 TARN_INLINE i32x4 lower_words(i64x2 low, i64x2 high) {
     return (i32x4)_mm_shuffle_ps((__m128)low, (__m128)high, _MM_SHUFFLE(2, 0, 2, 0));
 }

@@ -63,7 +63,7 @@ struct Radians {
     }
 };
 
-// The same with the 1 left to the end: a third of the error.
+// The same with the 1 left to the end, for less error.
 struct FineRadians : Radians {
     static TARN_INLINE f64x2 from(f64x2 base, f64x2 t) {
         const auto [t8, t2, t6, t4] = chains(t);
