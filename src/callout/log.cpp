@@ -25,7 +25,9 @@ int log(const double* x, double* result) { return give_log(*x, result, log_of); 
 int log2(const double* x, double* result) { return give_log(*x, result, by_table<Base2>); }
 int log10(const double* x, double* result) { return give_log(*x, result, by_table<Base10>); }
 
-// Arrives at -1 and below, or so large that adding 1 changes nothing.
-int log1p(const double* x, double* result) { return give_log(*x + 1.0, result, log_of); }
+int log1p(const double* x, double* result) {
+    if (*x > -1.0 && !not_finite(*x)) return give(result, log1p_of(*x));
+    return give_log(*x + 1.0, result, log_of);
+}
 
 }  // namespace tarn::callout

@@ -42,6 +42,14 @@ double log_of(double X, int moved) {
     return u + (k * ln2_head + head) + (w + (k * ln2_tail + tail) + z * z * q(z));
 }
 
+double log1p_of(double X) {
+    if (X <= near_one && X >= -near_one) return log_near_one(X);
+    // What 1 + X loses changes ln(1 + X) by its quotient with the sum.
+    const double s = 1.0 + X;
+    const double lost = X > 1.0 ? (X - s) + 1.0 : (1.0 - s) + X;
+    return log_of(s) + lost / s;
+}
+
 namespace {
 
 // The logarithm to the base e^(1/multiple); `x` or `1 + x` is X.
@@ -59,9 +67,8 @@ int log2f(const float* x, float* result) { return give_log(*x, log2_e, result); 
 int log10f(const float* x, float* result) { return give_log(*x, log10_e, result); }
 
 int log1pf(const float* x, float* result) {
-    const double X = *x;
-    if (X <= near_one && X >= -near_one) return give(result, log_near_one(X));
-    return give_log(1.0 + X, 1.0, result);
+    if (*x > -1.0f && *x < f32(0x7F800000)) return give(result, log1p_of(*x));
+    return give_log(1.0 + static_cast<double>(*x), 1.0, result);
 }
 
 }  // namespace tarn::callout

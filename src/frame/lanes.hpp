@@ -115,7 +115,6 @@ TARN_INLINE Group<Lane, lanes> with_last_lane(Group<Lane, lanes> g, Lane value) 
 TARN_INLINE unsigned gathered(i32x4 mask) { return _mm_movemask_ps((__m128)mask); }
 TARN_INLINE unsigned gathered(i64x2 mask) { return _mm_movemask_pd((__m128d)mask); }
 
-
 // Up to 16 lanes with signed saturation, 32 to 16 to 8 bits; a missing block is a repeated one.
 TARN_INLINE unsigned gathered(i32x4 a, i32x4 b) {
     const __m128i words = _mm_packs_epi32((__m128i)a, (__m128i)b);
