@@ -66,9 +66,10 @@ TEST(ModuleFile, NeedsNothing) {
 }
 
 TEST(ModuleFile, HoldsNothingBeyondSSE41) {
+    // tzcnt is allowed: older processors run it as bsf, and gcc writes it where the two agree.
     // VEX and EVEX instructions begin with v; crc32 and pcmp?str? are SSE4.2. The control register of the
     // vector unit is not touched.
-    const std::regex beyond(R"(^\s+[0-9a-f]+:\s+(v[a-z]|crc32|pcmp[ei]str|popcnt|lzcnt|tzcnt|andn |ldmxcsr|stmxcsr))");
+    const std::regex beyond(R"(^\s+[0-9a-f]+:\s+(v[a-z]|crc32|pcmp[ei]str|popcnt|lzcnt|andn |ldmxcsr|stmxcsr))");
     int instructions = 0;
     for (const auto& line : output("objdump -d --no-show-raw-insn " + path)) {
         instructions++;
