@@ -44,6 +44,7 @@ double log_of(double X, int moved) {
 
 double log1p_of(double X) {
     if (X <= near_one && X >= -near_one) return log_near_one(X);
+    if (X > 0x1p54) return log_of(X);
     // What 1 + X loses changes ln(1 + X) by its quotient with the sum.
     const double s = 1.0 + X;
     const double lost = X > 1.0 ? (X - s) + 1.0 : (1.0 - s) + X;
