@@ -32,21 +32,24 @@ template <class T> T lane_as(const Lanes& lanes, std::size_t i) {
 // Single precision is computed in double and rounded once.
 constexpr double once = 0.5 + 1e-6;
 
-template <class R, class... X> Scalar scalar(const char* base, int (*f)(const X*..., R*), double limit = once) {
-    const auto call = [f]<std::size_t... a>(const std::vector<Lanes>& args, std::size_t i, std::index_sequence<a...>) {
-        const std::tuple<X...> x = {lane_as<X>(args[a], i)...};
-        R result = 0;
-        f(&std::get<a>(x)..., &result);
-        std::uint64_t pattern = 0;
-        std::memcpy(&pattern, &result, sizeof result);
-        return pattern;
-    };
-    return {base, [call](const auto& args, std::size_t i) { return call(args, i, std::index_sequence_for<X...>{}); }, limit};
-}
-Scalar unary(const char* base, UnaryFloat* f, double limit = once) { return scalar<float, float>(base, f, limit); }
-Scalar unary(const char* base, UnaryDouble* f, double limit) { return scalar<double, double>(base, f, limit); }
-Scalar binary(const char* base, BinaryFloat* f) { return scalar<float, float, float>(base, f); }
-Scalar with_n(const char* base, FloatAndInt* f) { return scalar<float, float, std::int32_t>(base, f); }
+template <class R, class... X> struct Wrapped {
+    static Scalar scalar(const char* base, int (*f)(const X*..., R*), double limit = once) {
+        const auto call = [f]<std::size_t... a>(const std::vector<Lanes>& args, std::size_t i, std::index_sequence<a...>) {
+            const std::tuple<X...> x = {lane_as<X>(args[a], i)...};
+            R result = 0;
+            f(&std::get<a>(x)..., &result);
+            std::uint64_t pattern = 0;
+            std::memcpy(&pattern, &result, sizeof result);
+            return pattern;
+        };
+        return {base, [call](const auto& args, std::size_t i) { return call(args, i, std::index_sequence_for<X...>{}); },
+                limit};
+    }
+};
+Scalar unary(const char* base, UnaryFloat* f, double limit = once) { return Wrapped<float, float>::scalar(base, f, limit); }
+Scalar unary(const char* base, UnaryDouble* f, double limit) { return Wrapped<double, double>::scalar(base, f, limit); }
+Scalar binary(const char* base, BinaryFloat* f) { return Wrapped<float, float, float>::scalar(base, f); }
+Scalar with_n(const char* base, FloatAndInt* f) { return Wrapped<float, float, std::int32_t>::scalar(base, f); }
 
 const Scalar scalars[] = {
     unary("expf", &expf), unary("exp2f", &exp2f), unary("exp10f", &exp10f),
