@@ -6,16 +6,10 @@
 // Double precision: product and addend as 128-bit integers in one window, where they overlap exactly;
 // what falls out below is kept as one sticky bit. The rounding is done on the integer.
 #include "callout/format.hpp"
+#include "frame/directions.hpp"
 
 namespace tarn::callout {
 namespace {
-
-enum Direction : unsigned { to_nearest = 0, downward = 1, upward = 2, toward_zero = 3 };
-TARN_INLINE Direction x87_direction() {
-    std::uint16_t word;
-    asm volatile("fnstcw %0" : "=m"(word));
-    return static_cast<Direction>(word >> 10 & 3);
-}
 
 TARN_INLINE void store_x87_rounded(double x, float* result) {
     asm volatile("fldl %1\n\tfstps %0" : "=m"(*result) : "m"(x) : "st");
@@ -24,7 +18,7 @@ TARN_INLINE void store_x87_rounded(double x, float* result) {
 // A sum that is exactly zero: of zeros of one sign that zero, else +0, but -0 when rounding down.
 template <class Real> TARN_INLINE int zero_sum(Pattern<Real> sign_of_product, Pattern<Real> sign_of_z, Real* result) {
     if (sign_of_product == sign_of_z) return give(result, sign_of_z);
-    return give(result, x87_direction() == downward ? sign_mask<Real> : 0);
+    return give(result, x87_direction() == Direction::down ? sign_mask<Real> : 0);
 }
 
 using Wide = unsigned __int128;
@@ -39,8 +33,8 @@ TARN_INLINE Wide shifted_right(Wide v, int n) {
 constexpr int dropped = 64 - 53;
 constexpr std::uint64_t dropped_mask = (1 << dropped) - 1;
 TARN_INLINE std::uint64_t round_up(std::uint64_t top, std::uint64_t sign, Direction direction) {
-    if (__builtin_expect(direction == to_nearest, 1)) return (dropped_mask >> 1) + (top >> dropped & 1);
-    return direction == (sign ? downward : upward) ? dropped_mask : 0;
+    if (__builtin_expect(direction == Direction::nearest, 1)) return (dropped_mask >> 1) + (top >> dropped & 1);
+    return direction == (sign ? Direction::down : Direction::up) ? dropped_mask : 0;
 }
 
 // top * 2^exponent, below the normal numbers; the last bit of top is sticky.
@@ -54,7 +48,7 @@ TARN_INLINE std::uint64_t round_up(std::uint64_t top, std::uint64_t sign, Direct
 [[gnu::noinline, gnu::cold]] int round_overflow(std::uint64_t sign, double* result) {
     opaque(overflowed());
     const Direction direction = x87_direction();
-    const bool away = direction == to_nearest || direction == (sign ? downward : upward);
+    const bool away = direction == Direction::nearest || direction == (sign ? Direction::down : Direction::up);
     return give(result, (away ? infinity<double> : infinity<double> - 1) | sign, overflow);
 }
 
@@ -82,69 +76,6 @@ TARN_INLINE int round_sum(Wide product, Wide addend, int exponent, std::uint64_t
     const std::uint64_t p = (static_cast<std::uint64_t>(field - 1) << 52) + (top >> dropped) + up;
     if (__builtin_expect(p >= infinity<double>, 0)) return round_overflow(sign, result);
     return give(result, p | sign);
-}
-
-// Any arguments, in any direction.
-[[gnu::noinline, gnu::cold]] int fma_in_integers(const double* px, const double* py, const double* pz, double* result) {
-    const double x = *px, y = *py, z = *pz;
-    if (not_finite(x) || not_finite(y) || not_finite(z)) {
-        *result = not_finite(x) || not_finite(y) ? x * y + z : z + z;
-        return ordinary;
-    }
-    const auto sign_of_product = sign(x) ^ sign(y);
-    if (magnitude(x) == 0 || magnitude(y) == 0) {
-        if (magnitude(z) == 0) return zero_sum(sign_of_product, sign(z), result);
-        *result = z;
-        return ordinary;
-    }
-    const auto a = normalised(x), b = normalised(y), c = as_held(z);
-    // The window ends one bit below the product, so that a sticky bit is never the product's own, or so
-    // far below z that the product is out of reach.
-    constexpr int reach = 73;
-    Wide product = static_cast<Wide>(a.integer) * (b.integer << 1), addend = c.integer;
-    int exponent = a.exponent + b.exponent - 1;
-    const int distance = c.exponent - exponent;
-    if (distance < 0) {
-        addend = shifted_right(addend, -distance);
-    } else if (distance <= reach) {
-        addend <<= distance;
-    } else {
-        addend <<= reach;
-        product = shifted_right(product, distance - reach);
-        exponent = c.exponent - reach;
-    }
-    return round_sum(product, addend, exponent, sign_of_product, sign(z), result);
-}
-
-// Exponents from -256 to 255: no product or sum of such numbers, and no error of one, leaves the range.
-TARN_INLINE bool moderate(double x, double y, double z) {
-    const auto above = [](double v) { return (pattern(v) << 1) - (767ull << 53); };
-    return (above(x) | above(y) | above(z)) >> 62 == 0;
-}
-
-// Whether both control words round to nearest; MXCSR shows it in two sums.
-TARN_INLINE bool nearest_everywhere() {
-    const double one = opaque(1.0);
-    return one + 0x1p-60 == one - 0x1p-60 && x87_direction() == to_nearest;
-}
-
-// A sum or product rounded to nearest, and its error, exactly.
-struct Sum {
-    double value, error;
-};
-TARN_INLINE Sum two_sum(double x, double y) {
-    const double sum = x + y, y_part = sum - x;
-    return {sum, (x - (sum - y_part)) + (y - y_part)};
-}
-// The upper 26 bits, rounded, so that the rest has 26 and a sign.
-TARN_INLINE double head_of(double x) {
-    return from_bits((bits(f64x2{x, 0}) + 0x4000000) & splat_i64(0xFFFFFFFFF8000000))[0];
-}
-TARN_INLINE Sum product_of(double x, double y) {
-    const double p = x * y;
-    const double xh = head_of(x), xl = x - xh;
-    const double yh = head_of(y), yl = y - yh;
-    return {p, ((xh * yh - p) + (xh * yl + xl * yh)) + xl * yl};
 }
 
 // Through a whole register: the scalar conversion would wait for what its register held before.
@@ -182,16 +113,33 @@ template <> int fma(const float* x, const float* y, const float* z, float* resul
 
 template <> int fma(const double* px, const double* py, const double* pz, double* result) {
     const double x = *px, y = *py, z = *pz;
-    if (__builtin_expect(!moderate(x, y, z) || !nearest_everywhere(), 0))
-        return fma_in_integers(px, py, pz, result);
-    const Sum p = product_of(x, y);
-    const Sum low = two_sum(z, p.error);
-    const Sum high = two_sum(p.value, low.value);
-    const double tail = high.error + low.error;
-    if (__builtin_expect((pattern(tail) & 0xFFFFFFFFFFFF) == 0, 0) && tail != 0)
-        return fma_in_integers(px, py, pz, result);
-    *result = high.value + tail;
-    return ordinary;
+    if (not_finite(x) || not_finite(y) || not_finite(z)) {
+        *result = not_finite(x) || not_finite(y) ? x * y + z : z + z;
+        return ordinary;
+    }
+    const auto sign_of_product = sign(x) ^ sign(y);
+    if (magnitude(x) == 0 || magnitude(y) == 0) {
+        if (magnitude(z) == 0) return zero_sum(sign_of_product, sign(z), result);
+        *result = z;
+        return ordinary;
+    }
+    const auto a = normalised(x), b = normalised(y), c = as_held(z);
+    // The window ends one bit below the product, so that a sticky bit is never the product's own, or so
+    // far below z that the product is out of reach.
+    constexpr int reach = 73;
+    Wide product = static_cast<Wide>(a.integer) * (b.integer << 1), addend = c.integer;
+    int exponent = a.exponent + b.exponent - 1;
+    const int distance = c.exponent - exponent;
+    if (distance < 0) {
+        addend = shifted_right(addend, -distance);
+    } else if (distance <= reach) {
+        addend <<= distance;
+    } else {
+        addend <<= reach;
+        product = shifted_right(product, distance - reach);
+        exponent = c.exponent - reach;
+    }
+    return round_sum(product, addend, exponent, sign_of_product, sign(z), result);
 }
 
 }  // namespace tarn::callout

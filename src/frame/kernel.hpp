@@ -9,7 +9,8 @@
 //   fast gives Flagged, finish                   every group with a flagged lane is finished by the kernel
 //   callout alone                                every lane goes to the callout
 //
-// A kernel that declares `any_blocks` has a `fast` for one block or several as one vector.
+// A kernel that declares `every_lane_special` asks it once a call whether all lanes are special, whatever
+// `fast` says. A kernel that declares `any_blocks` has a `fast` for one block or several as one vector.
 // `fast`, `long_path` and `finish` take and give groups. A callout is scalar and takes one pointer for
 // each operand, inputs first: int(const A*..., R*), or int(const A*..., R*, S*) with a second result.
 #pragma once
@@ -148,7 +149,7 @@ struct Call<K, width, R, Types<S...>, Types<A...>> {
         requires(!in_memory<R, width>)
     {
         Result result;
-        const unsigned special = evaluate<Fast>(result, x..., second...);
+        const unsigned special = evaluate<Fast>(result, x..., second...) | always_special();
         if (__builtin_expect(special != 0, 0)) return settle<Fast>(result, x..., special, second...);
         return result;
     }
@@ -158,7 +159,7 @@ struct Call<K, width, R, Types<S...>, Types<A...>> {
         requires(in_memory<R, width>)
     {
         Result result;
-        const unsigned special = evaluate<Fast>(result, x..., second...);
+        const unsigned special = evaluate<Fast>(result, x..., second...) | always_special();
         if (__builtin_expect(special != 0, 0)) settle<Fast>(result, x..., special, second...);
         return result;
     }
@@ -171,6 +172,11 @@ private:
         if constexpr (width == 3 && lanes > 1 && (sizeof...(A) == 1 || std::is_integral_v<Lane>))
             if (i == count - 1) return with_last_lane<Lane, lanes>(g, K::template last_lane<Lane>);
         return g;
+    }
+
+    static TARN_INLINE unsigned always_special() {
+        if constexpr (requires { &K::every_lane_special; }) return K::every_lane_special() ? lane_mask(width) : 0;
+        else return 0;
     }
 
     struct Fast {
