@@ -59,8 +59,8 @@ const Scalar scalars[] = {
     unary("tgammaf", &tgammaf), unary("lgammaf", &lgammaf),
     binary("divf", &divf), binary("hypotf", &hypotf), binary("powf", &powf), binary("powrf", &powrf),
     with_n("pownf", &pownf), with_n("rootnf", &rootnf),
-    unary("exp", &exp, 0.52), unary("exp2", &exp2, 0.57), unary("exp10", &exp10, 0.57),
-    unary("log", &log, 1.0), unary("log2", &log2, 2.09), unary("log10", &log10, 2.09), unary("log1p", &log1p, 1.1),
+    unary("exp", &exp, 0.52), unary("exp2", &exp2, 0.76), unary("exp10", &exp10, 0.52),
+    unary("log", &log, 0.503), unary("log2", &log2, 2.09), unary("log10", &log10, 2.09), unary("log1p", &log1p, 0.503),
     unary("sin", &sin, 0.52), unary("cos", &cos, 0.52), unary("tan", &tan, 0.52),
     unary("sinpi", &sinpi, 0.52), unary("cospi", &cospi, 0.52), unary("tanpi", &tanpi, 0.52),
 };

@@ -15,19 +15,21 @@ template <class Of> int give_log(double x, double* result, Of of) {
     return give(result, subnormal ? of(x * 0x1p60, -60) : of(x, 0));
 }
 
+double natural(double x, int moved) { return log_of(x, moved); }
+
 template <class Base> double by_table(double x, int moved) {
     return table_log<Base>(splat(x), splat(static_cast<double>(moved)))[0];
 }
 
 }  // namespace
 
-int log(const double* x, double* result) { return give_log(*x, result, log_of); }
+int log(const double* x, double* result) { return give_log(*x, result, natural); }
 int log2(const double* x, double* result) { return give_log(*x, result, by_table<Base2>); }
 int log10(const double* x, double* result) { return give_log(*x, result, by_table<Base10>); }
 
 int log1p(const double* x, double* result) {
     if (*x > -1.0 && !not_finite(*x)) return give(result, log1p_of(*x));
-    return give_log(*x + 1.0, result, log_of);
+    return give_log(*x + 1.0, result, natural);
 }
 
 }  // namespace tarn::callout

@@ -5,10 +5,10 @@
 
 namespace tarn::callout {
 
-// ln(X 2^moved) of a positive normal double, to about one unit of double precision.
-double log_of(double X, int moved = 0);
+// ln(X 2^moved) + tail of a positive normal double, rounded once where the tail is small beside the logarithm.
+double log_of(double X, int moved = 0, double tail = 0);
 
-// ln(1 + X) of a finite X above -1, to about one unit of double precision.
+// ln(1 + X) of a finite X above -1, rounded once.
 double log1p_of(double X);
 
 }  // namespace tarn::callout

@@ -24,31 +24,29 @@ constexpr double c1 = f64(0x3FD5555555555613);        // 0.33333333333334386
 // (ln(1 + z) - z) / z^2.
 double q(double z) { return horner(z, c6, c5, c4, c3, c2, c1, -0.5); }
 
-double log_near_one(double v) { return v + v * v * q(v); }
-
 }  // namespace
 
-double log_of(double X, int moved) {
+double log_of(double X, int moved, double tail) {
     const double v = X - 1.0;
-    if (v <= near_one && v >= -near_one) return log_near_one(v);
+    if (v <= near_one && v >= -near_one) return v + (v * v * q(v) + tail);
     const double k = static_cast<double>(static_cast<int>(pattern(X) >> 52) - 1023 + moved);
     const double m = f64((pattern(X) & 0x000FFFFFFFFFFFFF) | 0x3FF0000000000000);
     const double row_shifter = 0x1p46 + 1;  // row: 64 (m - 1) rounded, in the low bits of the sum
-    const auto [reciprocal, head, tail] = log_reciprocals[pattern(m + row_shifter) & 127];
+    const auto [reciprocal, log_head, log_tail] = log_reciprocals[pattern(m + row_shifter) & 127];
     const double cut_m = (m + 0x1p21) - 0x1p21;  // so short that its product is exact
     const double u = cut_m * reciprocal - 1.0;
     const double w = reciprocal * (m - cut_m);
     const double z = u + w;
-    return u + (k * ln2_head + head) + (w + (k * ln2_tail + tail) + z * z * q(z));
+    return u + (k * ln2_head + log_head) + (w + (k * ln2_tail + (log_tail + tail)) + z * z * q(z));
 }
 
 double log1p_of(double X) {
-    if (X <= near_one && X >= -near_one) return log_near_one(X);
+    if (X <= near_one && X >= -near_one) return X + X * X * q(X);
     if (X > 0x1p54) return log_of(X);
     // What 1 + X loses changes ln(1 + X) by its quotient with the sum.
     const double s = 1.0 + X;
     const double lost = X > 1.0 ? (X - s) + 1.0 : (1.0 - s) + X;
-    return log_of(s) + lost / s;
+    return log_of(s, 0, lost / s);
 }
 
 namespace {

@@ -4,10 +4,13 @@
 namespace tarn::tables {
 namespace {
 
+// R so short that its product with 31 fraction bits is exact, and so is the sum of that with heads of logarithms.
 Row reciprocal_row(int i) {
-    const double reciprocal = on_grid(Real(64) / Real(64 + i), -21);
+    if (i == 0) return {1.0, 0.0, 0.0};
+    const double reciprocal = on_grid(Real(64) / Real(64 + i), -10);
     const Real log_of_inverse = -log(Real(reciprocal));
-    const double head = on_grid(log_of_inverse, -42);
+    const int bits = i == 64 ? 42 : 32;
+    const double head = on_grid(log_of_inverse, std::ilogb(log_of_inverse.nearest()) + 1 - bits);
     return {reciprocal, head, (log_of_inverse - Real(head)).nearest()};
 }
 
@@ -23,8 +26,8 @@ Row log1pf_row(int j) {
 
 const Register log_tables({
     {"log_reciprocals",
-     "row i of 65: R, 1/(1 + i/64) rounded to a multiple of 2^-21; -ln R rounded to a multiple of 2^-42; what that "
-     "rounding leaves.",
+     "row i of 65: R, 1/(1 + i/64) rounded to a multiple of 2^-10; -ln R rounded to 32 bits, to 42 in the last row; "
+     "what that rounding leaves.",
      each_row(65, reciprocal_row)},
     {"log1pf_pairs",
      "row c - 128 of 129: -127 * 0x1.62e4p-1 + ln(256/c) rounded to a multiple of 2^-15, and what that rounding leaves, "
