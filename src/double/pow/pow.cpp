@@ -1,5 +1,6 @@
 // x^y = 2^(y log2 |x|), log2 |x| as a head and a tail (log2_pair.hpp), the product with y and the exponential as
-// in pair_power.hpp. The native form keeps one number for the logarithm (native_power.hpp).
+// in pair_power.hpp. powr, for x >= 0, differs in its special values only. The native forms keep one number for the
+// logarithm (native_power.hpp).
 //
 // Worst error 1.61 ulp at (1.000491751, 1343544.11), where the logarithm's tail is largest beside its head; native 5.2e7.
 #include "callout/callouts.hpp"
@@ -9,8 +10,8 @@
 namespace tarn {
 namespace {
 
-struct Pow : Kernel<double(double, double)> {
-    static constexpr auto callout = callout::pow;
+template <auto special_lane> struct PowerOf : Kernel<double(double, double)> {
+    static constexpr auto callout = special_lane;
 
     static TARN_INLINE auto fast(f64x2 x, f64x2 y) {
         const auto power = pair_power(x, log2_of_power(log2_pair(x), y), largest_exponent);
@@ -18,8 +19,8 @@ struct Pow : Kernel<double(double, double)> {
     }
 };
 
-struct PowNative : Kernel<double(double, double)> {
-    static constexpr auto callout = callout::pow;
+template <auto special_lane> struct PowerNative : Kernel<double(double, double)> {
+    static constexpr auto callout = special_lane;
 
     static TARN_INLINE auto fast(f64x2 x, f64x2 y) { return native_power(x, native_log2(x) * y); }
 };
@@ -27,5 +28,7 @@ struct PowNative : Kernel<double(double, double)> {
 }  // namespace
 }  // namespace tarn
 
-TARN_EXPORT(binary, pow, full, tarn::Pow)
-TARN_EXPORT(binary, pow, native, tarn::PowNative)
+TARN_EXPORT(binary, pow, full, tarn::PowerOf<tarn::callout::pow>)
+TARN_EXPORT(binary, pow, native, tarn::PowerNative<tarn::callout::pow>)
+TARN_EXPORT(binary, powr, full, tarn::PowerOf<tarn::callout::powr>)
+TARN_EXPORT(binary, powr, native, tarn::PowerNative<tarn::callout::powr>)
