@@ -1,6 +1,6 @@
-// The exported names. TARN_EXPORT(shape, base, variant, Kernel) defines a kernel's six widths;
-// TARN_EXPORT_WIDTH defines one, where widths have kernels of their own; TARN_EXPORT_SAME names an
-// export whose kernel another variant already is.
+// The exported names. TARN_EXPORT(shape, base, variant, Kernel) defines a kernel's six widths; a family
+// with a width of its own names it by ExceptAt; TARN_EXPORT_SAME names an export whose kernel another
+// variant already is.
 //
 // Shapes: unary, binary, ternary; unary_second, binary_second (a second result through a pointer);
 // unary_pair (two results returned). The public header declares every export, so that a shape that
@@ -26,6 +26,18 @@ template <class K, int width> using Arg1 = Vec<typename ListedArgs<K>::first, wi
 template <class K, int width> using Arg2 = Vec<typename ListedArgs<K>::second, width>;
 template <class K, int width> using Arg3 = Vec<typename ListedArgs<K>::third, width>;
 
+// A kernel for every width but one.
+template <class Usual, int own_width, class Own> struct ExceptAt;
+
+template <class K, int width> struct ChosenAt { using Kernel = K; };
+template <class Usual, class Own, int width> struct ChosenAt<ExceptAt<Usual, width, Own>, width> { using Kernel = Own; };
+template <class Usual, int own_width, class Own, int width>
+struct ChosenAt<ExceptAt<Usual, own_width, Own>, width> : ChosenAt<Usual, width> {};
+template <class Usual, int own_width, class Own> struct ExceptAt {
+    using Signature = typename Usual::Signature;
+};
+template <class K, int width> using CallAt = Call<typename ChosenAt<K, width>::Kernel, width>;
+
 }  // namespace tarn
 
 #define TARN_SUFFIX_full
@@ -37,24 +49,24 @@ template <class K, int width> using Arg3 = Vec<typename ListedArgs<K>::third, wi
 #define TARN_QUOTED(name) TARN_TEXT(name)
 
 #define TARN_SHAPE_unary(name, width, K)                                                     \
-    tarn::ResultOf<K, width> name(tarn::Arg1<K, width> x) { return tarn::Call<K, width>::run(x); }
+    tarn::ResultOf<K, width> name(tarn::Arg1<K, width> x) { return tarn::CallAt<K, width>::run(x); }
 #define TARN_SHAPE_binary(name, width, K)                                                    \
     tarn::ResultOf<K, width> name(tarn::Arg1<K, width> x, tarn::Arg2<K, width> y) {          \
-        return tarn::Call<K, width>::run(x, y);                                              \
+        return tarn::CallAt<K, width>::run(x, y);                                              \
     }
 #define TARN_SHAPE_ternary(name, width, K)                                                   \
     tarn::ResultOf<K, width> name(tarn::Arg1<K, width> x, tarn::Arg2<K, width> y,            \
                                   tarn::Arg3<K, width> z) {                                  \
-        return tarn::Call<K, width>::run(x, y, z);                                           \
+        return tarn::CallAt<K, width>::run(x, y, z);                                           \
     }
 #define TARN_SHAPE_unary_second(name, width, K)                                              \
     tarn::ResultOf<K, width> name(tarn::Arg1<K, width> x, tarn::SecondOf<K>* second) {       \
-        return tarn::Call<K, width>::run(x, second);                                         \
+        return tarn::CallAt<K, width>::run(x, second);                                         \
     }
 #define TARN_SHAPE_binary_second(name, width, K)                                             \
     tarn::ResultOf<K, width> name(tarn::Arg1<K, width> x, tarn::Arg2<K, width> y,            \
                                   tarn::SecondOf<K>* second) {                               \
-        return tarn::Call<K, width>::run(x, y, second);                                      \
+        return tarn::CallAt<K, width>::run(x, y, second);                                      \
     }
 #define TARN_SHAPE_unary_pair(name, width, K)                                                \
     tarn::VecPair<tarn::SecondOf<K>, width> name(tarn::Arg1<K, width> x) {                   \

@@ -101,13 +101,10 @@ struct ExpOfTwo : Kernel<double(double)> {
     }
 };
 
+using ExpByWidth = ExceptAt<Exp, 2, ExpOfTwo>;
+
 }  // namespace
 }  // namespace tarn
 
-TARN_EXPORT_WIDTH(unary, exp, 1, full, tarn::Exp)
-TARN_EXPORT_WIDTH(unary, exp, 2, full, tarn::ExpOfTwo)
-TARN_EXPORT_WIDTH(unary, exp, 3, full, tarn::Exp)
-TARN_EXPORT_WIDTH(unary, exp, 4, full, tarn::Exp)
-TARN_EXPORT_WIDTH(unary, exp, 8, full, tarn::Exp)
-TARN_EXPORT_WIDTH(unary, exp, 16, full, tarn::Exp)
+TARN_EXPORT(unary, exp, full, tarn::ExpByWidth)
 TARN_EXPORT(unary, exp, native, tarn::ExpNative)

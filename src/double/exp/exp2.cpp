@@ -90,15 +90,12 @@ struct Exp10Native : Kernel<double(double)> {
     }
 };
 
+using Exp2ByWidth = ExceptAt<Exp2, 2, Exp2OfTwo>;
+
 }  // namespace
 }  // namespace tarn
 
-TARN_EXPORT_WIDTH(unary, exp2, 1, full, tarn::Exp2)
-TARN_EXPORT_WIDTH(unary, exp2, 2, full, tarn::Exp2OfTwo)
-TARN_EXPORT_WIDTH(unary, exp2, 3, full, tarn::Exp2)
-TARN_EXPORT_WIDTH(unary, exp2, 4, full, tarn::Exp2)
-TARN_EXPORT_WIDTH(unary, exp2, 8, full, tarn::Exp2)
-TARN_EXPORT_WIDTH(unary, exp2, 16, full, tarn::Exp2)
+TARN_EXPORT(unary, exp2, full, tarn::Exp2ByWidth)
 TARN_EXPORT(unary, exp2, native, tarn::Exp2Native)
 TARN_EXPORT(unary, exp10, full, tarn::Exp10)
 TARN_EXPORT(unary, exp10, native, tarn::Exp10Native)

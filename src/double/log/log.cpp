@@ -33,17 +33,14 @@ struct Log2OfTwo : Kernel<double(double)> {
     static f64x2 finish(f64x2 x, f64x2 value, unsigned flags) { return finish_lanes(callout::log2, x, value, flags); }
 };
 
+using Log2ByWidth = ExceptAt<Log2, 2, Log2OfTwo>;
+
 }  // namespace
 }  // namespace tarn
 
 TARN_EXPORT(unary, log, full, tarn::LogE)
 TARN_EXPORT(unary, log, native, tarn::LogENative)
-TARN_EXPORT_WIDTH(unary, log2, 1, full, tarn::Log2)
-TARN_EXPORT_WIDTH(unary, log2, 2, full, tarn::Log2OfTwo)
-TARN_EXPORT_WIDTH(unary, log2, 3, full, tarn::Log2)
-TARN_EXPORT_WIDTH(unary, log2, 4, full, tarn::Log2)
-TARN_EXPORT_WIDTH(unary, log2, 8, full, tarn::Log2)
-TARN_EXPORT_WIDTH(unary, log2, 16, full, tarn::Log2)
+TARN_EXPORT(unary, log2, full, tarn::Log2ByWidth)
 TARN_EXPORT(unary, log2, native, tarn::Log2Native)
 TARN_EXPORT(unary, log10, full, tarn::Log10)
 TARN_EXPORT(unary, log10, native, tarn::Log10Native)

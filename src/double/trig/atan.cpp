@@ -19,16 +19,12 @@ using AtanOfTwo = ArctangentOf<arctangent::Radians>;
 using AtanNative = ArctangentOf<arctangent::RadiansNative>;
 using Atanpi = ArctangentOf<arctangent::HalfTurns>;
 using AtanpiNative = ArctangentOf<arctangent::HalfTurnsNative>;
+using AtanByWidth = ExceptAt<Atan, 2, AtanOfTwo>;
 
 }  // namespace
 }  // namespace tarn
 
-TARN_EXPORT_WIDTH(unary, atan, 1, full, tarn::Atan)
-TARN_EXPORT_WIDTH(unary, atan, 2, full, tarn::AtanOfTwo)
-TARN_EXPORT_WIDTH(unary, atan, 3, full, tarn::Atan)
-TARN_EXPORT_WIDTH(unary, atan, 4, full, tarn::Atan)
-TARN_EXPORT_WIDTH(unary, atan, 8, full, tarn::Atan)
-TARN_EXPORT_WIDTH(unary, atan, 16, full, tarn::Atan)
+TARN_EXPORT(unary, atan, full, tarn::AtanByWidth)
 TARN_EXPORT(unary, atan, native, tarn::AtanNative)
 TARN_EXPORT(unary, atanpi, full, tarn::Atanpi)
 TARN_EXPORT(unary, atanpi, native, tarn::AtanpiNative)

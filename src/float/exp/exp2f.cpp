@@ -132,14 +132,11 @@ struct Exp2fScalar : Kernel<float(float)> {
     }
 };
 
+using Exp2fByWidth = ExceptAt<ExceptAt<Exp2f, 1, Exp2fScalar>, 4, Exp2fTable>;
+
 }  // namespace
 }  // namespace tarn
 
-TARN_EXPORT_WIDTH(unary, exp2f, 1, full, tarn::Exp2fScalar)
-TARN_EXPORT_WIDTH(unary, exp2f, 2, full, tarn::Exp2f)
-TARN_EXPORT_WIDTH(unary, exp2f, 3, full, tarn::Exp2f)
-TARN_EXPORT_WIDTH(unary, exp2f, 4, full, tarn::Exp2fTable)
-TARN_EXPORT_WIDTH(unary, exp2f, 8, full, tarn::Exp2f)
-TARN_EXPORT_WIDTH(unary, exp2f, 16, full, tarn::Exp2f)
+TARN_EXPORT(unary, exp2f, full, tarn::Exp2fByWidth)
 TARN_EXPORT(unary, exp2f, native, tarn::Exp2fNative)
 TARN_EXPORT_SAME(exp2f, half, native)

@@ -88,13 +88,10 @@ struct PowfNative : Kernel<float(float, float)> {
     static TARN_INLINE auto fast(f32x4 x, f32x4 y) { return native_power<NativeExp>(x, y); }
 };
 
+using PowfByWidth = ExceptAt<ExceptAt<Powf<4>, 1, Powf<2>>, 2, Powf<2>>;
+
 }  // namespace
 }  // namespace tarn
 
-TARN_EXPORT_WIDTH(binary, powf, 1, full, tarn::Powf<2>)
-TARN_EXPORT_WIDTH(binary, powf, 2, full, tarn::Powf<2>)
-TARN_EXPORT_WIDTH(binary, powf, 3, full, tarn::Powf<4>)
-TARN_EXPORT_WIDTH(binary, powf, 4, full, tarn::Powf<4>)
-TARN_EXPORT_WIDTH(binary, powf, 8, full, tarn::Powf<4>)
-TARN_EXPORT_WIDTH(binary, powf, 16, full, tarn::Powf<4>)
+TARN_EXPORT(binary, powf, full, tarn::PowfByWidth)
 TARN_EXPORT(binary, powf, native, tarn::PowfNative)
