@@ -28,8 +28,8 @@ TARN_INLINE Exact<f64x2> two_product(f64x2 x, f64x2 y) {
     return {product, ((xh * yh - product) + (xh * yl + xl * yh)) + xl * yl};
 }
 
-// Where x + y was not rounded: both differences give the other operand back, the one that starts from the larger
-// of the two without a rounding of its own.
-TARN_INLINE i64x2 is_exact(f64x2 sum, f64x2 x, f64x2 y) { return (sum - x == y) & (sum - y == x); }
+// Where x + y was rounded: of both differences one starts from the larger operand, has no rounding of its own, and
+// fails to give the other back.
+TARN_INLINE i32x4 was_rounded(f64x2 sum, f64x2 x, f64x2 y) { return (i32x4)(sum - x != y) | (i32x4)(sum - y != x); }
 
 }  // namespace tarn

@@ -28,18 +28,18 @@ template <class Lane> struct Fma;
 template <> struct Fma<float> : FmaFrame<float> {
     struct Sum {
         f64x2 value;
-        i64x2 undecided;
+        i32x4 undecided;
     };
     static TARN_INLINE Sum sum_of(f64x2 x, f64x2 y, f64x2 z) {
         const f64x2 product = x * y, sum = product + z;
         const i32x4 boundary = ((i32x4)sum & splat_i32(0x0FFFFFFF)) == 0;
-        return {sum, (i64x2)boundary & ~is_exact(sum, product, z)};
+        return {sum, boundary & was_rounded(sum, product, z)};
     }
 
     static TARN_INLINE auto fast(f32x4 x, f32x4 y, f32x4 z) {
         const Sum low = sum_of(widen_low(x), widen_low(y), widen_low(z));
         const Sum high = sum_of(widen_high(x), widen_high(y), widen_high(z));
-        return Flagged{narrow(low.value, high.value), lower_words(low.undecided, high.undecided)};
+        return Flagged{narrow(low.value, high.value), lower_words((i64x2)low.undecided, (i64x2)high.undecided)};
     }
 };
 
@@ -56,11 +56,11 @@ template <> struct Fma<double> : FmaFrame<double> {
         const auto low = two_sum(z, product.error);
         const auto high = two_sum(product.value, low.value);
         const f64x2 tail = high.error + low.error;
-        const i64x2 boundary = (bits(tail) & splat_i64(0x0000FFFFFFFFFFFF)) == 0;
-        const i64x2 undecided = boundary & ~is_exact(tail, high.error, low.error);
+        const auto boundary = (i32x4)((bits(tail) & splat_i64(0x0000FFFFFFFFFFFF)) == 0);
+        const i32x4 undecided = boundary & was_rounded(tail, high.error, low.error);
         const i32x4 out_of_range = outside(magnitude_words<double>(product.value), lowest, highest) |
                                    upper_magnitude_above(z, highest);
-        return Flagged{high.value + tail, undecided | (i64x2)out_of_range};
+        return Flagged{high.value + tail, undecided | out_of_range};
     }
 };
 
