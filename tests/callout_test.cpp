@@ -63,6 +63,7 @@ const Scalar scalars[] = {
     unary("log", &log, 0.503), unary("log2", &log2, 2.09), unary("log10", &log10, 2.09), unary("log1p", &log1p, 0.503),
     unary("sin", &sin, 0.52), unary("cos", &cos, 0.52), unary("tan", &tan, 0.52),
     unary("sinpi", &sinpi, 0.52), unary("cospi", &cospi, 0.52), unary("tanpi", &tanpi, 0.52),
+    unary("asinh", &asinh, 0.51), unary("acosh", &acosh, 0.51), unary("atanh", &atanh, 0.51),
 };
 
 class Callout : public testing::TestWithParam<Scalar> {};

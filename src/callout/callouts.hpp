@@ -46,7 +46,7 @@ UnaryDouble log, log2, log10, log1p;
 UnaryDouble sin, cos, tan;
 UnaryDoublePair sincos;
 UnaryDouble sinpi, cospi, tanpi;
-UnaryDouble sinh, cosh, tanh;
+UnaryDouble sinh, cosh, tanh, asinh, acosh, atanh;
 UnaryDouble asin, acos, asinpi, acospi;
 BinaryDouble atan2, atan2pi;
 UnaryDouble erfc;

@@ -37,6 +37,13 @@ Row tanh_row(int k) {
     return row;
 }
 
+Row ln_row(int i) {
+    const float reciprocal = (Real(256) / Real(256 + i)).nearest_float();
+    const Real value = -log(Real(reciprocal));
+    const double head = on_grid(value, -42);
+    return {static_cast<double>(reciprocal), head, (value - Real(head)).nearest()};
+}
+
 const Register hyperbolic_double_tables({
     {"sinh_pairs", "row j of 128, u = j ln 2 / 128: sinh u and e^-u / 2, rounded to nearest.", each_row(128, sinh_row)},
     {"cosh_halves", "row j of 256: 2^(j/256) / 2 rounded to nearest.",
@@ -47,6 +54,10 @@ const Register hyperbolic_double_tables({
      "(tanh(c + h) - tanh c - slope h) / h^2, lowest coefficient first, and 0; row 0 is for what lies below 1/8, "
      "with c = 0, row 59 is 1, for 20 and above.",
      each_row(tanh_parts, tanh_row)},
+    {"ln_reciprocals",
+     "row i of 256: R, 1/(1 + i/256) rounded to single precision; -ln R rounded to a multiple of 2^-42; what that "
+     "rounding leaves.",
+     each_row(256, ln_row)},
 });
 
 }  // namespace

@@ -6,7 +6,7 @@
 // log2_e. From row 512 on E is one higher, so that it is 0 on both sides of 1.
 #pragma once
 
-#include "frame/simd.hpp"
+#include "double/halves.hpp"
 
 namespace tarn {
 
@@ -16,9 +16,6 @@ namespace tarn {
 struct Log2Pair {
     f64x2 head, tail;
 };
-
-// The upper 26 bits of a number: products of two such are exact.
-TARN_INLINE f64x2 short_head(f64x2 x) { return from_bits(bits(x) & splat_i64(0xFFFFFFFFF8000000)); }
 
 // x = 2^e M: M rounded to 10 fraction bits as a row 0 to 1024, M, and e as it goes with the row's logarithm.
 // Numbers that are not positive and normal give anything, from rows that exist.
@@ -35,6 +32,11 @@ TARN_INLINE Log2Reduction log2_reduction(f64x2 x) {
     const i32x4 exponent = ((i32x4)bits(x) - splat_i32(0x3FE7FE00)) >> 20;
     const i64x2 shifted = (i64x2)(exponent + splat_i32(0x41380000)) & splat_i64(0xFFFFFFFF00000000);
     return {row, m, from_bits(shifted) - shifter};
+}
+
+// 2^-e for x = 2^e M, 1 <= M < 2.
+TARN_INLINE f64x2 inverse_scale(f64x2 x) {
+    return from_bits(splat_i64(0x7FE0000000000000) - (bits(x) & splat_i64(0x7FF0000000000000)));
 }
 
 TARN_INLINE Log2Pair log2_pair(f64x2 x) {

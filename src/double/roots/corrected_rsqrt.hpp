@@ -1,18 +1,10 @@
 // The reciprocal square root of doubles with its rounding errors taken off: the square root leaves the residual
-// x - s^2, the quotient 1 - s y. Halves of 26 and 27 bits make the products exact.
+// x - s^2, the quotient 1 - s y. Halves make the products exact.
 #pragma once
 
-#include "frame/simd.hpp"
+#include "double/halves.hpp"
 
 namespace tarn {
-
-struct Halves {
-    f64x2 head, tail;
-};
-TARN_INLINE Halves halves(f64x2 x) {
-    const f64x2 head = from_bits(bits(x) & splat_i64(0xFFFFFFFFF8000000));
-    return {head, x - head};
-}
 
 // x^(-1/2) = y (1 + e - d y^2/2) for s, the rounded root, y, its rounded reciprocal, e = 1 - s y and d = x - s^2.
 TARN_INLINE f64x2 corrected_rsqrt(f64x2 x) {

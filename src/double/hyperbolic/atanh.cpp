@@ -1,0 +1,44 @@
+// atanh |x| = ln((1 + a)/(1 - a))/2 with a = |x|: of the quotient only its row of the logarithm's table is taken; what
+// is left of it next to that row is a quotient of exact differences, a head and a tail (inverse.hpp). atanh x is x below
+// 2^-28. The native form takes the logarithm of the powers of 1 + 2a/(1 - a), keeping what the sum left.
+//
+// Worst error in 6 million random inputs: 0.504 ulp at 0.00097; native 65585 ulp at 0.00012.
+#include "callout/callouts.hpp"
+#include "double/hyperbolic/inverse.hpp"
+#include "frame/exports.hpp"
+
+namespace tarn {
+namespace {
+
+using namespace inverse_hyperbolic;
+
+constexpr f64x2 half = splat(0.5);
+constexpr std::uint32_t below_one = 0x3FEFFFFF;
+constexpr f64x2 tiny = splat_f64(0x3E30000000000000);  // 2^-28
+
+struct Atanh : Kernel<double(double)> {
+    static constexpr auto callout = callout::atanh;
+
+    static TARN_INLINE auto fast(f64x2 x) {
+        const f64x2 a = abs(x);
+        const f64x2 y = select(a < tiny, a, twice_atanh(a) * half);
+        return Flagged{or_bits(y, sign_bit(x)), upper_magnitude_above(x, below_one)};
+    }
+};
+
+struct AtanhNative : Kernel<double(double)> {
+    static constexpr auto callout = callout::atanh;
+
+    static TARN_INLINE auto fast(f64x2 x) {
+        const f64x2 a = abs(x);
+        const f64x2 w = (a + a) / (one - a);
+        const f64x2 y = native_log_of(sum_of(max(w, one), min(w, one)));
+        return Flagged{y * or_bits(half, sign_bit(x)), upper_magnitude_above(x, below_one)};
+    }
+};
+
+}  // namespace
+}  // namespace tarn
+
+TARN_EXPORT(unary, atanh, full, tarn::Atanh)
+TARN_EXPORT(unary, atanh, native, tarn::AtanhNative)
