@@ -29,10 +29,10 @@ struct TanhNative : Kernel<double(double)> {
     static TARN_INLINE auto fast(f64x2 x) {
         const TanhPlace place = tanh_place(x);
         const f64x2 h = place.h, h2 = h * h;
-        const f64x2 slope = gather_columns<2>(tanh_parts, place.row).second;
-        const auto [q0, q1] = gather_columns<4>(tanh_parts, place.row);
-        const auto [q2, q3] = gather_columns<6>(tanh_parts, place.row);
         const auto [q4, q5] = gather_columns<8>(tanh_parts, place.row);
+        const auto [q2, q3] = gather_columns<10>(tanh_parts, place.row);
+        const auto [q0, q1] = gather_columns<12>(tanh_parts, place.row);
+        const f64x2 slope = gather_columns<14>(tanh_parts, place.row).first;
         const f64x2 q = horner(h2, q4, q2, q0) + horner(h2, q5, q3, q1) * h;
         return Flagged{or_bits(place.head + h * (slope + h * q), sign_bit(x)), beyond(place)};
     }

@@ -24,17 +24,18 @@ TARN_INLINE TanhPlace tanh_place(f64x2 x) {
     return {row, min(abs(x), largest) - c, head, top};
 }
 
+// The columns lie in the order of their use, so that few are held at a time.
 TARN_INLINE f64x2 tanh_sum(f64x2 x, const TanhPlace& place) {
     const auto [row, h, head, top] = place;
-    const auto [q0, q1] = gather_columns<4>(tanh_parts, row);
-    const auto [q2, q3] = gather_columns<6>(tanh_parts, row);
+    const auto [q10, tail] = gather_columns<2>(tanh_parts, row);
+    const auto [q8, q9] = gather_columns<4>(tanh_parts, row);
+    const auto [q6, q7] = gather_columns<6>(tanh_parts, row);
     const auto [q4, q5] = gather_columns<8>(tanh_parts, row);
-    const auto [q6, q7] = gather_columns<10>(tanh_parts, row);
-    const auto [q8, q9] = gather_columns<12>(tanh_parts, row);
-    const f64x2 q10 = gather_columns<14>(tanh_parts, row).first;
+    const auto [q2, q3] = gather_columns<10>(tanh_parts, row);
+    const auto [q0, q1] = gather_columns<12>(tanh_parts, row);
+    const f64x2 slope = gather_columns<14>(tanh_parts, row).first;
     const f64x2 h2 = h * h;
     const f64x2 q = horner(h2, q10, q8, q6, q4, q2, q0) + horner(h2, q9, q7, q5, q3, q1) * h;
-    const auto [tail, slope] = gather_columns<2>(tanh_parts, row);
     return or_bits(head + (slope * h + (h2 * q + tail)), sign_bit(x));
 }
 
