@@ -73,7 +73,7 @@ const Scalar scalars[] = {
     binary("atan2", &atan2, 4.1), binary("atan2pi", &atan2pi, 4.1),
     unary("sinh", &sinh, 0.72), unary("cosh", &cosh, 0.52), unary("tanh", &tanh, 0.59),
     unary("asinh", &asinh, 0.51), unary("acosh", &acosh, 0.51), unary("atanh", &atanh, 0.51),
-    unary("erfc", &erfc, 1.9),
+    unary("erfc", &erfc, 1.3),
     binary("pow", &pow, 1.62), binary("powr", &powr, 1.62), with_n("pown", &pown, 1.62), with_n("rootn", &rootn, 1.0),
     unary("cbrt", &cbrt, 0.52), unary("rcbrt", &rcbrt, 0.52), unary("rsqrt", &rsqrt, 0.501), unary("inv", &inv, once),
     binary("div", &div, once), binary("hypot", &hypot, 1.18),

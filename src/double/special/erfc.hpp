@@ -8,6 +8,8 @@ namespace tarn {
 #include "tables/erfc_points.inc"
 
 struct ErfcSeries {
+    static constexpr bool has_tail = true;  // of the value, whose rounding would show where the result is an octave below
+
     static TARN_INLINE f64x2 series(f64x2 u, f64x2 d2) {
         constexpr f64x2 p0 = splat_f64(0x3FE5555555555537);  // 0.6666666666666633
         constexpr f64x2 p1 = splat_f64(0xBFD5555555555504);  // -0.33333333333332882
@@ -46,9 +48,11 @@ template <class Form> TARN_INLINE f64x2 erfc_steps(f64x2 x) {
     const f64x2 shifted = a + shifter;
     const f64x2 c = shifted - shifter;
     const f64x2 d = max(a, smallest) - c;
-    const auto [value, slope] = gather_columns(erfc_points, bits(shifted) & splat_i64(0xFFF));
+    const i64x2 row = bits(shifted) & splat_i64(0xFFF);
+    const auto [value, slope] = gather_columns(erfc_points, row);
     const f64x2 g = slope * d;
-    const f64x2 scaled = value - (g + g * Form::series(c * d, d * d));
+    const f64x2 step = g + g * Form::series(c * d, d * d);
+    const f64x2 scaled = value - (Form::has_tail ? step - gather_columns<1>(erfc_points, row).second : step);
     const i64x2 negative = (i64x2)(x < splat(0.0));
     const f64x2 sum = scaled + where(negative, two);
     return sum * or_bits(unscale, negative & sign_mask_f64);
