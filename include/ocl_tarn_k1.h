@@ -1503,8 +1503,8 @@ tarn_float4 __ocl_tarn_k1_erfcf4_native(tarn_float4 x) TARN_CONST;
 tarn_float8 __ocl_tarn_k1_erfcf8_native(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_erfcf16_native(tarn_float16 x) TARN_CONST;
 
-/* erfc: 1 - erf x. Domain: every x. Special values: -inf gives 2, +inf +0. Worst error 1.727 ulp (OpenCL
-   allows 16); native 3.968e+06; measured over 250 thousand random inputs. */
+/* erfc: 1 - erf x. Domain: every x. Special values: -inf gives 2, +inf +0. Worst error 1.266 ulp (OpenCL
+   allows 16); native 3.968e+06; measured over 1.6 million random inputs (native: 250 thousand). */
 double __ocl_tarn_k1_erfc1(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_erfc2(tarn_double2 x) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_erfc3(tarn_double3 x) TARN_CONST;

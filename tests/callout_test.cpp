@@ -49,7 +49,13 @@ template <class R, class... X> struct Wrapped {
 Scalar unary(const char* base, UnaryFloat* f, double limit = once) { return Wrapped<float, float>::scalar(base, f, limit); }
 Scalar unary(const char* base, UnaryDouble* f, double limit) { return Wrapped<double, double>::scalar(base, f, limit); }
 Scalar binary(const char* base, BinaryFloat* f) { return Wrapped<float, float, float>::scalar(base, f); }
+Scalar binary(const char* base, BinaryDouble* f, double limit) {
+    return Wrapped<double, double, double>::scalar(base, f, limit);
+}
 Scalar with_n(const char* base, FloatAndInt* f) { return Wrapped<float, float, std::int32_t>::scalar(base, f); }
+Scalar with_n(const char* base, DoubleAndInt* f, double limit) {
+    return Wrapped<double, double, std::int32_t>::scalar(base, f, limit);
+}
 
 const Scalar scalars[] = {
     unary("expf", &expf), unary("exp2f", &exp2f), unary("exp10f", &exp10f),
@@ -63,7 +69,14 @@ const Scalar scalars[] = {
     unary("log", &log, 0.503), unary("log2", &log2, 2.09), unary("log10", &log10, 2.09), unary("log1p", &log1p, 0.503),
     unary("sin", &sin, 0.52), unary("cos", &cos, 0.52), unary("tan", &tan, 0.52),
     unary("sinpi", &sinpi, 0.52), unary("cospi", &cospi, 0.52), unary("tanpi", &tanpi, 0.52),
+    unary("asin", &asin, 0.53), unary("acos", &acos, 0.53), unary("asinpi", &asinpi, 0.751), unary("acospi", &acospi, 0.53),
+    binary("atan2", &atan2, 4.1), binary("atan2pi", &atan2pi, 4.1),
+    unary("sinh", &sinh, 0.72), unary("cosh", &cosh, 0.52), unary("tanh", &tanh, 0.59),
     unary("asinh", &asinh, 0.51), unary("acosh", &acosh, 0.51), unary("atanh", &atanh, 0.51),
+    unary("erfc", &erfc, 1.3),
+    binary("pow", &pow, 1.62), binary("powr", &powr, 1.62), with_n("pown", &pown, 1.62), with_n("rootn", &rootn, 1.0),
+    unary("cbrt", &cbrt, 0.52), unary("rcbrt", &rcbrt, 0.52), unary("rsqrt", &rsqrt, 0.501), unary("inv", &inv, once),
+    binary("div", &div, once), binary("hypot", &hypot, 1.18),
 };
 
 class Callout : public testing::TestWithParam<Scalar> {};
@@ -118,6 +131,34 @@ TEST(CalloutStatus, NamesWhatHappened) {
     EXPECT_EQ(of2(&powf, -2, 3), ordinary);
     EXPECT_EQ(of(&expf, 89), overflow);
     EXPECT_EQ(of(&expf, -100), underflow);
+}
+
+TEST(CalloutStatus, NamesWhatHappenedInDoublePrecision) {
+    constexpr double inf = std::numeric_limits<double>::infinity(), nan = std::numeric_limits<double>::quiet_NaN();
+    const struct {
+        UnaryDouble* f;
+        double x;
+        Status status;
+    } unary_cases[] = {
+        {&exp, 710, overflow}, {&exp, -746, underflow}, {&exp2, 1024, overflow}, {&exp10, -324, underflow}, {&exp, inf, ordinary},
+        {&log, -0.0, pole}, {&log2, -1, domain_error}, {&log10, -inf, domain_error}, {&log, inf, ordinary}, {&log1p, -1, pole},
+        {&asin, 1, ordinary}, {&asin, 0x1.0000000000001p0, domain_error}, {&acos, -inf, domain_error}, {&asin, nan, ordinary},
+        {&sinh, 0x1.633ce8fb9f87ep9, overflow}, {&sinh, 0x1.633ce8fb9f87dp9, ordinary}, {&cosh, -711, overflow},
+        {&acosh, 0.5, domain_error}, {&acosh, 1, ordinary}, {&atanh, -1, pole}, {&atanh, 2, domain_error}, {&atanh, nan, ordinary},
+        {&erfc, 27, underflow}, {&erfc, -28, ordinary}, {&inv, -0.0, pole}, {&inv, 2, ordinary}, {&rsqrt, 0, pole}, {&rsqrt, -1, domain_error}, {&rcbrt, 0, pole},
+    };
+    double result;
+    for (const auto& [f, x, status] : unary_cases) EXPECT_EQ(f(&x, &result), status) << x;
+
+    const struct {
+        BinaryDouble* f;
+        double x, y;
+        Status status;
+    } binary_cases[] = {
+        {&pow, -8, 1.0 / 3, domain_error}, {&pow, -0.0, -3, domain_error}, {&pow, -2, 3, ordinary}, {&pow, -1, inf, ordinary},
+        {&powr, -2, 2, domain_error}, {&div, 1, 0, pole}, {&div, 1, 0x1p-1074, ordinary}, {&atan2, 0, 0, ordinary},
+    };
+    for (const auto& [f, x, y, status] : binary_cases) EXPECT_EQ(f(&x, &y, &result), status) << x << ", " << y;
 }
 
 }  // namespace

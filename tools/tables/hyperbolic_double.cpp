@@ -30,10 +30,10 @@ Row tanh_row(int k) {
     const Real value = Real::apply(mpfr_tanh, Real(c)), slope = Real(1) - value * value;
     const Curve rest = [&](const Real& h) { return (Real::apply(mpfr_tanh, Real(c) + h) - value - slope * h) / (h * h); };
     const Curve absolutely = [](const Real&) { return Real(1); };
-    Row row = {c, value.nearest(), (value - Real(value.nearest())).nearest(), slope.nearest()};
-    for (const Real& q : minimax(rest, absolutely, k == 0 ? 1e-12 : low - c, high - c, {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10}))
-        row.push_back(q.nearest());
-    row.push_back(0.0);
+    const auto q = minimax(rest, absolutely, k == 0 ? 1e-12 : low - c, high - c, {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10});
+    Row row = {c, value.nearest(), q[10].nearest(), (value - Real(value.nearest())).nearest()};
+    for (const std::size_t even : {8, 6, 4, 2, 0}) row.insert(row.end(), {q[even].nearest(), q[even + 1].nearest()});
+    row.insert(row.end(), {slope.nearest(), 0.0});
     return row;
 }
 
@@ -49,10 +49,10 @@ const Register hyperbolic_double_tables({
     {"cosh_halves", "row j of 256: 2^(j/256) / 2 rounded to nearest.",
      each_row(256, [](int j) { return Row{(exp2_part(j, 256) * Real(0.5)).nearest()}; })},
     {"tanh_parts",
-     "row k of 60, for the eighth of an octave whose upper word begins at 0x3fbe0000 + (k << 17), c its middle: c, "
-     "tanh c as head and tail, the slope there, and the polynomial of degree 10 nearest to "
-     "(tanh(c + h) - tanh c - slope h) / h^2, lowest coefficient first, and 0; row 0 is for what lies below 1/8, "
-     "with c = 0, row 59 is 1, for 20 and above.",
+     "row k of 60, for the eighth of an octave whose upper word begins at 0x3fbe0000 + (k << 17), c its middle, with q "
+     "the coefficients of the polynomial of degree 10 nearest to (tanh(c + h) - tanh c - slope h) / h^2: c, the head of "
+     "tanh c, q10, the tail of tanh c, q8, q9, q6, q7, ... q0, q1, the slope, 0; row 0 is for what lies below 1/8, with "
+     "c = 0, row 59 is 1, for 20 and above.",
      each_row(tanh_parts, tanh_row)},
     {"ln_reciprocals",
      "row i of 256: R, 1/(1 + i/256) rounded to single precision; -ln R rounded to a multiple of 2^-42; what that "
