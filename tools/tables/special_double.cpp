@@ -1,4 +1,5 @@
-// Tables of the double-precision error functions.
+// Tables of the double-precision error and gamma functions.
+#include "tables/fit.hpp"
 #include "tables/tables.hpp"
 
 namespace tarn::tables {
@@ -18,11 +19,186 @@ Row erfc_row(int k) {
     return point(erfc(d), d, 0x1p64);
 }
 
+// v as head and tail.
+void add_pair(Row& row, const Real& v) {
+    row.push_back(v.nearest());
+    row.push_back((v - Real(v.nearest())).nearest());
+}
+
+// The polynomial nearest to f on [low, high], relatively to `scale`; lowest coefficient first.
+std::vector<Real> polynomial(const Curve& f, const Curve& scale, const Real& low, const Real& high, int degree) {
+    std::vector<int> powers;
+    for (int p = 0; p <= degree; p++) powers.push_back(p);
+    return minimax(f, scale, low, high, powers);
+}
+const Curve one = [](const Real&) { return Real(1); };
+
+// The first `pairs` coefficients as head and tail, the others rounded.
+Row coefficients(const std::vector<Real>& c, std::size_t pairs) {
+    Row row;
+    for (std::size_t i = 0; i < c.size(); i++) {
+        if (i < pairs) add_pair(row, c[i]);
+        else row.push_back(c[i].nearest());
+    }
+    return row;
+}
+
+// One coefficient a row.
+std::vector<Row> column(const Row& row) {
+    std::vector<Row> rows;
+    for (const Cell& cell : row) rows.push_back({cell});
+    return rows;
+}
+
+// log2 of the middle of a 128th of [1, 2), less log2 e: by a reciprocal so short that its product with a
+// double has 64 bits.
+constexpr int short_reciprocal = -11;
+Real log2_e() { return Real(1) / Real::ln2(); }
+Row log2_over_e_row(int i) {
+    const double r = on_grid(Real(1) / (Real(1) + Real(2 * i + 1) / Real(256)), short_reciprocal);
+    const Real log = -log2(Real(r)) - log2_e();
+    const double head = on_grid(log, -32);
+    return {r, head, (log - Real(head)).nearest()};
+}
+
+// log2(1 + f) - f log2 e over f^2, and the constant that log2 e leaves of its double.
+std::vector<Row> log2_polynomial() {
+    const Real bound = Real(0x1p-8 + 0x1p-11);
+    const Curve f = [](const Real& f) {
+        if (abs(f) < Real(0x1p-100)) return Real(-0.5) * log2_e();
+        return (log2(Real(1) + f) - f * log2_e()) / (f * f);
+    };
+    Row row = {(log2_e() - Real(log2_e().nearest())).nearest()};
+    for (const Real& c : polynomial(f, one, -bound, bound, 6)) row.push_back(c.nearest());
+    return column(row);
+}
+
+// (2^r - 1) / r for |r| up to 1/128.
+std::vector<Row> exp2_polynomial() {
+    const Curve f = [](const Real& r) {
+        if (abs(r) < Real(0x1p-100)) return Real::ln2();
+        return Real::apply(mpfr_expm1, r * Real::ln2()) / r;
+    };
+    return column(coefficients(polynomial(f, one, -0x1.02p-7, 0x1.02p-7, 5), 0));
+}
+
+Real log_gamma_of(const Real& x) {
+    Real r;
+    int sign;
+    mpfr_lgamma(r.value, &sign, x.value, MPFR_RNDN);
+    return r;
+}
+
+// What Stirling's formula leaves of log2 gamma, times x, as a function of 1/x^2 for x from 8 on: log2 e / 12,
+// which is its first coefficient, as head and tail.
+std::vector<Row> stirling_polynomial() {
+    const Real first = log2_e() / Real(12);
+    const Curve f = [&](const Real& w) {
+        const Real x = Real(1) / sqrt(w);
+        const Real formula = (x - Real(0.5)) * log(x) - x + log(Real(2) * Real::pi()) / Real(2);
+        return ((log_gamma_of(x) - formula) * log2_e() * x - first) / w;
+    };
+    Row row;
+    add_pair(row, first);
+    for (const Real& c : polynomial(f, one, 0x1p-60, 0x1p-6, 6)) row.push_back(c.nearest());
+    return column(row);
+}
+
+// sin(pi y) / (pi y) less 1, over y^2, as a function of y^2 for |y| up to 1/2: three coefficients as pairs.
+std::vector<Row> sine_polynomial() {
+    const Curve f = [](const Real& w) {
+        const Real y = sqrt(w) * Real::pi();
+        return (sin(y) / y - Real(1)) / w;
+    };
+    return column(coefficients(polynomial(f, one, 0x1p-60, 0.25, 8), 3));
+}
+
+// ln(1 + s) - s over s^2 for |s| up to 1/32.
+std::vector<Row> log1p_polynomial() {
+    const Curve f = [](const Real& s) {
+        if (abs(s) < Real(0x1p-100)) return Real(-0.5);
+        return (Real::apply(mpfr_log1p, s) - s) / (s * s);
+    };
+    return column(coefficients(polynomial(f, one, -0x1p-5, 0x1p-5, 9), 0));
+}
+
+// ln gamma over (x - 1)(x - 2), which takes its zeros out.
+Real log_gamma_quotient(const Real& x) {
+    const Real product = (x - Real(1)) * (x - Real(2));
+    if (mpfr_zero_p(product.value)) return Real::apply(mpfr_digamma, x) / (Real(2) * x - Real(3));
+    return log_gamma_of(x) / product;
+}
+
+// A sixteenth of an octave from 1/2 on: its middle, and the polynomial around it, the first coefficient
+// as head and tail.
+Row log_gamma_row(int i) {
+    const double octave = std::ldexp(0.5, i / 16), half = octave / 32;
+    const double middle = octave + (2 * (i % 16) + 1) * half;
+    const Curve f = [&](const Real& t) { return log_gamma_quotient(Real(middle) + t); };
+    Row row = {middle};
+    for (const Cell& c : coefficients(polynomial(f, f, -half, half, 9), 1)) row.push_back(c);
+    return row;
+}
+
+// The zeros of ln |gamma| on the two sides of -3 to -16, and the one below -2, as their distances from the
+// integer.
+Real zero_beside(int n, int side) {
+    Real factorial = 1;
+    for (int k = 2; k <= n; k++) factorial = factorial * Real(k);
+    const auto at = [&](const Real& distance) { return log_gamma_of(Real(-n) + Real(side) * distance); };
+    Real positive = Real(0.25) / factorial, negative = n == 2 ? 0.55 : 0.36;
+    for (int i = 0; i < 400; i++) {
+        const Real middle = (positive + negative) / Real(2);
+        (Real(0) < at(middle) ? positive : negative) = middle;
+    }
+    return Real(side) * positive;
+}
+
+// Around a zero at y of the pole -n: ln |gamma(-n + y + t)| = t G(t) - ln(1 + t/y).
+Row negative_zero_row(int i) {
+    const int n = (i + 1) / 2 + 2, side = i % 2 ? 1 : -1;
+    const Real y = zero_beside(n, side), radius = abs(y) / Real(32);
+    const Curve f = [&](const Real& t) {
+        return (log_gamma_of(Real(-n) + y + t) + Real::apply(mpfr_log1p, t / y)) / t;
+    };
+    Row row;
+    add_pair(row, y);
+    for (const Cell& c : coefficients(polynomial(f, one, -radius, radius, 9), 1)) row.push_back(c);
+    return row;
+}
+
 const Register special_double_tables({
     {"erf_points", "row k of 768, d = k/128: erf(d) and its derivative 2/sqrt(pi) e^(-d^2), rounded to nearest.",
      each_row(768, erf_row)},
     {"erfc_points", "row k of 3489, d = k/128: 2^64 erfc(d) and 2^64 2/sqrt(pi) e^(-d^2), rounded to nearest.",
      each_row(3489, erfc_row)},
+    {"gamma_log2_rows",
+     "row i of 128, c = 1 + (2i + 1)/256: r = 1/c rounded to a multiple of 2^-11, -log2 r - log2 e rounded to a "
+     "multiple of 2^-32, and the rest of it.",
+     each_row(128, log2_over_e_row)},
+    {"gamma_log2",
+     "log2 e less its double, then for |f| up to 1/256 + 1/2048 the polynomial nearest to "
+     "(log2(1 + f) - f log2 e) / f^2, lowest coefficient first.",
+     log2_polynomial},
+    {"gamma_exp2", "the polynomial nearest to (2^r - 1) / r for |r| up to 1/128, lowest coefficient first.", exp2_polynomial},
+    {"gamma_stirling",
+     "x (ln gamma x - (x - 1/2) ln x + x - ln(2 pi)/2) log2 e for x from 8 on as a polynomial in 1/x^2, lowest "
+     "coefficient first and as head and tail.",
+     stirling_polynomial},
+    {"gamma_sine",
+     "(sin(pi y) / (pi y) - 1) / y^2 for |y| up to 1/2 as a polynomial in y^2, lowest coefficient first, the first "
+     "three as head and tail.",
+     sine_polynomial},
+    {"lgamma_log1p", "(ln(1 + s) - s) / s^2 for |s| up to 1/32, lowest coefficient first.", log1p_polynomial},
+    {"lgamma_rows",
+     "row i of 64, for a 16th of an octave from 1/2 on: its middle, and the polynomial in x - middle nearest to "
+     "ln gamma x / ((x - 1) (x - 2)), relatively: lowest coefficient first and as head and tail.",
+     each_row(64, log_gamma_row)},
+    {"lgamma_negative_zeros",
+     "a row for each zero of ln |gamma| from -2.46 to -16, in the order below -2, above -3, below -3 ...: the distance y "
+     "from the integer n as head and tail, and the polynomial in t nearest to (ln |gamma(n + y + t)| + ln(1 + t/y)) / t "
+     "for |t| up to |y|/32, lowest coefficient first and as head and tail.",
+     each_row(29, negative_zero_row)},
 });
 
 }  // namespace

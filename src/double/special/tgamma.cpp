@@ -1,0 +1,23 @@
+// gamma(x), ln |gamma(x)|, and the latter with the sign of gamma(x): the callouts compute every lane.
+#include "callout/callouts.hpp"
+#include "frame/exports.hpp"
+
+namespace tarn {
+namespace {
+
+struct Tgamma : Kernel<double(double)> {
+    static constexpr auto callout = callout::tgamma;
+};
+struct Lgamma : Kernel<double(double)> {
+    static constexpr auto callout = callout::lgamma;
+};
+struct Lgammar : Kernel<Both<double, std::int32_t>(double)> {
+    static constexpr auto callout = callout::lgammar;
+};
+
+}  // namespace
+}  // namespace tarn
+
+TARN_EXPORT(unary, tgamma, full, tarn::Tgamma)
+TARN_EXPORT(unary, lgamma, full, tarn::Lgamma)
+TARN_EXPORT(unary_second, lgammar, full, tarn::Lgammar)
