@@ -50,36 +50,31 @@ std::vector<Row> column(const Row& row) {
     return rows;
 }
 
-// log2 of the middle of a 128th of [1, 2), less log2 e: by a reciprocal so short that its product with a
-// double has 64 bits.
+// ln of the middle of a 128th of [1, 2), less 1: by a reciprocal so short that its products with numbers
+// of 21 bits have 32.
 constexpr int short_reciprocal = -11;
-Real log2_e() { return Real(1) / Real::ln2(); }
-Row log2_over_e_row(int i) {
+constexpr int short_log = -26;
+Row log_over_e_row(int i) {
     const double r = on_grid(Real(1) / (Real(1) + Real(2 * i + 1) / Real(256)), short_reciprocal);
-    const Real log = -log2(Real(r)) - log2_e();
-    const double head = on_grid(log, -32);
-    return {r, head, (log - Real(head)).nearest()};
+    const Real value = -log(Real(r)) - Real(1);
+    const double head = on_grid(value, short_log);
+    return {r, head, (value - Real(head)).nearest()};
 }
 
-// log2(1 + f) - f log2 e over f^2, and the constant that log2 e leaves of its double.
-std::vector<Row> log2_polynomial() {
-    const Real bound = Real(0x1p-8 + 0x1p-11);
+// (ln(1 + f) - f) / f^2 and (e^r - 1 - r) / r^2 for arguments up to `bound`.
+std::vector<Row> log_polynomial(double bound, int degree) {
     const Curve f = [](const Real& f) {
-        if (abs(f) < Real(0x1p-100)) return Real(-0.5) * log2_e();
-        return (log2(Real(1) + f) - f * log2_e()) / (f * f);
+        if (abs(f) < Real(0x1p-100)) return Real(-0.5);
+        return (Real::apply(mpfr_log1p, f) - f) / (f * f);
     };
-    Row row = {(log2_e() - Real(log2_e().nearest())).nearest()};
-    for (const Real& c : polynomial(f, one, -bound, bound, 6)) row.push_back(c.nearest());
-    return column(row);
+    return column(coefficients(polynomial(f, one, -bound, bound, degree), 0));
 }
-
-// (2^r - 1) / r for |r| up to 1/128.
-std::vector<Row> exp2_polynomial() {
+std::vector<Row> exp_polynomial(double bound, int degree) {
     const Curve f = [](const Real& r) {
-        if (abs(r) < Real(0x1p-100)) return Real::ln2();
-        return Real::apply(mpfr_expm1, r * Real::ln2()) / r;
+        if (abs(r) < Real(0x1p-100)) return Real(0.5);
+        return (Real::apply(mpfr_expm1, r) - r) / (r * r);
     };
-    return column(coefficients(polynomial(f, one, -0x1.02p-7, 0x1.02p-7, 5), 0));
+    return column(coefficients(polynomial(f, one, -bound, bound, degree), 0));
 }
 
 Real log_gamma_of(const Real& x) {
@@ -89,14 +84,14 @@ Real log_gamma_of(const Real& x) {
     return r;
 }
 
-// What Stirling's formula leaves of log2 gamma, times x, as a function of 1/x^2 for x from 8 on: log2 e / 12,
-// which is its first coefficient, as head and tail.
+// What Stirling's formula leaves of ln gamma, times x, as a function of 1/x^2 for x from 8 on: 1/12, which is
+// its first coefficient, as head and tail.
 std::vector<Row> stirling_polynomial() {
-    const Real first = log2_e() / Real(12);
+    const Real first = Real(1) / Real(12);
     const Curve f = [&](const Real& w) {
         const Real x = Real(1) / sqrt(w);
         const Real formula = (x - Real(0.5)) * log(x) - x + log(Real(2) * Real::pi()) / Real(2);
-        return ((log_gamma_of(x) - formula) * log2_e() * x - first) / w;
+        return ((log_gamma_of(x) - formula) * x - first) / w;
     };
     Row row;
     add_pair(row, first);
@@ -111,15 +106,6 @@ std::vector<Row> sine_polynomial() {
         return (sin(y) / y - Real(1)) / w;
     };
     return column(coefficients(polynomial(f, one, 0x1p-60, 0.25, 8), 3));
-}
-
-// ln(1 + s) - s over s^2 for |s| up to 1/32.
-std::vector<Row> log1p_polynomial() {
-    const Curve f = [](const Real& s) {
-        if (abs(s) < Real(0x1p-100)) return Real(-0.5);
-        return (Real::apply(mpfr_log1p, s) - s) / (s * s);
-    };
-    return column(coefficients(polynomial(f, one, -0x1p-5, 0x1p-5, 9), 0));
 }
 
 // ln gamma over (x - 1)(x - 2), which takes its zeros out.
@@ -172,28 +158,27 @@ const Register special_double_tables({
      each_row(768, erf_row)},
     {"erfc_points", "row k of 3489, d = k/128: 2^64 erfc(d) and 2^64 2/sqrt(pi) e^(-d^2), rounded to nearest.",
      each_row(3489, erfc_row)},
-    {"gamma_log2_rows",
-     "row i of 128, c = 1 + (2i + 1)/256: r = 1/c rounded to a multiple of 2^-11, -log2 r - log2 e rounded to a "
-     "multiple of 2^-32, and the rest of it.",
-     each_row(128, log2_over_e_row)},
-    {"gamma_log2",
-     "log2 e less its double, then for |f| up to 1/256 + 1/2048 the polynomial nearest to "
-     "(log2(1 + f) - f log2 e) / f^2, lowest coefficient first.",
-     log2_polynomial},
-    {"gamma_exp2", "the polynomial nearest to (2^r - 1) / r for |r| up to 1/128, lowest coefficient first.", exp2_polynomial},
+    {"gamma_log_rows",
+     "row i of 128, c = 1 + (2i + 1)/256: r = 1/c rounded to a multiple of 2^-11, -ln r - 1 rounded to a multiple "
+     "of 2^-26, and the rest of it.",
+     each_row(128, log_over_e_row)},
+    {"gamma_log", "(ln(1 + f) - f) / f^2 for |f| up to 1/256 + 1/2048, lowest coefficient first.",
+     [] { return log_polynomial(0x1p-8 + 0x1p-11, 5); }},
+    {"gamma_exp", "(e^r - 1 - r) / r^2 for |r| up to 1/128, lowest coefficient first.",
+     [] { return exp_polynomial(0x1p-7, 5); }},
     {"gamma_stirling",
-     "x (ln gamma x - (x - 1/2) ln x + x - ln(2 pi)/2) log2 e for x from 8 on as a polynomial in 1/x^2, lowest "
+     "x (ln gamma x - (x - 1/2) ln x + x - ln(2 pi)/2) for x from 8 on as a polynomial in 1/x^2, lowest "
      "coefficient first and as head and tail.",
      stirling_polynomial},
     {"gamma_sine",
      "(sin(pi y) / (pi y) - 1) / y^2 for |y| up to 1/2 as a polynomial in y^2, lowest coefficient first, the first "
      "three as head and tail.",
      sine_polynomial},
-    {"lgamma_log1p", "(ln(1 + s) - s) / s^2 for |s| up to 1/32, lowest coefficient first.", log1p_polynomial},
+    {"lgamma_log1p", "(ln(1 + s) - s) / s^2 for |s| up to 1/32, lowest coefficient first.", [] { return log_polynomial(0x1p-5, 9); }},
     {"lgamma_rows",
-     "row i of 64, for a 16th of an octave from 1/2 on: its middle, and the polynomial in x - middle nearest to "
+     "row i of 112, for a 16th of an octave from 1/2 on: its middle, and the polynomial in x - middle nearest to "
      "ln gamma x / ((x - 1) (x - 2)), relatively: lowest coefficient first and as head and tail.",
-     each_row(64, log_gamma_row)},
+     each_row(112, log_gamma_row)},
     {"lgamma_negative_zeros",
      "a row for each zero of ln |gamma| from -2.46 to -16, in the order below -2, above -3, below -3 ...: the distance y "
      "from the integer n as head and tail, and the polynomial in t nearest to (ln |gamma(n + y + t)| + ln(1 + t/y)) / t "
