@@ -22,14 +22,15 @@ inline constexpr double stirling_tail = f64(0x3E092FAD29A4A5E5);  // 7.330159424
 inline constexpr double stirling_constant = stirling_head + stirling_tail;
 inline constexpr double twelfth = gamma_stirling[0];
 
-// c0 + c1 t + ... of 6, 8 or 10 coefficients, lowest first: Estrin's scheme in two lanes, one for even powers,
+// c0 + c1 t + ... of 6, 8, 10 or 12 coefficients, lowest first: Estrin's scheme in two lanes, one for even powers,
 // one for odd.
 template <int count> TARN_INLINE double polynomial(const double* c, double t) {
     const auto pair = [=](int i) __attribute__((always_inline)) { return f64x2{c[2 * i], c[2 * i + 1]}; };
     const f64x2 t2 = splat(t * t), t4 = t2 * t2;
     f64x2 high = pair(2);
     if constexpr (count > 6) high = high + pair(3) * t2;
-    if constexpr (count > 8) high = high + pair(4) * t4;
+    if constexpr (count == 10) high = high + pair(4) * t4;
+    if constexpr (count == 12) high = high + (pair(4) + pair(5) * t2) * t4;
     const f64x2 sum = (pair(0) + pair(1) * t2) + high * t4;
     return sum[0] + sum[1] * t;
 }
@@ -73,9 +74,14 @@ TARN_INLINE Log log_over_e(Split w) {
     return {k * ln2_head + head, high, rest + ((k * ln2_tail + tail) + f * f * polynomial<6>(gamma_log, f))};
 }
 
-// ln gamma over (x - 1)(x - 2): x = near_x, or near_x rounded, lies in [1/2, 64); the row has its
-// interval's middle, then the polynomial around it.
-TARN_INLINE const double* log_gamma_row(double near_x) { return lgamma_rows[(pattern(near_x) >> 48) - 0x3FE0]; }
+// Stirling's series in v = 1/z, from z = 64 on.
+TARN_INLINE double stirling_series_from_64(double v) { return v * horner(v * v, gamma_stirling[3], gamma_stirling[2], twelfth); }
+
+// The sixteenth of an octave in which x lies, from 1/2 on. Tables by it have the interval's middle in front.
+TARN_INLINE std::uint64_t sixteenth(double x) { return (pattern(x) >> 48) - 0x3FE0; }
+
+// ln gamma over (x - 1)(x - 2) for x in [1/2, 64).
+TARN_INLINE const double* log_gamma_row(double x) { return lgamma_rows[sixteenth(x)]; }
 
 // The zeros of ln |gamma| lie on both sides of the integers from -3 on, and below -2. The row of the one that is
 // next to -a, 2 < a < 16.5: n is the integer next to a, y = n - a.

