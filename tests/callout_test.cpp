@@ -68,6 +68,7 @@ const Scalar scalars[] = {
     unary("exp", &exp, 0.52), unary("exp2", &exp2, 0.76), unary("exp10", &exp10, 0.52),
     unary("log", &log, 0.503), unary("log2", &log2, 2.09), unary("log10", &log10, 2.09), unary("log1p", &log1p, 0.503),
     unary("sin", &sin, 0.52), unary("cos", &cos, 0.52), unary("tan", &tan, 0.52),
+    unary("tgamma", &tgamma, 0.529), unary("lgamma", &lgamma, 0.689),
     unary("sinpi", &sinpi, 0.52), unary("cospi", &cospi, 0.52), unary("tanpi", &tanpi, 0.52),
     unary("asin", &asin, 0.53), unary("acos", &acos, 0.53), unary("asinpi", &asinpi, 0.751), unary("acospi", &acospi, 0.53),
     binary("atan2", &atan2, 4.1), binary("atan2pi", &atan2pi, 4.1),
@@ -129,6 +130,11 @@ TEST(CalloutStatus, NamesWhatHappened) {
     EXPECT_EQ(of2(&powf, 0, -1), domain_error);
     EXPECT_EQ(of2(&powrf, -2, 2), domain_error);
     EXPECT_EQ(of2(&powf, -2, 3), ordinary);
+    EXPECT_EQ(of(&tgammaf, -0.0f), pole);
+    EXPECT_EQ(of(&tgammaf, -inf), domain_error);
+    EXPECT_EQ(of(&tgammaf, -60.5f), underflow);
+    EXPECT_EQ(of(&lgammaf, -3), pole);
+    EXPECT_EQ(of(&lgammaf, 1e37f), overflow);
     EXPECT_EQ(of(&expf, 89), overflow);
     EXPECT_EQ(of(&expf, -100), underflow);
 }
