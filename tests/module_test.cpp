@@ -40,18 +40,7 @@ TEST(ModuleFile, ExportsExactlyTheTable) {
     std::set<std::string> present;
     for (const auto& line : output("nm -D --defined-only " + path)) present.insert(line.substr(line.rfind(' ') + 1));
     for (const auto& name : present) EXPECT_TRUE(stated.count(name)) << name << " is exported and in no row";
-
-    // A family is there whole or not at all.
-    int missing = 0;
-    for (const Family& f : families()) {
-        int there = 0, wanted = 0;
-        for (const Variant v : all_variants)
-            if (f.has(v))
-                for (const int width : widths) wanted++, there += static_cast<int>(present.count(export_name(f.base, width, v)));
-        EXPECT_TRUE(there == 0 || there == wanted) << f.base << " has " << there << " of " << wanted << " exports";
-        if (there == 0) missing++, std::printf("missing: %s\n", f.base.c_str());
-    }
-    std::printf("%zu exports of 2064, %d families missing of %zu\n", present.size(), missing, families().size());
+    for (const auto& name : stated) EXPECT_TRUE(present.count(name)) << name << " is in the table and not exported";
 }
 
 TEST(ModuleFile, NeedsNothing) {

@@ -134,14 +134,14 @@ inline const Module& module() {
 struct Member {
     const Family* family;
     Variant variant;
-    Function at(int width) const { return *module().find({family, width, variant}); }
+    Function at(int width) const { return module().find({family, width, variant}).value(); }
     std::string name() const { return family->base + suffix(variant); }
 };
 inline std::vector<Member> members() {
     std::vector<Member> all;
     for (const Family& f : families())
         for (const Variant v : all_variants)
-            if (f.has(v) && module().find({&f, 4, v})) all.push_back({&f, v});
+            if (f.has(v)) all.push_back({&f, v});
     return all;
 }
 inline void PrintTo(const Member& m, std::ostream* out) { *out << m.name(); }

@@ -196,7 +196,7 @@ int main(int argc, char** argv) {
         for (const auto& base : bases) {
             const Family* f = find_family(base);
             if (!f) throw cli::Refused("no family is called '" + base + "'");
-            if (!module.has(*f)) throw cli::Refused("the module has no '" + base + "' yet");
+            if (!module.has(*f)) throw cli::Refused("the module has no '" + base + "'");
             for (const bool large : {false, true}) {
                 if (large && f->switches_above == 0) continue;
                 const auto b = inputs(*f, large);

@@ -32,7 +32,7 @@ inline Function find_function(const Module& module, const std::string& name) {
     Export e;
     if (!parse_export(name, e)) throw Refused("no export is called '" + name + "'");
     const auto f = module.find(e);
-    if (!f) throw Refused("the module has no '" + name + "' yet");
+    if (!f) throw Refused("the module has no '" + name + "'");
     return *f;
 }
 
