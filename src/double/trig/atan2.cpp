@@ -2,7 +2,7 @@
 // larger, one division, mirrored into the quadrant. Lanes with a zero, infinite or NaN coordinate are the
 // callout's.
 //
-// Worst errors in 2 million random pairs, near the diagonals: atan2 4.02 ulp, atan2pi 3.37; native 2.4e7 ulp.
+// Worst errors in 6.5 million random pairs, near the diagonals: atan2 4.90 ulp, atan2pi 4.65; native 2.4e7 ulp.
 #include "callout/callouts.hpp"
 #include "double/trig/arctangent.hpp"
 #include "frame/exports.hpp"
