@@ -12,6 +12,8 @@
 namespace tarn::callout {
 namespace {
 
+// Between -1/2 and -20 the two logarithms of the reflection may cancel: next to -17 to less than 1/100 of each.
+constexpr double cancels_down_to = 20.0;
 constexpr double lgamma_overflow = f64(0x7F5754D9278B51A8);  // 2.5599833278516387e+305
 
 // ln gamma(x) / ((x - 1)(x - 2)) at the distance t from the row's middle.
@@ -90,7 +92,7 @@ double log_gamma_of_negative(double x) {
             if (s <= 0x1p-5L && s >= -0x1p-5L) return log_gamma_at_zero(row, t, s);
         }
         const extended sine = sine_over_pi(y);
-        if (a < 0.5 || a > negative_zeros_end + 1) {
+        if (a < 0.5 || a > cancels_down_to) {
             const Log log = log_over_e(split(a < 0.5 ? sine : sine * a));
             const extended other = a < 0.5 ? log_gamma_of_next(a) : log_gamma_from_half(a);
             return static_cast<double>(-((log.head + 1.0 + log.high) + (other + log.small)));
