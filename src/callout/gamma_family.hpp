@@ -14,8 +14,8 @@ namespace tarn::callout {
 #include "tables/lgamma_rows.inc"
 
 // Heads so short that what they are multiplied with leaves the products exact.
-inline constexpr double ln2_head = f64(0x3FE62E4300000000);         // 0.6931471824645996
-inline constexpr double ln2_tail = f64(0xBE205C610CA86C39);         // -1.904654299957768e-09
+inline constexpr double ln2_head = f64(0x3FE62E4300000000);  // 0.6931471824645996
+inline constexpr double ln2_tail = f64(0xBE205C610CA86C39);  // -1.904654299957768e-09
 // (ln(2 pi) - 1) / 2: (z - 1/2) ln(z / e) and this are Stirling's formula.
 inline constexpr double stirling_head = f64(0x3FDACFE390000000);  // 0.4189385324716568
 inline constexpr double stirling_tail = f64(0x3E092FAD29A4A5E5);  // 7.330159424639235e-10
@@ -49,8 +49,8 @@ TARN_INLINE bool is_odd(double whole) {
     return floor_of(half) != half;
 }
 
-// The double of w, or of what a sum of two leaves, cut to its first bits.
-TARN_INLINE double cut(double w, int bits_off) { return f64(pattern(w) >> bits_off << bits_off); }
+// w without its last bits.
+TARN_INLINE double cut(double w, int last_bits) { return f64(pattern(w) >> last_bits << last_bits); }
 
 // A number as a double and what that leaves of it.
 struct Split {
@@ -61,16 +61,17 @@ struct Split {
 struct Log {
     double head, high, small;
 };
-// Of a number with a positive normal double. With w = 2^k m and the row's r, close to 1/m, the first bits of m
-// give u = r m - 1 exactly; what they leave gives the tail of it.
+// Of a number with a positive normal double: w = 2^k m, and a row by the top bits of m has r, close to 1/m. The
+// first bits of m give the head of f = r m - 1 exactly, what they leave gives its tail.
 TARN_INLINE Log log_over_e(Split w) {
     const std::uint64_t p = pattern(w.near);
-    const int exponent = static_cast<int>(p >> 52) - 1023;
+    // The exponent in the low bits of 2^52.
+    const double k = f64(p >> 52 | 0x4330000000000000) - (0x1p52 + 1023);
     const double m = f64((p & 0x000FFFFFFFFFFFFF) | 0x3FF0000000000000), first = cut(m, 32);
     const auto [reciprocal, head, tail] = gamma_log_rows[p >> 45 & 127];
-    const double low = w.rest == 0 ? m - first : (m - first) + w.rest * power_of_two(-exponent);
+    const double low = w.rest == 0 ? m - first : (m - first) + w.rest * power_of_two(1023 - static_cast<int>(p >> 52));
     const double high = reciprocal * first - 1.0, rest = reciprocal * low;
-    const double f = high + rest, k = exponent;
+    const double f = high + rest;
     return {k * ln2_head + head, high, rest + ((k * ln2_tail + tail) + f * f * polynomial<6>(gamma_log, f))};
 }
 

@@ -57,7 +57,7 @@ TARN_INLINE double rounded_log_over_e(double x) {
     return (head + high) + small;
 }
 
-// ln gamma from 1/2 to 64 over (x - 1)(x - 2), for x = near_x, or near_x rounded, at x - 1 + offset.
+// ln gamma(x) / ((x - 1)(x - 2)) for x = t + offset in [1/2, 64), which lies in the row of near_x.
 TARN_INLINE double log_gamma_quotient(double near_x, double t, double offset) {
     const double* row = log_gamma_row(near_x);
     return row[1] + polynomial<10>(row + 2, (offset - row[0]) + t);
