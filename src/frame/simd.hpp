@@ -144,6 +144,17 @@ TARN_INLINE i32x4 lower_words(i64x2 low, i64x2 high) {
 // Multiplication of 32-bit words: the low word of each 64-bit lane, to 64 bits.
 TARN_INLINE u64x2 multiply_words(u64x2 a, u64x2 b) { return (u64x2)_mm_mul_epu32((__m128i)a, (__m128i)b); }
 
+// Multiplication of 16-bit halves: the upper half of each product.
+TARN_INLINE u32x4 multiply_halves(u32x4 a, u32x4 b) { return (u32x4)_mm_mulhi_epu16((__m128i)a, (__m128i)b); }
+
+// Four 64-bit lanes, the even ones and the odd ones, as their low and their high words in order.
+TARN_INLINE u32x4 woven_low_words(u64x2 even, u64x2 odd) {
+    return (u32x4)_mm_blend_epi16((__m128i)even, (__m128i)(odd << 32), 0xCC);
+}
+TARN_INLINE u32x4 woven_high_words(u64x2 even, u64x2 odd) {
+    return (u32x4)_mm_blend_epi16((__m128i)(even >> 32), (__m128i)odd, 0xCC);
+}
+
 // Polynomials ------------------------------------------------------------------------------------
 
 // Horner's rule, highest coefficient first: ((c0*x + c1)*x + c2)*x + ... A coefficient may be one lane.
