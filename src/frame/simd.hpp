@@ -36,6 +36,9 @@ TARN_INLINE i64x2 shift_right_logical(i64x2 v, int count) { return (i64x2)((u64x
 // A sum that may wrap round; `+` on signed lanes must not.
 TARN_INLINE i32x4 wrapping_sum(i32x4 v, i32x4 w) { return (i32x4)((u32x4)v + (u32x4)w); }
 
+// The difference of 16-bit halves without sign, 0 where it would be negative.
+TARN_INLINE i32x4 difference_from_zero(i32x4 v, i32x4 w) { return (i32x4)_mm_subs_epu16((__m128i)v, (__m128i)w); }
+
 // Constants: every lane the same -----------------------------------------------------------------
 
 constexpr i32x4 splat(std::int32_t v) { return i32x4{v, v, v, v}; }
@@ -195,6 +198,12 @@ struct Rows {
 TARN_INLINE Rows rows(i32x4 index) {
     const auto low = static_cast<std::uint64_t>(((i64x2)index)[0]), high = static_cast<std::uint64_t>(((i64x2)index)[1]);
     return {{low & 0xFFFFFFFF, low >> 32, high & 0xFFFFFFFF, high >> 32}};
+}
+
+// The same of lanes that hold their row in the bits from `shift` on.
+TARN_INLINE Rows rows(i32x4 index, int shift) {
+    const auto low = static_cast<std::uint64_t>(((i64x2)index)[0]), high = static_cast<std::uint64_t>(((i64x2)index)[1]);
+    return {{(low & 0xFFFFFFFF) >> shift, low >> (32 + shift), (high & 0xFFFFFFFF) >> shift, high >> (32 + shift)}};
 }
 
 // table[index] in each lane.

@@ -34,6 +34,7 @@ TARN_INLINE Place place(f64x2 x) {
 
 struct Tanh : Kernel<double(double)> {
     static constexpr auto callout = callout::tanh;
+    static constexpr int at_a_time = 8;
 
     static TARN_INLINE auto fast(f64x2 x) {
         const auto [row, h, head, tail, slope, special] = place(x);

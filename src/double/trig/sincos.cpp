@@ -27,6 +27,7 @@ struct LargeArgument : Kernel<Both<double, double>(double)> {
 
 template <class Form> struct Sincos : Kernel<Both<double, double>(double)> {
     using long_path = LargeArgument;
+    static constexpr int at_a_time = 8;
 
     static TARN_INLINE auto fast(f64x2 x) {
         const f64x2 a = abs(x);

@@ -65,6 +65,7 @@ struct LargeArgument : Kernel<double(double)> {
 
 template <class Form> struct Tan : Kernel<double(double)> {
     using long_path = LargeArgument;
+    static constexpr int at_a_time = 4;
 
     static TARN_INLINE auto fast(f64x2 x) {
         const f64x2 a = abs(x);

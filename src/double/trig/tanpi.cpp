@@ -20,6 +20,8 @@ using namespace trig_f64;
 constexpr f64x2 half_shifter = splat_f64(0x4328000000000000);  // 3377699720527872.0 = 1.5 * 2^51: rounds to halves
 
 template <class Form> struct Tanpi : Kernel<double(double)> {
+    static constexpr int at_a_time = 8;
+
     static TARN_INLINE f64x2 of_magnitude(f64x2 a, f64x2 x) {
         const f64x2 shifted = a + half_shifter;
         const i64x2 parity = parity_sign(shifted);
