@@ -9,6 +9,7 @@
 //   fast gives Flagged, finish                   every group with a flagged lane is finished by the kernel
 //   callout alone                                every lane goes to the callout
 //
+// long_path is an alias: a struct of that name would find itself under it.
 // A kernel that declares `any_blocks` has a `fast` for one block or several as one vector.
 // One that declares `at_a_time` computes its wide calls so many lanes after so many, not all at once.
 // `fast` and `finish` take and give groups. A callout is scalar and takes one pointer for

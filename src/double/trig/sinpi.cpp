@@ -28,12 +28,13 @@ template <class Form> struct Sinpi : Kernel<double(double)> {
         return Flagged{of_magnitude(a, x), (i64x2)(a > splat(0x1p51))};
     }
 
-    struct long_path : Kernel<double(double)> {
+    struct LargeArgument : Kernel<double(double)> {
         static constexpr auto callout = callout::sinpi;
         static TARN_INLINE auto fast(f64x2 x) {
             return Flagged{of_magnitude(without_periods(abs(x)), x), is_infinite(x)};
         }
     };
+    using long_path = LargeArgument;
 };
 
 }  // namespace

@@ -27,12 +27,13 @@ template <class Form> struct Sinpif : Kernel<float(float)> {
         return Flagged{of_magnitude(a, x), a > splat(0x1p22f)};
     }
 
-    struct long_path : Kernel<float(float)> {
+    struct LargeArgument : Kernel<float(float)> {
         static constexpr auto callout = callout::sinpif;
         static TARN_INLINE auto fast(f32x4 x) {
             return Flagged{of_magnitude(without_periods(abs(x)), x), not_finite(x)};
         }
     };
+    using long_path = LargeArgument;
 };
 
 }  // namespace
