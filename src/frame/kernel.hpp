@@ -4,14 +4,16 @@
 //
 //   fast gives a plain value                     no lane is special
 //   fast gives Flagged, callout                  flagged lanes go to the callout, in lane order
-//   fast gives Flagged, long_path, callout       any flagged lane sends the whole call down long_path,
-//                                                whose own mask names the lanes for the callout
+//   fast gives Flagged, long_path                any flagged lane sends the whole call to the kernel that
+//                                                long_path names, whose own special lanes count from there
 //   fast gives Flagged, finish                   every group with a flagged lane is finished by the kernel
 //   callout alone                                every lane goes to the callout
 //
+// long_path is an alias: a struct of that name would find itself under it.
 // A kernel that declares `every_lane_special` asks it once a call whether all lanes are special, whatever
 // `fast` says. A kernel that declares `any_blocks` has a `fast` for one block or several as one vector.
-// `fast`, `long_path` and `finish` take and give groups. A callout is scalar and takes one pointer for
+// One that declares `at_a_time` computes its wide calls so many lanes after so many, not all at once.
+// `fast` and `finish` take and give groups. A callout is scalar and takes one pointer for
 // each operand, inputs first: int(const A*..., R*), or int(const A*..., R*, S*) with a second result.
 #pragma once
 
@@ -24,7 +26,7 @@ namespace tarn {
 // The two results of a kernel, in its signature: Both<float, std::int32_t>(float).
 template <class First, class Second> struct Both;
 
-// What `fast` and `long_path` give beside a plain group.
+// What `fast` gives beside a plain group.
 template <class V, class Mask> struct Flagged {
     V value;
     Mask special;
@@ -49,6 +51,10 @@ template <class Result, class... Args> struct Kernel<Result(Args...)> {
 
     // Lanes to a group: two where any lane is a double, else four.
     static constexpr int lanes = (std::is_same_v<Result, double> || ... || std::is_same_v<Args, double>) ? 2 : 4;
+
+    // Lanes of a wide call that are computed side by side. Fewer than all where more would wait for one
+    // divider, or for registers.
+    static constexpr int at_a_time = 16;
 
     // What stands in lane 3 of width 3: in the middle of the domain, so that it is never special.
     template <class Lane>
@@ -138,6 +144,18 @@ template <class K, int width, class R = typename Parts<typename K::Signature>::R
           class Args = typename Parts<typename K::Signature>::Args>
 struct Call;
 
+// The whole call computed by another kernel, one copy for all that switch to it.
+template <class K, int width, class R = typename Parts<typename K::Signature>::Result,
+          class Seconds = typename Parts<typename K::Signature>::Seconds,
+          class Args = typename Parts<typename K::Signature>::Args>
+struct Switched;
+template <class K, int width, class R, class... S, class... A>
+struct Switched<K, width, R, Types<S...>, Types<A...>> {
+    [[gnu::noinline, gnu::cold]] static Updated<R, width> run(Updated<R, width> fast, Passed<A, width>... x, S*... second) {
+        return fast = Call<K, width>::run(x..., second...);
+    }
+};
+
 template <class K, int width, class R, class... S, class... A>
 struct Call<K, width, R, Types<S...>, Types<A...>> {
     static constexpr int lanes = K::lanes;
@@ -149,8 +167,8 @@ struct Call<K, width, R, Types<S...>, Types<A...>> {
         requires(!in_memory<R, width>)
     {
         Result result;
-        const unsigned special = evaluate<Fast>(result, x..., second...) | always_special();
-        if (__builtin_expect(special != 0, 0)) return settle<Fast>(result, x..., special, second...);
+        const unsigned special = evaluate(result, x..., second...) | always_special();
+        if (__builtin_expect(special != 0, 0)) return settle(result, x..., special, second...);
         return result;
     }
 
@@ -159,9 +177,26 @@ struct Call<K, width, R, Types<S...>, Types<A...>> {
         requires(in_memory<R, width>)
     {
         Result result;
-        const unsigned special = evaluate<Fast>(result, x..., second...) | always_special();
-        if (__builtin_expect(special != 0, 0)) settle<Fast>(result, x..., special, second...);
+        const unsigned special = evaluate(result, x..., second...) | always_special();
+        if (__builtin_expect(special != 0, 0)) settle(result, x..., special, second...);
         return result;
+    }
+
+    // Computes all lanes; the special ones are the result.
+    static TARN_INLINE unsigned evaluate(Result& result, const Vec<A, width>&... x, S*... second) {
+        if constexpr (requires { K::any_blocks; } && in_memory<R, width>) {
+            return at_once(result, x..., second...);
+        } else if constexpr (stored_lanes(width) > K::at_a_time) {
+            return in_parts<K::at_a_time>(result, x..., second...);
+        } else if constexpr (requires { &K::fast; } || requires { K::any_blocks; }) {
+            return over(std::make_integer_sequence<int, count>{}, result, x..., second...);
+        } else {
+            if constexpr (!in_memory<R, width>) result = Result{};  // the lane that width 3 does not call for
+            LaneArray<R, width> lanes_of_result(result);
+            Special::visit(lane_mask(width), K::callout, lanes_of_result, LaneArray<A, width>(x)..., second...);
+            result = lanes_of_result.reload();
+            return 0;
+        }
     }
 
 private:
@@ -179,29 +214,6 @@ private:
         else return 0;
     }
 
-    struct Fast {
-        template <class... G> static TARN_INLINE auto group(G... g) { return K::fast(g...); }
-    };
-    struct Long {
-        template <class... G> static TARN_INLINE auto group(G... g) { return K::long_path(g...); }
-    };
-
-    // Computes all groups on one path; the special lanes are the result.
-    template <class Path>
-    static TARN_INLINE unsigned evaluate(Result& result, const Vec<A, width>&... x, S*... second) {
-        if constexpr (requires { K::any_blocks; } && in_memory<R, width> && std::is_same_v<Path, Fast>) {
-            return at_once(result, x..., second...);
-        } else if constexpr (requires { &K::fast; } || requires { K::any_blocks; }) {
-            return over<Path>(std::make_integer_sequence<int, count>{}, result, x..., second...);
-        } else {
-            if constexpr (!in_memory<R, width>) result = Result{};  // the lane that width 3 does not call for
-            LaneArray<R, width> lanes_of_result(result);
-            Special::visit(lane_mask(width), K::callout, lanes_of_result, LaneArray<A, width>(x)..., second...);
-            result = lanes_of_result.reload();
-            return 0;
-        }
-    }
-
     // All lanes of a wide call at once, for a kernel written for any number of blocks.
     static TARN_INLINE unsigned at_once(Result& result, const Vec<A, width>&... x, S*... second) {
         using Blocks = typename SeveralBlocks<count>::f32;
@@ -217,10 +229,21 @@ private:
         }
     }
 
-    template <class Path, int... i>
+    // As calls of a narrower width, one after the other. The loop's end is opaque because the compiler would
+    // unroll it and mix what it is to keep apart.
+    template <int part> static TARN_INLINE unsigned in_parts(Result& result, const Vec<A, width>&... x, S*... second) {
+        unsigned special = 0;
+        for (std::uint64_t i = 0, parts = opaque(std::uint64_t{stored_lanes(width) / part}); i < parts; i++)
+            special |= Call<K, part>::evaluate(reinterpret_cast<Vec<R, part>*>(&result)[i],
+                                               reinterpret_cast<const Vec<A, part>*>(&x)[i]..., second + i * part...)
+                       << i * part;
+        return special;
+    }
+
+    template <int... i>
     static TARN_INLINE unsigned over(std::integer_sequence<int, i...>, Result& result, const Vec<A, width>&... x,
                                      S*... second) {
-        const auto run_group = [&](int g) __attribute__((always_inline)) { return Path::group(argument<A>(x, g)...); };
+        const auto run_group = [&](int g) __attribute__((always_inline)) { return K::fast(argument<A>(x, g)...); };
         const decltype(run_group(0)) groups[] = {run_group(i)...};
         const Group<R, lanes> values[] = {value_of(groups[i])...};
         result = vector_of<lanes, R, width>(values);
@@ -234,27 +257,12 @@ private:
     }
 
     // What becomes of a call with special lanes.
-    template <class Path>
     static TARN_INLINE Updated<R, width> settle(Updated<R, width> fast, const Vec<A, width>&... x, unsigned special,
                                                 S*... second) {
-        if constexpr (std::is_same_v<Path, Fast> && requires { &K::long_path; }) return switched(fast, x..., second...);
+        if constexpr (requires { typename K::long_path; }) return Switched<typename K::long_path, width>::run(fast, x..., second...);
         else if constexpr (requires { &K::finish; }) return finished(fast, x..., special);
         else if constexpr (requires { K::callout; }) return Special::run(fast, x..., special, K::callout, second...);
         else return fast;
-    }
-
-    [[gnu::noinline, gnu::cold]] static Updated<R, width> switched(Updated<R, width> fast, Passed<A, width>... x,
-                                                                   S*... second) {
-        Result result;
-        const unsigned special = evaluate<Long>(result, x..., second...);
-        if constexpr (in_memory<R, width>) {
-            fast = result;
-            if (special != 0) settle<Long>(fast, x..., special, second...);
-            return fast;
-        } else {
-            if (special != 0) return settle<Long>(result, x..., special, second...);
-            return result;
-        }
     }
 
     [[gnu::noinline, gnu::cold]] static Updated<R, width> finished(Updated<R, width> fast, Passed<A, width>... x,

@@ -36,6 +36,9 @@ TARN_INLINE i64x2 shift_right_logical(i64x2 v, int count) { return (i64x2)((u64x
 // A sum that may wrap round; `+` on signed lanes must not.
 TARN_INLINE i32x4 wrapping_sum(i32x4 v, i32x4 w) { return (i32x4)((u32x4)v + (u32x4)w); }
 
+// The difference of 16-bit halves without sign, 0 where it would be negative.
+TARN_INLINE i32x4 difference_from_zero(i32x4 v, i32x4 w) { return (i32x4)_mm_subs_epu16((__m128i)v, (__m128i)w); }
+
 // Constants: every lane the same -----------------------------------------------------------------
 
 constexpr i32x4 splat(std::int32_t v) { return i32x4{v, v, v, v}; }
@@ -144,6 +147,17 @@ TARN_INLINE i32x4 lower_words(i64x2 low, i64x2 high) {
 // Multiplication of 32-bit words: the low word of each 64-bit lane, to 64 bits.
 TARN_INLINE u64x2 multiply_words(u64x2 a, u64x2 b) { return (u64x2)_mm_mul_epu32((__m128i)a, (__m128i)b); }
 
+// Multiplication of 16-bit halves: the upper half of each product.
+TARN_INLINE u32x4 multiply_halves(u32x4 a, u32x4 b) { return (u32x4)_mm_mulhi_epu16((__m128i)a, (__m128i)b); }
+
+// Four 64-bit lanes, the even ones and the odd ones, as their low and their high words in order.
+TARN_INLINE u32x4 woven_low_words(u64x2 even, u64x2 odd) {
+    return (u32x4)_mm_blend_epi16((__m128i)even, (__m128i)(odd << 32), 0xCC);
+}
+TARN_INLINE u32x4 woven_high_words(u64x2 even, u64x2 odd) {
+    return (u32x4)_mm_blend_epi16((__m128i)(even >> 32), (__m128i)odd, 0xCC);
+}
+
 // Polynomials ------------------------------------------------------------------------------------
 
 // Horner's rule, highest coefficient first: ((c0*x + c1)*x + c2)*x + ... A coefficient may be one lane.
@@ -184,6 +198,12 @@ struct Rows {
 TARN_INLINE Rows rows(i32x4 index) {
     const auto low = static_cast<std::uint64_t>(((i64x2)index)[0]), high = static_cast<std::uint64_t>(((i64x2)index)[1]);
     return {{low & 0xFFFFFFFF, low >> 32, high & 0xFFFFFFFF, high >> 32}};
+}
+
+// The same of lanes that hold their row in the bits from `shift` on.
+TARN_INLINE Rows rows(i32x4 index, int shift) {
+    const auto low = static_cast<std::uint64_t>(((i64x2)index)[0]), high = static_cast<std::uint64_t>(((i64x2)index)[1]);
+    return {{(low & 0xFFFFFFFF) >> shift, low >> (32 + shift), (high & 0xFFFFFFFF) >> shift, high >> (32 + shift)}};
 }
 
 // table[index] in each lane.

@@ -39,6 +39,8 @@ template <class Lane> TARN_INLINE Halves<Block<Lane>> halves(Block<Lane> y) {
 
 template <class Lane> struct Fmod : Kernel<Lane(Lane, Lane)> {
     static constexpr auto callout = callout::fmod<Lane>;
+    static constexpr int at_a_time = sizeof(Lane) == 8 ? 8 : 16;
+
     static TARN_INLINE auto fast(Block<Lane> x, Block<Lane> y) {
         const auto sign = sign_bit(x);
         const auto q = round<Rounding::zero>(x / y);
@@ -75,6 +77,8 @@ template <class Lane> struct Remainder : Kernel<Lane(Lane, Lane)> {
 
 template <class Lane> struct Remquo : Kernel<Both<Lane, std::int32_t>(Lane, Lane)> {
     static constexpr auto callout = callout::remquo<Lane>;
+    static constexpr int at_a_time = 4;
+
     static TARN_INLINE auto fast(Block<Lane> x, Block<Lane> y) {
         const auto [r, q, correction] = nearest<Lane>(x, y);
         return FlaggedPair{r, to_i32(q) + correction, special<Lane>(x, y, Division<Lane>::large)};

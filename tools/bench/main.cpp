@@ -60,15 +60,19 @@ std::function<void(Buffers&)> ours(const Function& f) {
     };
 }
 
-// A peer's function of one to three vectors of type V, which may be a scalar.
+// Vectors of type V, which may be a scalar, in a buffer.
+template <class V> std::size_t vectors(const Buffers& b) {
+    return elements * static_cast<std::size_t>(bytes(b.result.type())) / sizeof(V);
+}
+
+// A peer's function of one to three vectors. The loop holds the call and nothing that could be outside.
 template <class V> std::function<void(Buffers&)> peer(void* address, std::size_t arity) {
     const auto over = [=](auto call) {
         return [=](Buffers& b) {
             V* out = reinterpret_cast<V*>(b.result.data());
             const V* in[3] = {};
             for (std::size_t a = 0; a < b.args.size(); a++) in[a] = reinterpret_cast<const V*>(b.args[a].data());
-            for (std::size_t i = 0; i < b.result.size() * static_cast<std::size_t>(bytes(b.result.type())) / sizeof(V); i++)
-                out[i] = call(in, i);
+            for (std::size_t i = 0, count = vectors<V>(b); i < count; i++) out[i] = call(in, i);
         };
     };
     if (arity == 1) return over([f = reinterpret_cast<V (*)(V)>(address)](const V* const* in, std::size_t i) { return f(in[0][i]); });
@@ -81,7 +85,7 @@ template <class V> std::function<void(Buffers&)> peer_pair(void* address) {
     struct Two { V first, second; };
     return [f = reinterpret_cast<Two (*)(V)>(address)](Buffers& b) {
         const V* in = reinterpret_cast<const V*>(b.args[0].data());
-        for (std::size_t i = 0; i < elements * static_cast<std::size_t>(bytes(b.result.type())) / sizeof(V); i++) {
+        for (std::size_t i = 0, count = vectors<V>(b); i < count; i++) {
             const Two both = f(in[i]);
             reinterpret_cast<V*>(b.result.data())[i] = both.first;
             reinterpret_cast<V*>(b.second.data())[i] = both.second;

@@ -21,6 +21,9 @@ template <int width, class R, class Second, bool pair, class... A> struct Caller
         return reinterpret_cast<const Vec<T, width>*>(from)[call];
     }
 
+    // Where a result goes: initialised by the call itself, a vector in memory is written there at once.
+    static Vec<R, width>& store(std::byte* to, std::size_t call) { return reinterpret_cast<Vec<R, width>*>(to)[call]; }
+
     template <std::size_t... i>
     static void calls(void* address, const std::byte* const* args, std::byte* result, std::byte* second,
                       std::size_t count, std::index_sequence<i...>) {
@@ -30,19 +33,14 @@ template <int width, class R, class Second, bool pair, class... A> struct Caller
                 const auto both = reinterpret_cast<F>(address)(load<A>(args[i], call)...);
                 std::memcpy(result + call * sizeof both.sine, &both.sine, sizeof both.sine);
                 std::memcpy(second + call * sizeof both.cosine, &both.cosine, sizeof both.cosine);
+            } else if constexpr (std::is_void_v<Second>) {
+                using F = Vec<R, width> (*)(Vec<A, width>...);
+                new (&store(result, call)) Vec<R, width>(reinterpret_cast<F>(address)(load<A>(args[i], call)...));
             } else {
-                const auto r = [&] {
-                    if constexpr (std::is_void_v<Second>) {
-                        using F = Vec<R, width> (*)(Vec<A, width>...);
-                        return reinterpret_cast<F>(address)(load<A>(args[i], call)...);
-                    } else {
-                        using F = Vec<R, width> (*)(Vec<A, width>..., Second*);
-                        return reinterpret_cast<F>(address)(
-                            load<A>(args[i], call)...,
-                            reinterpret_cast<Second*>(second + call * stored_lanes(width) * sizeof(Second)));
-                    }
-                }();
-                std::memcpy(result + call * sizeof r, &r, sizeof r);
+                using F = Vec<R, width> (*)(Vec<A, width>..., Second*);
+                new (&store(result, call)) Vec<R, width>(reinterpret_cast<F>(address)(
+                    load<A>(args[i], call)...,
+                    reinterpret_cast<Second*>(second + call * stored_lanes(width) * sizeof(Second))));
             }
         }
     }

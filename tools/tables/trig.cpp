@@ -2,6 +2,7 @@
 #include "tables/angles.hpp"
 #include "tables/tables.hpp"
 
+#include <bit>
 #include <cmath>
 
 namespace tarn::tables {
@@ -30,7 +31,7 @@ Row angle_row(const Real& value, const Real& factor) {
     return {(factor - Real(power)).nearest(), head, double((value - Real(head)).nearest_float()), power};
 }
 
-// floor(2^(e - 56) * 2/pi) modulo 2^96, most significant word first.
+// floor(2^(e - 56) * 2/pi) modulo 2^96, most significant word first, the halves of the last exchanged.
 Row two_over_pi_96_row(int e) {
     const Real word = Real(0x1p32);
     const auto modulo = [](const Real& v, const Real& m) { return v - floor(v / m) * m; };
@@ -41,6 +42,7 @@ Row two_over_pi_96_row(int e) {
         row[i] = static_cast<std::uint32_t>(modulo(v, word).nearest());
         v = floor(v / word);
     }
+    row[2] = std::rotl(std::get<std::uint32_t>(row[2]), 16);
     return row;
 }
 
@@ -91,7 +93,7 @@ Row tangent_row(int j) {
 const Register trig_tables({
     {"two_over_pi_96",
      "row e of 256, for a float's exponent field: floor(2^(e - 56) * 2/pi) modulo 2^96, most significant word first, "
-     "and a word of padding.",
+     "the halves of the last word exchanged, and a word of padding.",
      each_row(256, two_over_pi_96_row)},
     {"two_over_pi_25",
      "row k of 50: bits 25(k-1)+1 to 25k of 2/pi as an integer times 2^(201 - 25k); row 0 is 0.",

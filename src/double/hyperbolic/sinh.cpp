@@ -24,6 +24,7 @@ constexpr std::uint32_t bound = 0x40861D99;               // below 707.700195312
 
 struct Sinh : Kernel<double(double)> {
     static constexpr auto callout = callout::sinh;
+    static constexpr int at_a_time = 8;
 
     static constexpr f64x2 scale = splat_f64(0x40671547652B82FE);           // 184.6649652337873 = 128/ln 2
     static constexpr f64x2 ln2_128th_head = splat_f64(0x3F762E42FEFA0000);  // 0.005415212348111709

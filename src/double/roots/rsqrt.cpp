@@ -11,6 +11,7 @@ namespace {
 
 struct Rsqrt : Kernel<double(double)> {
     static constexpr auto callout = callout::rsqrt;
+    static constexpr int at_a_time = 4;  // the root and the division take their turns
     static constexpr std::uint32_t lowest = 0x07B00000;  // of 2^-900: below, residuals reach the end of the range
 
     static TARN_INLINE auto fast(f64x2 x) { return Flagged{corrected_rsqrt(x), below_or_not_finite(x, lowest)}; }

@@ -34,6 +34,7 @@ TARN_INLINE Step step(f64x2 x) {
 }
 
 struct Erf : Kernel<double(double)> {
+    static constexpr int at_a_time = 4;
     static constexpr f64x2 k1 = splat_f64(0xBFA6C16DB05BDEA5);  // -0.044444492128545655
     static constexpr f64x2 k2 = splat_f64(0x3FC1111235A363B1);  // 0.13333346957258876
     static constexpr f64x2 k3 = splat_f64(0xBFD55555555547F6);  // -0.3333333333331433

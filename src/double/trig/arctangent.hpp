@@ -90,16 +90,13 @@ struct HalfTurnsNative : HalfTurns {
     static TARN_INLINE f64x2 from(f64x2 base, f64x2 t) { return base + (t + t * short_rest(t)) * inv_pi; }
 };
 
-// arctan x: of |x| or, from the quarter turn, of its reciprocal. The order of the minimum and the maximum
-// makes a NaN come through.
+// arctan x: of |x| or, from the quarter turn, of its reciprocal turned round. The order of the maximum makes a
+// NaN come through.
 template <class Unit> TARN_INLINE f64x2 of(f64x2 x) {
     const f64x2 a = abs(x);
-    const i64x2 sign = sign_bit(x);
-    const f64x2 q = min(a, one) / max(one, a);
     const i64x2 inverted = not_within(x, one);
-    const f64x2 base = xor_bits(where(inverted, Unit::quarter), sign);
-    const f64x2 y = Unit::from(base, xor_bits(q, (inverted & sign_mask_f64) ^ sign));
-    return or_bits(y, sign);  // the tail of 1/pi has a sign of its own, which a zero would take
+    const f64x2 t = select(inverted, splat(-1.0), a) / max(one, a);
+    return or_bits(Unit::from(where(inverted, Unit::quarter), t), sign_bit(x));
 }
 
 // The angle of the point (y, x), mirrored into its quadrant; no value where a coordinate is special.

@@ -66,24 +66,27 @@ struct HalfTurns {
     static TARN_INLINE f64x2 angle(f64x2 v, f64x2 rest, f64x2) { return angle(v, rest); }
 };
 
-// |x| or twice the root, z, and the folded lanes.
+// The folded lanes, their root, and z.
 struct Folded {
-    f64x2 v, z;
     i64x2 upper;
+    f64x2 root, z;
 };
 TARN_INLINE Folded fold(f64x2 a) {
     const f64x2 w = half - half * a;
-    const i64x2 upper = ~(a < half);
-    const f64x2 root = sqrt(w);
-    return {select(upper, root + root, a), min(a * a, w), upper};
+    return {~(a < half), sqrt(w), min(a * a, w)};
 }
+
+constexpr int lanes_by_roots = 4;  // at a time: more only wait for each other's roots
 
 template <class Form, class Unit, callout::UnaryDouble scalar> struct Arcsine : Kernel<double(double)> {
     static constexpr auto callout = scalar;
+    static constexpr int at_a_time = lanes_by_roots;
+
     static TARN_INLINE auto fast(f64x2 x) {
         const f64x2 a = abs(x);
-        const auto [v, z, upper] = fold(a);
-        const f64x2 y = Unit::angle(or_bits(v, upper & sign_mask_f64), Form::rest(z)) + where(upper, Unit::quarter);
+        const auto [upper, root, z] = fold(a);
+        const f64x2 v = select(upper, splat(-2.0) * root, a);
+        const f64x2 y = Unit::angle(v, Form::rest(z)) + where(upper, Unit::quarter);
         return Flagged{xor_bits(y, sign_bit(x)), (i64x2)(a >= one)};
     }
 };
@@ -91,14 +94,16 @@ template <class Form, class Unit, callout::UnaryDouble scalar> struct Arcsine : 
 // From a quarter turn down, or where folded from 0 up or, for a negative x, from half a turn down.
 template <class Form, class Unit, callout::UnaryDouble scalar> struct Arccosine : Kernel<double(double)> {
     static constexpr auto callout = scalar;
+    static constexpr int at_a_time = lanes_by_roots;
+
     static TARN_INLINE auto fast(f64x2 x) {
         const f64x2 a = abs(x);
-        const auto [v, z, upper] = fold(a);
+        const auto [upper, root, z] = fold(a);
         const i64x2 negative = bits(x) >> 63;
         const f64x2 start = select(upper, where(negative, Unit::half_turn), Unit::quarter);
         const f64x2 tail = select(upper, where(negative, Unit::half_turn_tail), Unit::quarter_tail);
-        const f64x2 u = xor_bits(v, sign_bit(x) ^ (~upper & sign_mask_f64));
-        return Flagged{start + Unit::angle(u, Form::rest(z), tail), (i64x2)(a >= one)};
+        const f64x2 v = xor_bits(select(upper, root + root, a), sign_bit(x) ^ (~upper & sign_mask_f64));
+        return Flagged{start + Unit::angle(v, Form::rest(z), tail), (i64x2)(a >= one)};
     }
 };
 

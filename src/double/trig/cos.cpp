@@ -15,11 +15,17 @@ using namespace trig_f64;
 
 constexpr f64x2 half_pi = splat_f64(0x3FF921FB54442D18);  // 1.5707963267948966
 
-// One copy for all widths and variants: inlined, it would be most of the code.
-[[gnu::noinline]] f64x2 large_argument(f64x2 x) { return cosine_from_table(reduce_exactly<Turns>(x)).rounded(); }
+struct LargeArgument : Kernel<double(double)> {
+    static constexpr auto callout = callout::cos;
+    static constexpr int at_a_time = 4;
+
+    static TARN_INLINE auto fast(f64x2 x) {
+        return Flagged{cosine_from_table(reduce_exactly<Turns>(x)).rounded(), is_infinite(x)};
+    }
+};
 
 template <class Form> struct Cos : Kernel<double(double)> {
-    static constexpr auto callout = callout::cos;
+    using long_path = LargeArgument;
 
     static TARN_INLINE auto fast(f64x2 x) {
         const f64x2 v = x + half_pi;
@@ -29,8 +35,6 @@ template <class Form> struct Cos : Kernel<double(double)> {
         const f64x2 y = Form::cosine(xor_bits(r, parity_sign(shifted)), r * r);
         return Flagged{y, (i64x2)(abs(v) > splat(0x1p23))};
     }
-
-    static TARN_INLINE auto long_path(f64x2 x) { return Flagged{large_argument(x), is_infinite(x)}; }
 };
 
 }  // namespace

@@ -13,13 +13,17 @@ namespace {
 
 using namespace trig_f64;
 
-// One copy for all widths and variants: inlined, it would be most of the code.
-[[gnu::noinline]] f64x2 large_argument(f64x2 x) {
-    return xor_bits(sine_from_table(reduce_exactly<Turns>(x)).rounded(), sign_bit(x));
-}
+struct LargeArgument : Kernel<double(double)> {
+    static constexpr auto callout = callout::sin;
+    static constexpr int at_a_time = 4;
+
+    static TARN_INLINE auto fast(f64x2 x) {
+        return Flagged{xor_bits(sine_from_table(reduce_exactly<Turns>(x)).rounded(), sign_bit(x)), is_infinite(x)};
+    }
+};
 
 template <class Form> struct Sin : Kernel<double(double)> {
-    static constexpr auto callout = callout::sin;
+    using long_path = LargeArgument;
 
     static TARN_INLINE auto fast(f64x2 x) {
         const f64x2 a = abs(x);
@@ -29,8 +33,6 @@ template <class Form> struct Sin : Kernel<double(double)> {
         const f64x2 y = Form::sine(xor_bits(r, parity_sign(shifted)), r * r);
         return Flagged{xor_bits(y, sign_bit(x)), (i64x2)(a > splat(0x1p24))};
     }
-
-    static TARN_INLINE auto long_path(f64x2 x) { return Flagged{large_argument(x), is_infinite(x)}; }
 };
 
 }  // namespace

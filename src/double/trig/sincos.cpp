@@ -14,15 +14,20 @@ namespace {
 
 using namespace trig_f64;
 
-// One copy for all widths and variants: inlined, it would be most of the code.
-[[gnu::noinline]] f64x2 large_argument(f64x2 x, f64x2* cosine) {
-    const Reduced angle = reduce_exactly<Turns>(x);
-    *cosine = cosine_from_table(angle).rounded();
-    return xor_bits(sine_from_table(angle).rounded(), sign_bit(x));
-}
+struct LargeArgument : Kernel<Both<double, double>(double)> {
+    static constexpr auto callout = callout::sincos;
+    static constexpr int at_a_time = 4;
+
+    static TARN_INLINE auto fast(f64x2 x) {
+        const Reduced angle = reduce_exactly<Turns>(x);
+        const f64x2 sine = xor_bits(sine_from_table(angle).rounded(), sign_bit(x));
+        return FlaggedPair{sine, cosine_from_table(angle).rounded(), is_infinite(x)};
+    }
+};
 
 template <class Form> struct Sincos : Kernel<Both<double, double>(double)> {
-    static constexpr auto callout = callout::sincos;
+    using long_path = LargeArgument;
+    static constexpr int at_a_time = 8;
 
     static TARN_INLINE auto fast(f64x2 x) {
         const f64x2 a = abs(x);
@@ -37,12 +42,6 @@ template <class Form> struct Sincos : Kernel<Both<double, double>(double)> {
         const f64x2 sine = xor_bits(Form::sine(sine_r, sine_r * sine_r), sign_bit(x));
         const f64x2 cosine = Form::cosine(cosine_r, cosine_r * cosine_r);
         return FlaggedPair{sine, cosine, (i64x2)(a > splat(0x1p23))};
-    }
-
-    static TARN_INLINE auto long_path(f64x2 x) {
-        f64x2 cosine;
-        const f64x2 sine = large_argument(x, &cosine);
-        return FlaggedPair{sine, cosine, is_infinite(x)};
     }
 };
 

@@ -16,8 +16,6 @@ namespace {
 using namespace trig_f64;
 
 template <class Form> struct Sinpi : Kernel<double(double)> {
-    static constexpr auto callout = callout::sinpi;
-
     static TARN_INLINE f64x2 of_magnitude(f64x2 a, f64x2 x) {
         const f64x2 shifted = a + shifter;
         const f64x2 r = (a - (shifted - shifter)) * pi;
@@ -30,9 +28,13 @@ template <class Form> struct Sinpi : Kernel<double(double)> {
         return Flagged{of_magnitude(a, x), (i64x2)(a > splat(0x1p51))};
     }
 
-    static TARN_INLINE auto long_path(f64x2 x) {
-        return Flagged{of_magnitude(without_periods(abs(x)), x), is_infinite(x)};
-    }
+    struct LargeArgument : Kernel<double(double)> {
+        static constexpr auto callout = callout::sinpi;
+        static TARN_INLINE auto fast(f64x2 x) {
+            return Flagged{of_magnitude(without_periods(abs(x)), x), is_infinite(x)};
+        }
+    };
+    using long_path = LargeArgument;
 };
 
 }  // namespace

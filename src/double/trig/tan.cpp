@@ -41,26 +41,31 @@ struct TanNative : TangentNative {
     }
 };
 
-// One copy for all widths and variants: inlined, it would be most of the code.
-[[gnu::noinline]] f64x2 large_argument(f64x2 x) {
-    constexpr f64x2 t3 = splat_f64(0x3FD5555555555555);  // 0.3333333333333333 = 1/3
-    constexpr f64x2 t5 = splat_f64(0x3FC1111111111111);  // 0.13333333333333333 = 2/15
-    constexpr f64x2 t7 = splat_f64(0x3FABA1BA1BA1BA1C);  // 0.05396825396825397 = 17/315
+struct LargeArgument : Kernel<double(double)> {
+    static constexpr auto callout = callout::tan;
+    static constexpr int at_a_time = 4;
 
-    const auto [row, rest] = reduce_exactly<HalfTurns>(x);
-    const auto &row0 = tangent_256ths[row[0]], &row1 = tangent_256ths[row[1]];
-    const auto [head, tail] = columns(row0, row1);
-    const f64x2 slope = {row0[2], row1[2]};
+    static TARN_INLINE auto fast(f64x2 x) {
+        constexpr f64x2 t3 = splat_f64(0x3FD5555555555555);  // 0.3333333333333333 = 1/3
+        constexpr f64x2 t5 = splat_f64(0x3FC1111111111111);  // 0.13333333333333333 = 2/15
+        constexpr f64x2 t7 = splat_f64(0x3FABA1BA1BA1BA1C);  // 0.05396825396825397 = 17/315
 
-    const f64x2 r = rest.head, z = r * r;
-    const f64x2 t = r + (horner(z, t7, t5, t3) * z * r + rest.tail);
-    const i64x2 pole = (i64x2)(row == 128);
-    const f64x2 y = head + (tail + select(pole, splat(-1.0), slope * t) / select(pole, t, one - head * t));
-    return xor_bits(y, sign_bit(x));
-}
+        const auto [row, rest] = reduce_exactly<HalfTurns>(x);
+        const auto &row0 = tangent_256ths[row[0]], &row1 = tangent_256ths[row[1]];
+        const auto [head, tail] = columns(row0, row1);
+        const f64x2 slope = {row0[2], row1[2]};
+
+        const f64x2 r = rest.head, z = r * r;
+        const f64x2 t = r + (horner(z, t7, t5, t3) * z * r + rest.tail);
+        const i64x2 pole = (i64x2)(row == 128);
+        const f64x2 y = head + (tail + select(pole, splat(-1.0), slope * t) / select(pole, t, one - head * t));
+        return Flagged{xor_bits(y, sign_bit(x)), is_infinite(x)};
+    }
+};
 
 template <class Form> struct Tan : Kernel<double(double)> {
-    static constexpr auto callout = callout::tan;
+    using long_path = LargeArgument;
+    static constexpr int at_a_time = 4;
 
     static TARN_INLINE auto fast(f64x2 x) {
         const f64x2 a = abs(x);
@@ -69,8 +74,6 @@ template <class Form> struct Tan : Kernel<double(double)> {
         const f64x2 y = tangent_quotient<Form>(Form::reduced(a, shifted - shifter), parity);
         return Flagged{xor_bits(y, sign_bit(x) ^ parity), (i64x2)(a > limit)};
     }
-
-    static TARN_INLINE auto long_path(f64x2 x) { return Flagged{large_argument(x), is_infinite(x)}; }
 };
 
 }  // namespace

@@ -20,7 +20,7 @@ using namespace trig_f64;
 constexpr f64x2 half_shifter = splat_f64(0x4328000000000000);  // 3377699720527872.0 = 1.5 * 2^51: rounds to halves
 
 template <class Form> struct Tanpi : Kernel<double(double)> {
-    static constexpr auto callout = callout::tanpi;
+    static constexpr int at_a_time = 8;
 
     static TARN_INLINE f64x2 of_magnitude(f64x2 a, f64x2 x) {
         const f64x2 shifted = a + half_shifter;
@@ -39,9 +39,13 @@ template <class Form> struct Tanpi : Kernel<double(double)> {
         return Flagged{of_magnitude(a, x), (i64x2)(a > splat(0x1p50))};
     }
 
-    static TARN_INLINE auto long_path(f64x2 x) {
-        return Flagged{of_magnitude(without_periods(abs(x)), x), is_infinite(x)};
-    }
+    struct LargeArgument : Kernel<double(double)> {
+        static constexpr auto callout = callout::tanpi;
+        static TARN_INLINE auto fast(f64x2 x) {
+            return Flagged{of_magnitude(without_periods(abs(x)), x), is_infinite(x)};
+        }
+    };
+    using long_path = LargeArgument;
 };
 
 }  // namespace

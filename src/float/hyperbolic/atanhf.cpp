@@ -13,7 +13,7 @@ namespace tarn {
 namespace {
 
 constexpr f32x4 one = splat(1.0f), half = splat(0.5f);
-constexpr f32x4 ln2 = splat_f32(0x3F317218);  // 0.6931471824645996
+constexpr f32x4 ln2 = factor_of_exponent(0x3F317218);  // 0.6931471824645996
 
 TARN_INLINE f32x4 upper_12_bits(f32x4 x) { return from_bits(bits(x) & splat_i32(0xFFFFF000)); }
 
@@ -68,7 +68,7 @@ template <class Form> struct Atanhf : Kernel<float(float)> {
         const f32x4 sum = larger + smaller;
         const f32x4 tail = (smaller - (sum - larger)) + rest;
         const auto [exponent, r_of_sum] = split_at_two_thirds(sum);
-        const f32x4 r = r_of_sum + tail * from_bits(bits(one) - (exponent << 23));
+        const f32x4 r = r_of_sum + tail * from_bits(bits(one) - exponent);
         const f32x4 y = to_f32(exponent) * ln2 + Form::log_m(r);
         // Outside [tiny, 1), in one wrapping sum.
         const i32x4 special = bits(a) + splat_i32(0x80000000 - tiny) >= splat_i32(0x80000000 + 0x3F800000 - tiny);

@@ -14,6 +14,8 @@ namespace {
 
 struct Tanhf : Kernel<float(float)> {
     static constexpr auto callout = callout::tanhf;
+    static constexpr int at_a_time = 8;
+
     static constexpr i32x4 first = splat_i32(0x3CF80000);  // where row 1 would begin, less one part
     static constexpr i32x4 last = splat_i32(0x04280000);   // 133 parts on
 
@@ -26,9 +28,8 @@ struct Tanhf : Kernel<float(float)> {
 
     static TARN_INLINE auto fast(f32x4 x) {
         const i32x4 top = bits(x) & splat_i32(0x7FF80000);
-        const i32x4 part = top - first;
-        const i32x4 row = min(max(part, splat(0)), last) >> 19;
-        const auto [i, j, k, l] = rows(row).row;
+        const i32x4 part = min(difference_from_zero(top, first), last);
+        const auto [i, j, k, l] = rows(part, 19).row;
         const f32x4 a = abs(x);
         const f32x4 y = narrow(cubic(widen_low(a), tanhf_cubics[i], tanhf_cubics[j]),
                                cubic(widen_high(a), tanhf_cubics[k], tanhf_cubics[l]));

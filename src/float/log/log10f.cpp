@@ -13,8 +13,8 @@ namespace {
 struct Log10f : Kernel<float(float)> {
     static constexpr auto callout = callout::log10f;
 
-    static constexpr f32x4 log10_2_head = splat_f32(0x3E9A2100);  // 0.30103302001953125
-    static constexpr f32x4 log10_2_tail = splat_f32(0xB64AF600);  // -3.0243536457419395e-06
+    static constexpr f32x4 log10_2_head = factor_of_exponent(0x3E9A2100);  // 0.30103302001953125
+    static constexpr f32x4 log10_2_tail = factor_of_exponent(0xB64AF600);  // -3.0243536457419395e-06
     static constexpr f32x4 p[9] = {
         splat_f32(0x3EDE5BD9),  // 0.4342944920063019
         splat_f32(0xBE5E5BC5),  // -0.21714694797992706
@@ -37,12 +37,12 @@ struct Log10f : Kernel<float(float)> {
 struct Log10fNative : Kernel<float(float)> {
     static constexpr auto callout = callout::log10f;
 
-    static constexpr f32x4 log10_2 = splat_f32(0x3E9A209B);  // 0.3010300099849701
-    static constexpr f32x4 p5 = splat_f32(0x3DCDC127);       // 0.10046606510877609
-    static constexpr f32x4 p4 = splat_f32(0xBDF4ED71);       // -0.11959350854158401
-    static constexpr f32x4 p3 = splat_f32(0x3E137DBE);       // 0.14403435587882996
-    static constexpr f32x4 p2 = splat_f32(0xBE5E0922);       // -0.21683171391487122
-    static constexpr f32x4 p1 = splat_f32(0x3EDE5CAE);       // 0.43430083990097046
+    static constexpr f32x4 log10_2 = factor_of_exponent(0x3E9A209B);  // 0.3010300099849701
+    static constexpr f32x4 p5 = splat_f32(0x3DCDC127);                // 0.10046606510877609
+    static constexpr f32x4 p4 = splat_f32(0xBDF4ED71);                // -0.11959350854158401
+    static constexpr f32x4 p3 = splat_f32(0x3E137DBE);                // 0.14403435587882996
+    static constexpr f32x4 p2 = splat_f32(0xBE5E0922);                // -0.21683171391487122
+    static constexpr f32x4 p1 = splat_f32(0x3EDE5CAE);                // 0.43430083990097046
 
     static TARN_INLINE auto fast(f32x4 x) {
         const auto [exponent, r] = split_at_two_thirds(x);

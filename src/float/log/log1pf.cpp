@@ -57,17 +57,17 @@ struct Log1pf : Kernel<float(float)> {
 struct Log1pfNative : Kernel<float(float)> {
     static constexpr auto callout = callout::log1pf;
 
-    static constexpr f32x4 ln2 = splat_f32(0x3F317218);  // 0.6931471824645996
-    static constexpr f32x4 q3 = splat_f32(0x3E612933);   // 0.2198837250471115
-    static constexpr f32x4 q2 = splat_f32(0xBE88E8FE);   // -0.2674025893211365
-    static constexpr f32x4 q1 = splat_f32(0x3EAA7160);   // 0.33289623260498047
+    static constexpr f32x4 ln2 = factor_of_exponent(0x3F317218);  // 0.6931471824645996
+    static constexpr f32x4 q3 = splat_f32(0x3E612933);            // 0.2198837250471115
+    static constexpr f32x4 q2 = splat_f32(0xBE88E8FE);            // -0.2674025893211365
+    static constexpr f32x4 q1 = splat_f32(0x3EAA7160);            // 0.33289623260498047
     static constexpr f32x4 q0 = splat(-0.5f);
 
     static TARN_INLINE auto fast(f32x4 x) {
         const f32x4 s = one + x;
         const f32x4 e = (max(one, x) - s) + min(one, x);
         const auto [exponent, r_of_s] = split_at_two_thirds(s);
-        const f32x4 r = r_of_s + e * from_bits(bits(one) - (exponent << 23));
+        const f32x4 r = r_of_s + e * from_bits(bits(one) - exponent);
         const f32x4 y = to_f32(exponent) * ln2 + log1p_polynomial(r, q3, q2, q1, q0);
         // In one wrapping sum: 1 + x outside [2^-126, 2^127).
         const i32x4 special = (i32x4)((u32x4)s + (u32x4)splat_i32(0x01000000)) < splat_i32(0x01800000);

@@ -26,7 +26,7 @@ struct Log2f : Kernel<float(float)> {
 
     static TARN_INLINE auto fast(f32x4 x) {
         const auto [exponent, r] = split_at_two_thirds(x);
-        return Flagged{degree_9(r, p) + to_f32(exponent), not_positive_normal(x)};
+        return Flagged{degree_9(r, p) + to_f32(exponent >> 23), not_positive_normal(x)};
     }
 };
 
@@ -41,7 +41,7 @@ struct Log2fNative : Kernel<float(float)> {
 
     static TARN_INLINE auto fast(f32x4 x) {
         const auto [exponent, r] = split_at_two_thirds(x);
-        return Flagged{to_f32(exponent) + horner(r, p5, p4, p3, p2, p1) * r, not_positive_normal(x)};
+        return Flagged{to_f32(exponent >> 23) + horner(r, p5, p4, p3, p2, p1) * r, not_positive_normal(x)};
     }
 };
 

@@ -11,9 +11,9 @@
 namespace tarn {
 namespace {
 
-constexpr f32x4 ln2_head = splat_f32(0x3F317200);  // 0.693145751953125
-constexpr f32x4 ln2_tail = splat_f32(0x35BFBE8E);  // 1.428606765330187e-06
-constexpr f32x4 ln2 = splat_f32(0x3F317218);       // 0.6931471824645996
+constexpr f32x4 ln2_head = factor_of_exponent(0x3F317200);  // 0.693145751953125
+constexpr f32x4 ln2_tail = factor_of_exponent(0x35BFBE8E);  // 1.428606765330187e-06
+constexpr f32x4 ln2 = factor_of_exponent(0x3F317218);       // 0.6931471824645996
 constexpr f32x4 q0 = splat(-0.5f);
 
 struct Logf : Kernel<float(float)> {

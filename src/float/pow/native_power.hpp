@@ -20,13 +20,13 @@ struct NativeIntegerExp {
 };
 
 TARN_INLINE f32x4 native_power_log(f32x4 x) {
-    const f32x4 ln2_head = splat_f32(0x3F317200);  // 0.693145751953125
-    const f32x4 ln2_tail = splat_f32(0x35BFBE8E);  // 1.428606765330187e-06
-    const f32x4 q5 = splat_f32(0x3E2B350C);        // 0.16719454526901245
-    const f32x4 q4 = splat_f32(0xBE424B46);        // -0.18974027037620544
-    const f32x4 q3 = splat_f32(0x3E4B62C0);        // 0.19861888885498047
-    const f32x4 q2 = splat_f32(0xBE7F0F0F);        // -0.24908088147640228
-    const f32x4 q1 = splat_f32(0x3EAAAD03);        // 0.3333512246608734
+    const f32x4 ln2_head = factor_of_exponent(0x3F317200);  // 0.693145751953125
+    const f32x4 ln2_tail = factor_of_exponent(0x35BFBE8E);  // 1.428606765330187e-06
+    const f32x4 q5 = splat_f32(0x3E2B350C);                 // 0.16719454526901245
+    const f32x4 q4 = splat_f32(0xBE424B46);                 // -0.18974027037620544
+    const f32x4 q3 = splat_f32(0x3E4B62C0);                 // 0.19861888885498047
+    const f32x4 q2 = splat_f32(0xBE7F0F0F);                 // -0.24908088147640228
+    const f32x4 q1 = splat_f32(0x3EAAAD03);                 // 0.3333512246608734
     const f32x4 q0 = splat(-0.5f);
     const auto [exponent, r] = split_at_two_thirds(x);
     const f32x4 k = to_f32(exponent);

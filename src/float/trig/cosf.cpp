@@ -15,11 +15,17 @@ namespace {
 
 constexpr float half_pi = f32(0x3FC90FDB);  // 1.5707963705062866
 
-// One copy for all widths and variants: inlined, it would be most of the code.
-[[gnu::noinline]] f32x4 large_argument(f32x4 x) { return from_angle_table(cosine_256ths, reduce_exactly<Turns>(x)); }
+struct LargeArgument : Kernel<float(float)> {
+    static constexpr auto callout = callout::cosf;
+    static constexpr int at_a_time = 8;
+
+    static TARN_INLINE auto fast(f32x4 x) {
+        return Flagged{from_angle_table(cosine_256ths, reduce_exactly<Turns>(x)), not_finite(x)};
+    }
+};
 
 template <class Form> struct Cosf : Kernel<float(float)> {
-    static constexpr auto callout = callout::cosf;
+    using long_path = LargeArgument;
     static constexpr bool any_blocks = true;
 
     template <class V> static TARN_INLINE auto fast(V x) {
@@ -30,8 +36,6 @@ template <class Form> struct Cosf : Kernel<float(float)> {
         const V y = Form::polynomial(xor_bits(r, parity_sign(shifted)), r * r);
         return Flagged{y, abs(x) > limit};
     }
-
-    static TARN_INLINE auto long_path(f32x4 x) { return Flagged{large_argument(x), not_finite(x)}; }
 };
 
 }  // namespace

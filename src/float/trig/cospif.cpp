@@ -15,8 +15,6 @@ namespace tarn {
 namespace {
 
 template <class Form> struct Cospif : Kernel<float(float)> {
-    static constexpr auto callout = callout::cospif;
-
     static TARN_INLINE f32x4 of_magnitude(f32x4 a) {
         const f32x4 shifted = (a + sine::half) + sine::shifter;
         const f32x4 m = (shifted - sine::shifter) - sine::half;
@@ -29,9 +27,13 @@ template <class Form> struct Cospif : Kernel<float(float)> {
         return Flagged{of_magnitude(a), a > splat(0x1p22f)};
     }
 
-    static TARN_INLINE auto long_path(f32x4 x) {
-        return Flagged{of_magnitude(without_periods(abs(x))), not_finite(x)};
-    }
+    struct LargeArgument : Kernel<float(float)> {
+        static constexpr auto callout = callout::cospif;
+        static TARN_INLINE auto fast(f32x4 x) {
+            return Flagged{of_magnitude(without_periods(abs(x))), not_finite(x)};
+        }
+    };
+    using long_path = LargeArgument;
 };
 
 }  // namespace

@@ -13,15 +13,18 @@
 namespace tarn {
 namespace {
 
-// One copy for all widths and variants: inlined, it would be most of the code.
-[[gnu::noinline]] f32x4 large_argument(f32x4 x, f32x4* cosine) {
-    const Reduced angle = reduce_exactly<Turns>(x);
-    *cosine = from_angle_table(cosine_256ths, angle);
-    return from_angle_table(sine_256ths, angle);
-}
+struct LargeArgument : Kernel<Both<float, float>(float)> {
+    static constexpr auto callout = callout::sincosf;
+    static constexpr int at_a_time = 8;
+
+    static TARN_INLINE auto fast(f32x4 x) {
+        const Reduced angle = reduce_exactly<Turns>(x);
+        return FlaggedPair{from_angle_table(sine_256ths, angle), from_angle_table(cosine_256ths, angle), not_finite(x)};
+    }
+};
 
 template <class Form> struct Sincosf : Kernel<Both<float, float>(float)> {
-    static constexpr auto callout = callout::sincosf;
+    using long_path = LargeArgument;
     static constexpr bool any_blocks = true;
 
     template <class V> static TARN_INLINE auto fast(V x) {
@@ -38,12 +41,6 @@ template <class Form> struct Sincosf : Kernel<Both<float, float>(float)> {
         const V sine = xor_bits(Form::polynomial(sine_r, sine_r * sine_r), sign_bit(x));
         const V cosine = Form::polynomial(cosine_r, cosine_r * cosine_r);
         return FlaggedPair{sine, cosine, a > limit};
-    }
-
-    static TARN_INLINE auto long_path(f32x4 x) {
-        f32x4 cosine;
-        const f32x4 sine = large_argument(x, &cosine);
-        return FlaggedPair{sine, cosine, not_finite(x)};
     }
 };
 

@@ -13,11 +13,17 @@
 namespace tarn {
 namespace {
 
-// One copy for all widths and variants: inlined, it would be most of the code.
-[[gnu::noinline]] f32x4 large_argument(f32x4 x) { return from_angle_table(sine_256ths, reduce_exactly<Turns>(x)); }
+struct LargeArgument : Kernel<float(float)> {
+    static constexpr auto callout = callout::sinf;
+    static constexpr int at_a_time = 8;
+
+    static TARN_INLINE auto fast(f32x4 x) {
+        return Flagged{from_angle_table(sine_256ths, reduce_exactly<Turns>(x)), not_finite(x)};
+    }
+};
 
 template <class Form> struct Sinf : Kernel<float(float)> {
-    static constexpr auto callout = callout::sinf;
+    using long_path = LargeArgument;
     static constexpr bool any_blocks = true;
 
     template <class V> static TARN_INLINE auto fast(V x) {
@@ -29,8 +35,6 @@ template <class Form> struct Sinf : Kernel<float(float)> {
         const V y = Form::polynomial(xor_bits(r, parity_sign(shifted)), r * r);
         return Flagged{xor_bits(y, sign_bit(x)), a > limit};
     }
-
-    static TARN_INLINE auto long_path(f32x4 x) { return Flagged{large_argument(x), not_finite(x)}; }
 };
 
 }  // namespace

@@ -15,8 +15,6 @@ namespace tarn {
 namespace {
 
 template <class Form> struct Sinpif : Kernel<float(float)> {
-    static constexpr auto callout = callout::sinpif;
-
     static TARN_INLINE f32x4 of_magnitude(f32x4 a, f32x4 x) {
         const f32x4 shifted = a + sine::shifter;
         const f32x4 r = (a - (shifted - sine::shifter)) * pi;
@@ -29,9 +27,13 @@ template <class Form> struct Sinpif : Kernel<float(float)> {
         return Flagged{of_magnitude(a, x), a > splat(0x1p22f)};
     }
 
-    static TARN_INLINE auto long_path(f32x4 x) {
-        return Flagged{of_magnitude(without_periods(abs(x)), x), not_finite(x)};
-    }
+    struct LargeArgument : Kernel<float(float)> {
+        static constexpr auto callout = callout::sinpif;
+        static TARN_INLINE auto fast(f32x4 x) {
+            return Flagged{of_magnitude(without_periods(abs(x)), x), not_finite(x)};
+        }
+    };
+    using long_path = LargeArgument;
 };
 
 }  // namespace

@@ -40,14 +40,19 @@ struct Native {
     static TARN_INLINE f32x4 value(Quotient y) { return y.numerator * reciprocal_estimate(y.denominator); }
 };
 
-// One copy for all widths and variants: inlined, it would be most of the code.
-[[gnu::noinline]] f32x4 large_argument(f32x4 x) {
-    const Reduced angle = reduce_exactly<HalfTurns>(x);
-    return select(x == splat(0.0f), x, from_tangent_table(angle.row, angle.head, angle.tail));
-}
+struct LargeArgument : Kernel<float(float)> {
+    static constexpr auto callout = callout::tanf;
+    static constexpr int at_a_time = 8;
+
+    static TARN_INLINE auto fast(f32x4 x) {
+        const Reduced angle = reduce_exactly<HalfTurns>(x);
+        const f32x4 y = from_tangent_table(angle.row, angle.head, angle.tail);
+        return Flagged{select(x == splat(0.0f), x, y), not_finite(x)};
+    }
+};
 
 template <class Form> struct Tanf : Kernel<float(float)> {
-    static constexpr auto callout = callout::tanf;
+    using long_path = LargeArgument;
 
     static TARN_INLINE auto fast(f32x4 x) {
         const f32x4 a = abs(x);
@@ -57,8 +62,6 @@ template <class Form> struct Tanf : Kernel<float(float)> {
         const f32x4 y = Form::value(tangent_quotient(r, parity));
         return Flagged{xor_bits(y, sign_bit(x) ^ parity), a > limit};
     }
-
-    static TARN_INLINE auto long_path(f32x4 x) { return Flagged{large_argument(x), not_finite(x)}; }
 };
 
 }  // namespace

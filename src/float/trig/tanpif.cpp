@@ -20,6 +20,7 @@ constexpr f32x4 zero = splat(0.0f);
 
 struct Tanpif : Kernel<float(float)> {
     static constexpr auto callout = callout::tanpif;
+    static constexpr int at_a_time = 8;
 
     static constexpr f32x4 shifter = splat_f32(0x47C00000);  // 98304.0 = 1.5 * 2^16: rounds to 128ths
 

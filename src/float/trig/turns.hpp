@@ -2,9 +2,8 @@
 // grid and the remainder in radians as head and tail.
 //
 // x = m 2^(e-150) with a significand m of 24 bits. Row e of two_over_pi_96 holds as many bits of 2/pi as matter:
-// those above give whole turns, those below vanish. The product with m is formed in columns of 16
-// bits, because the instruction set multiplies lanes of 32 bits only; its bits 32 to 95 are the
-// fraction of a turn.
+// those above give whole turns, those below vanish. Bits 32 to 95 of the product with m are the fraction of
+// a turn.
 #pragma once
 
 #include "frame/simd.hpp"
@@ -43,32 +42,23 @@ struct Fraction {
     u32x4 high, low;
 };
 
-// The 64 bits after the binary point of |x| / (2 pi). Products below bit 32 are left out but for what
-// they carry, as they change nothing above 2^-63.
+// The 64 bits after the binary point of |x| / (2 pi). Of the row's last word the products of 16 by 16 bits
+// that begin at bit 32 count and those at bit 16 but for their low half, as the rest changes nothing above 2^-63.
 TARN_INLINE Fraction fraction_of_turn(f32x4 x) {
     const i32x4 exponent = shift_right_logical(bits(abs(x)), 23);
     const auto row = gather_quads(two_over_pi_96, exponent);
     const u32x4 m = (u32x4)((bits(x) & splat_i32(0x007FFFFF)) + splat_i32(0x00800000));
-    const u32x4 m_high = m >> 16, m_low = m & 0xFFFF;
-    const u32x4 t0 = (u32x4)row.first, t1 = (u32x4)row.second, t2 = (u32x4)row.third;
-    const u32x4 t0_high = t0 >> 16, t0_low = t0 & 0xFFFF;
-    const u32x4 t1_high = t1 >> 16, t1_low = t1 & 0xFFFF;
-    const u32x4 t2_high = t2 >> 16, t2_low = t2 & 0xFFFF;
-    const u32x4 p0 = m_low * t2_high, p1 = m_low * t1_low, p2 = m_low * t1_high;
-    const u32x4 p3 = m_low * t0_low, p4 = m_low * t0_high;
-    const u32x4 k0 = (p1 & 0xFFFF) + m_high * t2_high + (p0 >> 16) + ((m_high * t2_low) >> 16);
-    const u32x4 k1 = (k0 >> 16) + (p2 & 0xFFFF) + m_high * t1_low + (p1 >> 16);
-    const u32x4 k2 = (k1 >> 16) + (p3 & 0xFFFF) + m_high * t1_high + (p2 >> 16);
-    const u32x4 k3 = (k2 >> 16) + (p4 & 0xFFFF) + m_high * t0_low + (p3 >> 16);
-    return {(k3 << 16) + (k2 & 0xFFFF), (k1 << 16) + (k0 & 0xFFFF)};
+    const u32x4 t0 = (u32x4)row.first, t1 = (u32x4)row.second, t2_exchanged = (u32x4)row.third;
+    const u32x4 crossed = multiply_halves(m, t2_exchanged);
+    const u32x4 last = (m >> 16) * (t2_exchanged & 0xFFFF) + (crossed >> 16) + (crossed & 0xFFFF);
+    const u64x2 even = multiply_words((u64x2)m, (u64x2)t1) + ((u64x2)last & 0xFFFFFFFF);
+    const u64x2 odd = multiply_words((u64x2)m >> 32, (u64x2)t1 >> 32) + ((u64x2)last >> 32);
+    return {m * t0 + woven_high_words(even, odd), woven_low_words(even, odd)};
 }
 
 template <class Unit> TARN_INLINE Reduced reduce_exactly(f32x4 x) {
-    auto [high, low] = fraction_of_turn(x);
-    if constexpr (Unit::doublings == 1) {
-        high = high << 1 | low >> 31;
-        low = low << 1;
-    }
+    const auto [high, low] = fraction_of_turn(x);
+    constexpr int d = Unit::doublings;
 
     // The fraction as three floats of 23, 23 and 18 bits with the sign of x, each made by writing its
     // bits below a leading one and subtracting that.
@@ -77,9 +67,9 @@ template <class Unit> TARN_INLINE Reduced reduce_exactly(f32x4 x) {
     const auto value = [&](u32x4 bits_below, std::uint32_t power) __attribute__((always_inline)) {
         return (f32x4)(bits_below | leading(power)) - (f32x4)leading(power);
     };
-    const f32x4 one_and_top = (f32x4)(high >> 9 | leading(0x3F800000));              // 1.0 and 2^-23 units
-    const f32x4 middle = value((high & 0x1FF) << 14 | low >> 18, 0x34000000);        // 2^-23
-    const f32x4 last = value((low & 0x3FFFF) << 5, 0x28800000);                      // 2^-46
+    const f32x4 one_and_top = (f32x4)((high << d) >> 9 | leading(0x3F800000));                 // 1.0 and 2^-23 units
+    const f32x4 middle = value((high & 0x1FF >> d) << (14 + d) | low >> (18 - d), 0x34000000);  // 2^-23
+    const f32x4 last = value((low & 0x3FFFF >> d) << (5 + d), 0x28800000);                     // 2^-46
     const f32x4 shifted = one_and_top + Unit::shifter;
     const f32x4 top = one_and_top - (shifted - Unit::shifter);
 
