@@ -43,15 +43,17 @@ protected:
             const std::uint64_t expected = truth(i, other);
             ASSERT_TRUE(same(result.type(), result.pattern(i), expected))
                 << base(name) << '(' << lanes_text(args, i) << ") = " << hex(result.pattern(i)) << ", not " << hex(expected);
-            if (second.size())
+            if (second.size()) {
                 ASSERT_TRUE(same(second.type(), second.pattern(i), other))
                     << base(name) << '(' << lanes_text(args, i) << ") stores " << hex(second.pattern(i)) << ", not " << hex(other);
+            }
             // A NaN is never a signalling one, unless its bits alone were asked for.
             const bool nan = is_float(result.type()) && std::isnan(value_of(result.type(), expected));
             const bool bits_only = base(name) == base("fabs") || base(name) == base("copysign");
-            if (nan && !bits_only)
+            if (nan && !bits_only) {
                 ASSERT_TRUE(result.pattern(i) & (sizeof(Real) == 4 ? 0x00400000 : 0x0008000000000000))
                     << base(name) << '(' << lanes_text(args, i) << ") is a signalling NaN";
+            }
         }
     }
     static std::vector<Lanes> one(const std::vector<std::uint64_t>& x) {
