@@ -71,7 +71,7 @@ const Scalar scalars[] = {
     unary("tgamma", &tgamma, 0.529), unary("lgamma", &lgamma, 0.689),
     unary("sinpi", &sinpi, 0.52), unary("cospi", &cospi, 0.52), unary("tanpi", &tanpi, 0.52),
     unary("asin", &asin, 0.53), unary("acos", &acos, 0.53), unary("asinpi", &asinpi, 0.751), unary("acospi", &acospi, 0.53),
-    binary("atan2", &atan2, 4.9), binary("atan2pi", &atan2pi, 4.7),
+    binary("atan2", &atan2, 1.99), binary("atan2pi", &atan2pi, 2.32),
     unary("sinh", &sinh, 0.72), unary("cosh", &cosh, 0.52), unary("tanh", &tanh, 0.59),
     unary("asinh", &asinh, 0.51), unary("acosh", &acosh, 0.51), unary("atanh", &atanh, 0.51),
     unary("erfc", &erfc, 1.3),

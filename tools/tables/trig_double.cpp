@@ -42,6 +42,18 @@ Row tangent_row(int j) {
     return {head, (t - Real(head)).nearest(), (Real(1) + t * t).nearest()};
 }
 
+// The angle of node c = k/32 in octant o of the upper half plane, from the axis it is next to: tail and head, and the
+// slope of the arctangent at c.
+Row octant_row(int i, const Real& half_turn) {
+    const int octant = i / 33, k = i % 33;
+    static const double axes[] = {0, 0.5, 1, 0.5}, signs[] = {1, -1, -1, 1};
+    const Real c = Real(k) / Real(32);
+    const Real node = k == 0 ? Real(0) : k == 32 ? half_turn / Real(4) : Real::apply(mpfr_atan, c) * (half_turn / Real::pi());
+    const Real angle = half_turn * Real(axes[octant]) + Real(signs[octant]) * node;
+    const double head = angle.nearest();
+    return {(angle - Real(head)).nearest(), head, (Real(1) / (Real(1) + c * c)).nearest(), 0.0};
+}
+
 const Register double_trig_tables({
     {"reciprocal_two_pi_192",
      "row e of 2048, for a double's exponent field: floor(2^(e - 883) / (2 pi)) modulo 2^192, most significant word "
@@ -55,6 +67,11 @@ const Register double_trig_tables({
      "row j of 256, at theta = pi j/256: T = tan theta rounded, what that leaves, and 1 + T^2; row 128, the pole, "
      "is zero.",
      each_row(256, tangent_row)},
+    {"octant_angles",
+     "row 33 o + k of 132, for c = k/32 in octant o: what rounding leaves of arctan c, pi/2 - arctan c, pi - arctan c, "
+     "pi/2 + arctan c; those rounded; 1/(1 + c^2), and 0.",
+     each_row(132, [](int i) { return octant_row(i, Real::pi()); })},
+    {"octant_half_turns", "the same with the angles over pi.", each_row(132, [](int i) { return octant_row(i, Real(1)); })},
 });
 
 }  // namespace

@@ -1,5 +1,5 @@
-// arctan t for |t| <= 1, added to a base, in radians and in half turns: an even polynomial of degree 38
-// (native: 18) in four interleaved halves.
+// arctan t for |t| <= 1, added to a base, by an even polynomial: of degree 38 in four interleaved parts, in radians at
+// width 2, and of degree 18 for the native forms of one argument. All else has nodes (arctangent_nodes.hpp).
 #pragma once
 
 #include "frame/simd.hpp"
@@ -38,7 +38,7 @@ TARN_INLINE Chains chains(f64x2 t) {
             horner(z, a19, a15, a11, a7, a3) * (s4 * s2), horner(z, a18, a14, a10, a6, a2) * s4};
 }
 
-// The short polynomial of the native forms, the same without its leading 1.
+// The short polynomial, the same without its leading 1.
 TARN_INLINE f64x2 short_rest(f64x2 t) {
     constexpr f64x2 n1 = splat_f64(0xBFD55553E5B12000);  // -0.33333299094056201
     constexpr f64x2 n2 = splat_f64(0x3FC9991FD5682609);  // 0.19998548431640042
@@ -63,30 +63,12 @@ struct Radians {
     }
 };
 
-// The same with the 1 left to the end, for less error.
-struct FineRadians : Radians {
-    static TARN_INLINE f64x2 from(f64x2 base, f64x2 t) {
-        const auto [t8, t2, t6, t4] = chains(t);
-        return base + (t + t * ((t8 + t2) + (t6 + t4)));
-    }
-};
 struct RadiansNative : Radians {
     static TARN_INLINE f64x2 from(f64x2 base, f64x2 t) { return base + (t + t * short_rest(t)); }
 };
-
-struct HalfTurns {
+struct HalfTurnsNative {
     static constexpr f64x2 quarter = splat(0.5);
-    static constexpr f64x2 half_turn = splat(1.0);
-    static constexpr f64x2 inv_pi = splat_f64(0x3FD45F306DC9C883);       // 0.3183098861837907
-    static constexpr f64x2 inv_pi_tail = splat_f64(0xBC76B01EC5417056);  // -1.9678676675182486e-17
-
-    static TARN_INLINE f64x2 from(f64x2 base, f64x2 t) {
-        const auto [t8, t2, t6, t4] = chains(t);
-        const f64x2 rest = (t8 + t2) + (t6 + t4);
-        return base + (t * inv_pi + (t * inv_pi_tail + (t * rest) * inv_pi));
-    }
-};
-struct HalfTurnsNative : HalfTurns {
+    static constexpr f64x2 inv_pi = splat_f64(0x3FD45F306DC9C883);  // 0.3183098861837907
     static TARN_INLINE f64x2 from(f64x2 base, f64x2 t) { return base + (t + t * short_rest(t)) * inv_pi; }
 };
 
