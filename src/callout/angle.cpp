@@ -3,24 +3,18 @@
 // errors of the subtractions kept. From there on x is multiplied exactly by as many chunks of 4/pi as
 // matter, with the multiples of 8 octants removed.
 #include "callout/angle.hpp"
+#include "frame/exact.hpp"
 
 namespace tarn::callout {
 namespace {
 
 #include "tables/two_over_pi_25.inc"
 
-struct Pair {
-    double hi, lo;
-};
+using Pair = Exact<double>;
 
-TARN_INLINE Pair two_sum(double a, double b) {
-    const double s = a + b;
-    const double b_part = s - a;
-    return {s, (a - (s - b_part)) + (b - b_part)};
-}
 TARN_INLINE Pair add(Pair a, double b) {
-    const auto [s, error] = two_sum(a.hi, b);
-    return two_sum(s, error + a.lo);
+    const auto [s, error] = two_sum(a.value, b);
+    return two_sum(s, error + a.error);
 }
 
 constexpr double octants_per_radian = f64(0x3FF45F306DC9C883);  // 1.2732395447351628 = 4/pi
@@ -71,14 +65,14 @@ Quadrants by_chunks(double a) {
         const double product = a * 0x1p-200 * chunk[i];
         octants = add(octants, product - 8 * __builtin_floor(product / 8));
     }
-    double n = __builtin_floor(octants.hi);
-    if (octants.hi == n && octants.lo < 0) n -= 1;
+    double n = __builtin_floor(octants.value);
+    if (octants.value == n && octants.error < 0) n -= 1;
     auto whole = static_cast<std::int64_t>(n);
     whole += whole & 1;
-    const Pair f = two_sum(octants.hi - static_cast<double>(whole), octants.lo);
+    const Pair f = two_sum(octants.value - static_cast<double>(whole), octants.error);
 
-    const double f_hi = (f.hi + f.hi * splitter) - f.hi * splitter;
-    const double f_lo = (f.hi - f_hi) + f.lo;
+    const double f_hi = (f.value + f.value * splitter) - f.value * splitter;
+    const double f_lo = (f.value - f_hi) + f.error;
     const double product = f_hi * quarter_pi_hi;
     return {whole / 2, two_sum(product, quarter_pi_hi * f_lo + (f_lo + f_hi) * quarter_pi_lo)};
 }
@@ -92,7 +86,7 @@ Angle reduced(float x) {
     else if (a >= 0x1p23) q = by_pieces(a, five_pieces);
     else if (a >= 0x1p17) q = by_pieces(a, four_pieces);
     const double sign = X < 0 ? -1.0 : 1.0;
-    const double r_hi = q.rest.hi * sign, r_lo = q.rest.lo * sign;
+    const double r_hi = q.rest.value * sign, r_lo = q.rest.error * sign;
 
     const double shifted = r_hi * steps_per_radian + shifter;
     const double k = shifted - shifter;
