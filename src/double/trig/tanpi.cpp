@@ -5,6 +5,8 @@
 //
 // One lane above 2^50 sends the call through the same steps after an exact removal of periods, which
 // gives every lane the same bits; infinities are then the callout's. A NaN goes through the arithmetic.
+//
+// Worst error 4.72 ulp at 1.24997254; native 226080.
 #include "callout/callouts.hpp"
 #include "double/trig/period.hpp"
 #include "double/trig/sine.hpp"
