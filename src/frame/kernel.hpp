@@ -65,6 +65,11 @@ struct Kernel<Both<First, Second>(Args...)> : Kernel<First(Args...)> {
     using Signature = Both<First, Second>(Args...);
 };
 
+// A family whose callout computes every lane.
+template <class Signature, auto scalar> struct EveryLane : Kernel<Signature> {
+    static constexpr auto callout = scalar;
+};
+
 // A signature taken apart; `Seconds` is a list of one type or none.
 template <class...> struct Types;
 template <class Signature> struct Parts;

@@ -7,15 +7,9 @@
 namespace tarn {
 namespace {
 
-struct Tgamma : Kernel<double(double)> {
-    static constexpr auto callout = callout::tgamma;
-};
-struct Lgamma : Kernel<double(double)> {
-    static constexpr auto callout = callout::lgamma;
-};
-struct Lgammar : Kernel<Both<double, std::int32_t>(double)> {
-    static constexpr auto callout = callout::lgammar;
-};
+using Tgamma = EveryLane<double(double), callout::tgamma>;
+using Lgamma = EveryLane<double(double), callout::lgamma>;
+using Lgammar = EveryLane<Both<double, std::int32_t>(double), callout::lgammar>;
 
 }  // namespace
 }  // namespace tarn

@@ -7,15 +7,9 @@
 namespace tarn {
 namespace {
 
-struct Tgammaf : Kernel<float(float)> {
-    static constexpr auto callout = callout::tgammaf;
-};
-struct Lgammaf : Kernel<float(float)> {
-    static constexpr auto callout = callout::lgammaf;
-};
-struct Lgammarf : Kernel<Both<float, std::int32_t>(float)> {
-    static constexpr auto callout = callout::lgammarf;
-};
+using Tgammaf = EveryLane<float(float), callout::tgammaf>;
+using Lgammaf = EveryLane<float(float), callout::lgammaf>;
+using Lgammarf = EveryLane<Both<float, std::int32_t>(float), callout::lgammarf>;
 
 }  // namespace
 }  // namespace tarn
