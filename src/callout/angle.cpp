@@ -3,18 +3,18 @@
 // errors of the subtractions kept. From there on x is multiplied exactly by as many chunks of 4/pi as
 // matter, with the multiples of 8 octants removed.
 #include "callout/angle.hpp"
-#include "frame/exact.hpp"
+#include "frame/double_word.hpp"
 
 namespace tarn::callout {
 namespace {
 
 #include "tables/two_over_pi_25.inc"
 
-using Pair = Exact<double>;
+using Pair = HeadTail<double>;
 
 TARN_INLINE Pair add(Pair a, double b) {
-    const auto [s, error] = two_sum(a.value, b);
-    return two_sum(s, error + a.error);
+    const auto [s, error] = two_sum(a.head, b);
+    return two_sum(s, error + a.tail);
 }
 
 constexpr double octants_per_radian = f64(0x3FF45F306DC9C883);  // 1.2732395447351628 = 4/pi
@@ -65,14 +65,14 @@ Quadrants by_chunks(double a) {
         const double product = a * 0x1p-200 * chunk[i];
         octants = add(octants, product - 8 * __builtin_floor(product / 8));
     }
-    double n = __builtin_floor(octants.value);
-    if (octants.value == n && octants.error < 0) n -= 1;
+    double n = __builtin_floor(octants.head);
+    if (octants.head == n && octants.tail < 0) n -= 1;
     auto whole = static_cast<std::int64_t>(n);
     whole += whole & 1;
-    const Pair f = two_sum(octants.value - static_cast<double>(whole), octants.error);
+    const Pair f = two_sum(octants.head - static_cast<double>(whole), octants.tail);
 
-    const double f_hi = (f.value + f.value * splitter) - f.value * splitter;
-    const double f_lo = (f.value - f_hi) + f.error;
+    const double f_hi = (f.head + f.head * splitter) - f.head * splitter;
+    const double f_lo = (f.head - f_hi) + f.tail;
     const double product = f_hi * quarter_pi_hi;
     return {whole / 2, two_sum(product, quarter_pi_hi * f_lo + (f_lo + f_hi) * quarter_pi_lo)};
 }
@@ -86,7 +86,7 @@ Angle reduced(float x) {
     else if (a >= 0x1p23) q = by_pieces(a, five_pieces);
     else if (a >= 0x1p17) q = by_pieces(a, four_pieces);
     const double sign = X < 0 ? -1.0 : 1.0;
-    const double r_hi = q.rest.value * sign, r_lo = q.rest.error * sign;
+    const double r_hi = q.rest.head * sign, r_lo = q.rest.tail * sign;
 
     const double shifted = r_hi * steps_per_radian + shifter;
     const double k = shifted - shifter;

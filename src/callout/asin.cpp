@@ -110,7 +110,7 @@ template <class Unit> int of_point(double y, double x, double* result) {
     if (is_nan(y) || is_nan(x)) return give(result, y + x);
     const double ay = __builtin_fabs(y), ax = __builtin_fabs(x);
     if (ay != 0 && ax != 0 && !not_finite(y) && !not_finite(x))
-        return give(result, arctangent::point_by_nodes<typename Unit::Nodes>(splat(y), splat(x))[0]);
+        return give(result, arctangent::point_by_nodes<typename Unit::Nodes>(filled<f64x2>(y), filled<f64x2>(x))[0]);
     double first = 0;  // of the point (|y|, |x|), in half turns
     if (ay == 0) first = 0;
     else if (ay == ax) first = 0.25;

@@ -9,7 +9,7 @@ int erfc(const double* x, double* result) {
     if (is_nan(*x)) return give(result, *x * *x);
     if (not_finite(*x)) return give(result, *x < 0 ? 2.0 : 0.0);
     if (*x >= 27.25) return give(result, underflowed(), underflow);
-    const double y = erfc_steps<ErfcSeries>(splat(*x))[0];
+    const double y = erfc_steps<ErfcSeries>(filled<f64x2>(*x))[0];
     return give(result, y, y < 0x1p-1022 ? underflow : ordinary);
 }
 

@@ -26,7 +26,7 @@ inline constexpr double twelfth = gamma_stirling[0];
 // one for odd.
 template <int count> TARN_INLINE double polynomial(const double* c, double t) {
     const auto pair = [=](int i) __attribute__((always_inline)) { return f64x2{c[2 * i], c[2 * i + 1]}; };
-    const f64x2 t2 = splat(t * t), t4 = t2 * t2;
+    const f64x2 t2 = filled<f64x2>(t * t), t4 = t2 * t2;
     f64x2 high = pair(2);
     if constexpr (count > 6) high = high + pair(3) * t2;
     if constexpr (count == 10) high = high + pair(4) * t4;

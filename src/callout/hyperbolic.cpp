@@ -56,7 +56,7 @@ int cosh(const double* x, double* result) {
 
 int tanh(const double* x, double* result) {
     if (is_nan(*x)) return give(result, *x + *x);
-    return give(result, tanh_sum(splat(*x), tanh_place(splat(*x)))[0]);
+    return give(result, tanh_sum(filled<f64x2>(*x), tanh_place(filled<f64x2>(*x)))[0]);
 }
 
 }  // namespace tarn::callout

@@ -18,7 +18,7 @@ template <class Of> int give_log(double x, double* result, Of of) {
 double natural(double x, int moved) { return log_of(x, moved); }
 
 template <class Base> double by_table(double x, int moved) {
-    return table_log<Base>(splat(x), splat(static_cast<double>(moved)))[0];
+    return table_log<Base>(filled<f64x2>(x), filled<f64x2>(static_cast<double>(moved)))[0];
 }
 
 }  // namespace

@@ -7,7 +7,7 @@
 namespace tarn::callout {
 namespace {
 
-template <class Root> double cube_root_of_normal(double x) { return cube_root_steps<Root>(splat(x))[0]; }
+template <class Root> double cube_root_of_normal(double x) { return cube_root_steps<Root>(filled<f64x2>(x))[0]; }
 
 bool is_subnormal_or_zero(double x) { return pattern(x) << 1 >> 53 == 0; }
 double size_of(double x) { return f64(pattern(x) << 1 >> 1); }
@@ -29,8 +29,8 @@ int rsqrt(const double* x, double* result) {
     if (*x < 0) return give(result, invalid(), domain_error);
     if (*x == 0) return give(result, infinity_from(*x), pole);
     if (not_finite(*x)) return give(result, 1.0 / *x);
-    if (*x < 0x1p-900) return give(result, corrected_rsqrt(splat(*x * 0x1p600))[0] * 0x1p300);
-    return give(result, corrected_rsqrt(splat(*x))[0]);
+    if (*x < 0x1p-900) return give(result, corrected_rsqrt(filled<f64x2>(*x * 0x1p600))[0] * 0x1p300);
+    return give(result, corrected_rsqrt(filled<f64x2>(*x))[0]);
 }
 
 int cbrt(const double* x, double* result) {

@@ -7,7 +7,7 @@
 namespace tarn::callout {
 namespace {
 
-template <class Root> float cube_root_of_normal(float x) { return cube_root_steps<Root>(splat(x), splat(0))[0]; }
+template <class Root> float cube_root_of_normal(float x) { return cube_root_steps<Root>(filled<f32x4>(x), i32x4{})[0]; }
 
 }  // namespace
 

@@ -20,18 +20,18 @@ int give(double* result, double value) {
     return ordinary;
 }
 
-double with_sign_of(double x, double magnitude) { return xor_bits(splat(magnitude), sign_bit(splat(x)))[0]; }
+double with_sign_of(double x, double magnitude) { return xor_bits(filled<f64x2>(magnitude), sign_bit(filled<f64x2>(x)))[0]; }
 
-[[gnu::noinline]] Reduced reduced(double x) { return reduce_exactly<Turns>(splat(x)); }
+[[gnu::noinline]] Reduced<f64x2> reduced(double x) { return reduce_exactly<Turns>(filled<f64x2>(x)); }
 
 // |x| half turns: x without whole turns, to the nearest 512th of a turn, exactly.
-[[gnu::noinline]] Reduced reduced_half_turns(double x) {
+[[gnu::noinline]] Reduced<f64x2> reduced_half_turns(double x) {
     const double a = __builtin_fabs(x);
     const double turns = a < 0x1p53 ? __builtin_floor(a / 2) : a / 2;
-    const f64x2 within = splat(a - 2 * turns);
+    const f64x2 within = filled<f64x2>(a - 2 * turns);
     const f64x2 shifted = within + HalfTurns::shifter;
     const f64x2 s = within - (shifted - HalfTurns::shifter);
-    return {bits(shifted) & Turns::row_mask, in_radians<HalfTurns>(s, splat(0.0))};
+    return {bits(shifted) & Turns::row_mask, in_radians<HalfTurns>(s, f64x2{})};
 }
 
 // pi a for small a, which is its sine and tangent. The pieces of the product need room below: a is scaled
@@ -41,14 +41,14 @@ double pi_times(double a) {
     constexpr double least = f64(0x000517CC1B727221);      // 2^-1022 / pi
     constexpr double pi_less_3 = f64(0x3FC21FB54442D184);  // 0.14159265358979323
     if (a < least) return 3 * a + a * pi_less_3;
-    return in_radians<HalfTurns>(splat(a * 0x1p200), splat(0.0)).head[0] * 0x1p-200;
+    return in_radians<HalfTurns>(filled<f64x2>(a * 0x1p200), f64x2{}).head[0] * 0x1p-200;
 }
 
-[[gnu::noinline]] Sum sine(const Reduced& angle) { return sine_from_table(angle); }
-[[gnu::noinline]] Sum cosine(const Reduced& angle) { return cosine_from_table(angle); }
+[[gnu::noinline]] Sum<f64x2> sine(const Reduced<f64x2>& angle) { return sine_from_table(angle); }
+[[gnu::noinline]] Sum<f64x2> cosine(const Reduced<f64x2>& angle) { return cosine_from_table(angle); }
 
 // (a + rest)/(b + rest) by a quotient of the heads and what its exact product with b leaves.
-double quotient(const Sum& numerator, const Sum& denominator) {
+double quotient(const Sum<f64x2>& numerator, const Sum<f64x2>& denominator) {
     const double a = numerator.head[0], b = denominator.head[0];
     const double q = a / b;
     if (a == 0 || b == 0) return q;
@@ -78,7 +78,7 @@ int sincos(const double* x, double* sine, double* cosine) {
 
 int tan(const double* x, double* result) {
     if (not_finite(*x)) return no_angle(*x, result);
-    const Reduced angle = reduced(*x);
+    const Reduced<f64x2> angle = reduced(*x);
     return give(result, with_sign_of(*x, quotient(sine(angle), cosine(angle))));
 }
 
@@ -99,8 +99,8 @@ int tanpi(const double* x, double* result) {
     if (not_finite(*x)) return no_angle(*x, result);
     const double a = __builtin_fabs(*x);
     if (a < small_half_turns) return give(result, with_sign_of(*x, pi_times(a)));
-    const Reduced angle = reduced_half_turns(*x);
-    const Sum denominator = cosine(angle);
+    const Reduced<f64x2> angle = reduced_half_turns(*x);
+    const Sum<f64x2> denominator = cosine(angle);
     give(result, with_sign_of(*x, quotient(sine(angle), denominator)));
     return denominator.head[0] == 0 ? pole : ordinary;
 }

@@ -19,7 +19,7 @@ TARN_INLINE Direction x87_direction() {
 
 // Whether both are to nearest. The second shows in sums on either side of the middle between 1 and the next number.
 TARN_INLINE bool nearest_everywhere() {
-    const f64x2 sums = opaque(splat(1.0)) + f64x2{0x0.cp-52, 0x0.4p-52};
+    const f64x2 sums = opaque(filled<f64x2>(1.0)) + f64x2{0x0.cp-52, 0x0.4p-52};
     const unsigned rounded_otherwise = gathered((i64x2)(sums != f64x2{1 + 0x1p-52, 1}));
     return (rounded_otherwise | static_cast<unsigned>(x87_direction())) == 0;
 }

@@ -1,5 +1,5 @@
-// The frame of every kernel. A kernel says what it computes on one group of lanes; the frame prepares
-// the lanes of each width, runs the groups, gathers the special-lane mask and returns at once when it
+// The frame of every kernel. A kernel says what it computes on one group of lanes, of whatever size; the frame
+// prepares the lanes of each width, chooses the size, runs the groups, gathers the special-lane mask and returns at once when it
 // is empty: ordinary arguments cause no call. What happens to special lanes is the kernel's kind:
 //
 //   fast gives a plain value                     no lane is special
@@ -11,9 +11,9 @@
 //
 // long_path is an alias: a struct of that name would find itself under it.
 // A kernel that declares `every_lane_special` asks it once a call whether all lanes are special, whatever
-// `fast` says. A kernel that declares `any_blocks` has a `fast` for one block or several as one vector.
-// One that declares `at_a_time` computes its wide calls so many lanes after so many, not all at once.
-// `fast` and `finish` take and give groups. A callout is scalar and takes one pointer for
+// `fast` says. One that declares `blocks_at_a_time` computes its wide calls so many blocks after so many, not all
+// at once.
+// `fast` takes and gives groups of any size, `finish` groups of 16 bytes. A callout is scalar and takes one pointer for
 // each operand, inputs first: int(const A*..., R*), or int(const A*..., R*, S*) with a second result.
 #pragma once
 
@@ -49,16 +49,12 @@ template <class Result, class... Args> struct Kernel;
 template <class Result, class... Args> struct Kernel<Result(Args...)> {
     using Signature = Result(Args...);
 
-    // Lanes to a group: two where any lane is a double, else four.
+    // Lanes to a group where blocks have 16 bytes: two where any lane is a double, else four.
     static constexpr int lanes = (std::is_same_v<Result, double> || ... || std::is_same_v<Args, double>) ? 2 : 4;
 
-    // Lanes of a wide call that are computed side by side. Fewer than all where more would wait for one
+    // Blocks of a wide call that are computed side by side. Fewer than all where more would wait for one
     // divider, or for registers.
-    static constexpr int at_a_time = 16;
-
-    // What stands in lane 3 of width 3: in the middle of the domain, so that it is never special.
-    template <class Lane>
-    static constexpr Lane last_lane = std::is_floating_point_v<Lane> ? Lane(0.75) : Lane(sizeof(Lane) == 4);
+    static constexpr int blocks_at_a_time = 8;
 };
 template <class First, class Second, class... Args>
 struct Kernel<Both<First, Second>(Args...)> : Kernel<First(Args...)> {
@@ -68,6 +64,7 @@ struct Kernel<Both<First, Second>(Args...)> : Kernel<First(Args...)> {
 // A family whose callout computes every lane.
 template <class Signature, auto scalar> struct EveryLane : Kernel<Signature> {
     static constexpr auto callout = scalar;
+    static constexpr bool lane_by_lane = true;
 };
 
 // A signature taken apart; `Seconds` is a list of one type or none.
@@ -163,8 +160,12 @@ struct Switched<K, width, R, Types<S...>, Types<A...>> {
 
 template <class K, int width, class R, class... S, class... A>
 struct Call<K, width, R, Types<S...>, Types<A...>> {
-    static constexpr int lanes = K::lanes;
+    // Blocks of 32 bytes where the lanes of a call fill them.
+    static constexpr bool wide_blocks = native_bytes == 32 && K::lanes > 1 && stored_lanes(width) >= 2 * K::lanes;
+    static constexpr int bytes = wide_blocks ? 32 : 16;
+    static constexpr int lanes = wide_blocks ? 2 * K::lanes : K::lanes;
     static constexpr int count = stored_lanes(width) > lanes ? stored_lanes(width) / lanes : 1;
+    static constexpr int at_a_time = K::blocks_at_a_time * lanes;
     using Result = Vec<R, width>;
     using Special = SpecialLanes<width, R, Types<S...>, Types<A...>>;
 
@@ -189,11 +190,9 @@ struct Call<K, width, R, Types<S...>, Types<A...>> {
 
     // Computes all lanes; the special ones are the result.
     static TARN_INLINE unsigned evaluate(Result& result, const Vec<A, width>&... x, S*... second) {
-        if constexpr (requires { K::any_blocks; } && in_memory<R, width>) {
-            return at_once(result, x..., second...);
-        } else if constexpr (stored_lanes(width) > K::at_a_time) {
-            return in_parts<K::at_a_time>(result, x..., second...);
-        } else if constexpr (requires { &K::fast; } || requires { K::any_blocks; }) {
+        if constexpr (!requires { K::lane_by_lane; } && lanes > 1 && stored_lanes(width) > at_a_time) {
+            return in_parts<at_a_time>(result, x..., second...);
+        } else if constexpr (!requires { K::lane_by_lane; }) {
             return over(std::make_integer_sequence<int, count>{}, result, x..., second...);
         } else {
             if constexpr (!in_memory<R, width>) result = Result{};  // the lane that width 3 does not call for
@@ -205,33 +204,13 @@ struct Call<K, width, R, Types<S...>, Types<A...>> {
     }
 
 private:
-    // Group i of an argument. Lane 3 of width 3 never decides anything where the argument is the only
-    // one, or an integer.
-    template <class Lane> static TARN_INLINE Group<Lane, lanes> argument(const Vec<Lane, width>& x, int i) {
-        const auto g = group<lanes, Lane, width>(x, i);
-        if constexpr (width == 3 && lanes > 1 && (sizeof...(A) == 1 || std::is_integral_v<Lane>))
-            if (i == count - 1) return with_last_lane<Lane, lanes>(g, K::template last_lane<Lane>);
-        return g;
+    template <class Lane> static TARN_INLINE auto argument(const Vec<Lane, width>& x, int i) {
+        return group<lanes, bytes, Lane, width>(x, i);
     }
 
     static TARN_INLINE unsigned always_special() {
         if constexpr (requires { &K::every_lane_special; }) return K::every_lane_special() ? lane_mask(width) : 0;
         else return 0;
-    }
-
-    // All lanes of a wide call at once, for a kernel written for any number of blocks.
-    static TARN_INLINE unsigned at_once(Result& result, const Vec<A, width>&... x, S*... second) {
-        using Blocks = typename SeveralBlocks<count>::f32;
-        const auto g = K::fast(__builtin_bit_cast(Blocks, x)...);
-        result = __builtin_bit_cast(Result, value_of(g));
-        ((__builtin_memcpy(second, &g.second, sizeof g.second)), ...);
-        if constexpr (requires { g.special; }) {
-            i32x4 masks[count];
-            __builtin_memcpy(masks, &g.special, sizeof masks);
-            return special_bits<lanes>(masks);
-        } else {
-            return 0;
-        }
     }
 
     // As calls of a narrower width, one after the other. The loop's end is opaque because the compiler would
@@ -250,10 +229,12 @@ private:
                                      S*... second) {
         const auto run_group = [&](int g) __attribute__((always_inline)) { return K::fast(argument<A>(x, g)...); };
         const decltype(run_group(0)) groups[] = {run_group(i)...};
-        const Group<R, lanes> values[] = {value_of(groups[i])...};
-        result = vector_of<lanes, R, width>(values);
+        const Group<R, lanes, bytes> values[] = {value_of(groups[i])...};
+        result = vector_of<lanes, bytes, R, width>(values);
         (store(second, groups), ...);
         if constexpr (requires { groups[0].special; }) {
+            static_assert(requires { typename K::long_path; } || requires { &K::finish; } || requires { K::callout; },
+                          "a kernel that flags special lanes says what becomes of them: callout, long_path or finish");
             const decltype(groups[0].special) masks[] = {groups[i].special...};
             return special_bits<lanes>(masks) & lane_mask(width < 4 ? width : 16);
         } else {
@@ -272,13 +253,13 @@ private:
 
     [[gnu::noinline, gnu::cold]] static Updated<R, width> finished(Updated<R, width> fast, Passed<A, width>... x,
                                                                    unsigned special) {
-        Group<R, lanes> values[count];
+        Group<R, lanes, bytes> values[count];
         for (int i = 0; i < count; i++) {
             const unsigned flags = special >> (i * lanes) & lane_mask(lanes);
-            values[i] = group<lanes, R, width>(fast, i);
+            values[i] = group<lanes, bytes, R, width>(fast, i);
             if (flags != 0) values[i] = K::finish(argument<A>(x, i)..., values[i], flags);
         }
-        const Result result = vector_of<lanes, R, width>(values);
+        const Result result = vector_of<lanes, bytes, R, width>(values);
         if constexpr (in_memory<R, width>) return fast = result;
         else return result;
     }
@@ -290,9 +271,9 @@ private:
 
     // The second results, block by block, wherever the pointer points.
     template <class Lane, class G> static TARN_INLINE void store(Lane* to, const G (&groups)[count]) {
-        Group<Lane, lanes> seconds[count];
+        Group<Lane, lanes, bytes> seconds[count];
         for (int g = 0; g < count; g++) seconds[g] = groups[g].second;
-        const auto v = vector_of<lanes, Lane, width>(seconds);
+        const auto v = vector_of<lanes, bytes, Lane, width>(seconds);
         if constexpr (in_memory<Lane, width>) {
             for (const auto& block : v.block) {
                 __builtin_memcpy(to, &block, sizeof block);

@@ -13,7 +13,7 @@ template <class Conversion, Rounding mode, class To, class From>
 struct Rounded<Conversion, mode, To(From)> : Kernel<To(From)> {
     static constexpr bool pieces = std::is_same_v<To, float> && std::is_integral_v<From>;
     static constexpr int lanes = !pieces && (sizeof(To) == 8 || sizeof(From) == 8) ? 2 : 4;
-    static TARN_INLINE auto fast(Group<From, lanes> x) { return Conversion::template to<mode>(x); }
+    template <class G> static TARN_INLINE auto fast(G x) { return Conversion::template to<mode>(x); }
 };
 template <class Conversion> struct Rte : Rounded<Conversion, Rounding::nearest> {};
 template <class Conversion> struct Rtn : Rounded<Conversion, Rounding::down> {};
@@ -23,8 +23,8 @@ template <class Conversion> struct Rtz : Rounded<Conversion, Rounding::zero> {};
 // f is the exact value rounded to nearest; the masks say where it lies above or below. One unit of the
 // bit pattern leads to the neighbour on the other side: up is away from zero, and -0 is the neighbour of
 // the smallest negative number.
-template <Rounding mode, class V, class Mask = decltype(bits(V{}))>
-TARN_INLINE V redirected(V f, std::type_identity_t<Mask> above, std::type_identity_t<Mask> below) {
+template <Rounding mode, Floats V> TARN_INLINE V redirected(V f, BitsOf<V> above, BitsOf<V> below) {
+    using Mask = BitsOf<V>;
     const Mask negative = bits(f) >> (8 * sizeof(f[0]) - 1);
     const Mask away = negative | 1;  // one unit away from +0
     if constexpr (mode == Rounding::nearest) return f;

@@ -8,9 +8,9 @@ namespace {
 
 struct Narrowed {
     using Signature = float(double);
-    template <Rounding mode> static TARN_INLINE f32x4 to(f64x2 x) {
-        const f32x4 f = narrow(x);
-        const f64x2 back = widen_low(f);
+    template <Rounding mode, Doubles V> static TARN_INLINE auto to(V x) {
+        const Like<V, float> f = narrow(x);
+        const V back = widen_low(f);
         return redirected<mode>(f, low_words(back > x), low_words(back < x));
     }
 };

@@ -7,11 +7,11 @@
 namespace tarn {
 namespace {
 
-constexpr f64x2 two_63 = splat(0x1p63);
-constexpr f64x2 two_64 = splat(0x1p64);
+constexpr double two_63 = 0x1p63;
+constexpr double two_64 = 0x1p64;
 
 // In the low 32 bits of each lane, for an integral r in [0, 2^32).
-TARN_INLINE i64x2 low_bits(f64x2 r) { return bits(r + 0x1p52); }
+template <Doubles V> TARN_INLINE BitsOf<V> low_bits(V r) { return bits(r + 0x1p52); }
 
 template <class Signature> struct Clamped;
 template <class Signature> struct Indefinite;
@@ -20,23 +20,23 @@ template <class Signature> struct Indefinite;
 
 template <class Real> struct Indefinite<std::int32_t(Real)> {
     using Signature = std::int32_t(Real);
-    template <Rounding mode> static TARN_INLINE i32x4 to(Block<Real> x) { return to_i32(round<mode>(x)); }
+    template <Rounding mode, Floats V> static TARN_INLINE auto to(V x) { return to_i32(round<mode>(x)); }
 };
 
 // The lowest integer is right below the range; above it, its complement is.
 template <> struct Clamped<std::int32_t(float)> {
     using Signature = std::int32_t(float);
-    template <Rounding mode> static TARN_INLINE i32x4 to(f32x4 x) {
-        const f32x4 r = round<mode>(x);
+    template <Rounding mode, Floats V> static TARN_INLINE auto to(V x) {
+        const auto r = round<mode>(x);
         return (to_i32(r) ^ (r >= 0x1p31f)) & (r == r);
     }
 };
 template <> struct Clamped<std::int32_t(double)> {
     using Signature = std::int32_t(double);
-    template <Rounding mode> static TARN_INLINE i32x4 to(f64x2 x) {
-        const f64x2 r = round<mode>(x);
-        const f64x2 number = from_bits(bits(r) & (r == r));
-        return to_i32(min(number, splat(0x1p31 - 1)));
+    template <Rounding mode, Floats V> static TARN_INLINE auto to(V x) {
+        const auto r = round<mode>(x);
+        const auto number = and_bits(r, r == r);
+        return to_i32(min(number, 0x1p31 - 1));
     }
 };
 
@@ -45,76 +45,77 @@ template <> struct Clamped<std::int32_t(double)> {
 // even a NaN's.
 
 // r in [2^31, 2^32) has its leading bit at bit 31; elsewhere the processor's conversion stands.
-TARN_INLINE i32x4 to_u32(f32x4 r) {
-    const i32x4 top_half = (bits(r) & splat_i32(0x7F800000)) == splat_i32(0x4F000000);
-    return select(top_half, bits(r) << 8 | splat_i32(0x80000000), to_i32(r));
+template <Singles V> TARN_INLINE BitsOf<V> to_u32(V r) {
+    const auto top_half = (bits(r) & 0x7F800000) == 0x4F000000;
+    return select(top_half, bits(r) << 8 | i32(0x80000000), to_i32(r));
 }
 
 template <> struct Indefinite<std::uint32_t(float)> {
     using Signature = std::uint32_t(float);
-    template <Rounding mode> static TARN_INLINE u32x4 to(f32x4 x) { return (u32x4)to_u32(abs(round<mode>(x))); }
+    template <Rounding mode, Floats V> static TARN_INLINE auto to(V x) { return (Unsigned<V>)to_u32(abs(round<mode>(x))); }
 };
 template <> struct Clamped<std::uint32_t(float)> {
     using Signature = std::uint32_t(float);
-    template <Rounding mode> static TARN_INLINE u32x4 to(f32x4 x) {
-        const f32x4 r = round<mode>(x);
-        const i32x4 above = bits(r) > splat_i32(0x4F7FFFFF);  // from 2^32 on
-        const i32x4 negative = bits(r) >> 31;
-        return (u32x4)((to_u32(r) | above) & ~negative);
+    template <Rounding mode, Floats V> static TARN_INLINE auto to(V x) {
+        const auto r = round<mode>(x);
+        const auto above = bits(r) > 0x4F7FFFFF;  // from 2^32 on
+        const auto negative = bits(r) >> 31;
+        return (Unsigned<V>)((to_u32(r) | above) & ~negative);
     }
 };
 
 template <> struct Indefinite<std::uint32_t(double)> {
     using Signature = std::uint32_t(double);
-    template <Rounding mode> static TARN_INLINE u32x4 to(f64x2 x) {
-        const f64x2 r = abs(round<mode>(x));
-        return (u32x4)low_words(select(r < 0x1p32, low_bits(r), splat_i64(0x80000000)));
+    template <Rounding mode, Floats V> static TARN_INLINE auto to(V x) {
+        const auto r = abs(round<mode>(x));
+        return (Like<V, std::uint32_t>)low_words(select(r < 0x1p32, low_bits(r), std::int64_t{0x80000000}));
     }
 };
 template <> struct Clamped<std::uint32_t(double)> {
     using Signature = std::uint32_t(double);
-    template <Rounding mode> static TARN_INLINE u32x4 to(f64x2 x) {
-        const f64x2 r = round<mode>(x);
-        const f64x2 clamped = min(r, splat(0x1p32 - 1));                              // a NaN too
-        return (u32x4)low_words(bits(select(bits(r), splat(0.0), from_bits(low_bits(clamped)))));  // by the sign bit
+    template <Rounding mode, Floats V> static TARN_INLINE auto to(V x) {
+        const auto r = round<mode>(x);
+        const auto clamped = min(r, 0x1p32 - 1);                              // a NaN too
+        return (Like<V, std::uint32_t>)low_words(bits(select(bits(r), 0.0, from_bits(low_bits(clamped)))));  // by the sign bit
     }
 };
 
 // 64-bit ----------------------------------------------------------------------------------------
 
 // An integral r in [0, 2^64): the upper half of the range is converted less 2^63.
-TARN_INLINE i64x2 to_u64(f64x2 r) {
-    const i64x2 top_half = r >= two_63;
-    return to_i64(r - from_bits(bits(two_63) & top_half)) ^ (top_half & sign_mask_f64);
+template <Doubles V> TARN_INLINE BitsOf<V> to_u64(V r) {
+    const auto top_half = r >= two_63;
+    return to_i64(r - where(top_half, two_63)) ^ (top_half & sign_mask<V>);
 }
 
-TARN_INLINE f64x2 in_double(f64x2 x) { return x; }
-TARN_INLINE f64x2 in_double(f32x4 x) { return widen_low(x); }
+template <Doubles V> TARN_INLINE V in_double(V x) { return x; }
+template <Singles V> TARN_INLINE auto in_double(V x) { return widen_low(x); }
 
 template <class Real> struct Indefinite<std::int64_t(Real)> {
     using Signature = std::int64_t(Real);
-    template <Rounding mode> static TARN_INLINE i64x2 to(Block<Real> x) { return to_i64(round<mode>(in_double(x))); }
+    template <Rounding mode, Floats V> static TARN_INLINE auto to(V x) { return to_i64(round<mode>(in_double(x))); }
 };
 template <class Real> struct Clamped<std::int64_t(Real)> {
     using Signature = std::int64_t(Real);
-    template <Rounding mode> static TARN_INLINE i64x2 to(Block<Real> x) {
-        const f64x2 r = round<mode>(in_double(x));
+    template <Rounding mode, Floats V> static TARN_INLINE auto to(V x) {
+        const auto r = round<mode>(in_double(x));
         return (to_i64(r) ^ (r >= two_63)) & (r == r);
     }
 };
 
 template <class Real> struct Indefinite<std::uint64_t(Real)> {
     using Signature = std::uint64_t(Real);
-    template <Rounding mode> static TARN_INLINE u64x2 to(Block<Real> x) {
-        const f64x2 r = round<mode>(in_double(x));
-        return (u64x2)select((r >= 0.0) & (r < two_64), to_u64(r), sign_mask_f64);
+    template <Rounding mode, Floats V> static TARN_INLINE auto to(V x) {
+        const auto r = round<mode>(in_double(x));
+        using R = decltype(r);
+        return (Unsigned<R>)select((r >= 0.0) & (r < two_64), to_u64(r), sign_mask<R>);
     }
 };
 template <class Real> struct Clamped<std::uint64_t(Real)> {
     using Signature = std::uint64_t(Real);
-    template <Rounding mode> static TARN_INLINE u64x2 to(Block<Real> x) {
-        const f64x2 r = round<mode>(in_double(x));
-        return (u64x2)((to_u64(r) & (r >= 0.0)) | (r >= two_64));
+    template <Rounding mode, Floats V> static TARN_INLINE auto to(V x) {
+        const auto r = round<mode>(in_double(x));
+        return (Unsigned<decltype(r)>)((to_u64(r) & (r >= 0.0)) | (r >= two_64));
     }
 };
 

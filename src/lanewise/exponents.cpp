@@ -11,31 +11,31 @@ namespace {
 template <class Lane> struct Frexp : Kernel<Both<Lane, std::int32_t>(Lane)> {
     using F = Format<Lane>;
     static constexpr auto callout = callout::frexp<Lane>;
-    static TARN_INLINE auto fast(Block<Lane> x) {
+    template <class V> static TARN_INLINE auto fast(V x) {
         const auto significand = from_bits((bits(x) & ~F::exponent_mask) | F::half_bits);
-        const i32x4 exponent = (exponent_words<Lane>(x) - splat_i32(F::half)) >> F::shift;
-        return FlaggedPair{significand, lanes_of_words<Lane>(exponent), not_normal<Lane>(x)};
+        const auto exponent = (exponent_words(x) - i32(F::half)) >> F::shift;
+        return FlaggedPair{significand, lanes_of_words<V>(exponent), not_normal(x)};
     }
 };
 
 // The exponent of a normal x, in 32-bit lanes.
-template <class Lane> TARN_INLINE i32x4 exponent_of(Block<Lane> x) {
-    using F = Format<Lane>;
-    return lanes_of_words<Lane>(exponent_words<Lane>(x) >> F::shift) - splat(F::bias);
+template <class V> TARN_INLINE WordsOf<V> exponent_of(V x) {
+    using F = Format<LaneOf<V>>;
+    return lanes_of_words<V>(exponent_words(x) >> F::shift) - F::bias;
 }
 
 template <class Lane> struct Ilogb : Kernel<std::int32_t(Lane)> {
     static constexpr int lanes = 16 / sizeof(Lane);
     static constexpr auto callout = callout::ilogb<Lane>;
-    static TARN_INLINE auto fast(Block<Lane> x) { return Flagged{exponent_of<Lane>(x), not_normal<Lane>(x)}; }
+    template <class V> static TARN_INLINE auto fast(V x) { return Flagged{exponent_of(x), not_normal(x)}; }
 };
 
 template <class Lane> struct Logb : Kernel<Lane(Lane)> {
     static constexpr auto callout = callout::logb<Lane>;
-    static TARN_INLINE auto fast(Block<Lane> x) {
-        const i32x4 exponent = exponent_of<Lane>(x);
-        if constexpr (sizeof(Lane) == 4) return Flagged{to_f32(exponent), not_normal<Lane>(x)};
-        else return Flagged{to_f64(exponent), not_normal<Lane>(x)};
+    template <class V> static TARN_INLINE auto fast(V x) {
+        const auto exponent = exponent_of(x);
+        if constexpr (sizeof(Lane) == 4) return Flagged{to_f32(exponent), not_normal(x)};
+        else return Flagged{to_f64(exponent), not_normal(x)};
     }
 };
 
@@ -43,12 +43,12 @@ template <class Lane> struct Logb : Kernel<Lane(Lane)> {
 template <class Lane> struct Ldexp : Kernel<Lane(Lane, std::int32_t)> {
     using F = Format<Lane>;
     static constexpr auto callout = callout::ldexp<Lane>;
-    static TARN_INLINE auto fast(Block<Lane> x, i32x4 n) {
-        const i32x4 n_words = words_of_lanes<Lane>(n);
-        const i32x4 field = exponent_words<Lane>(x) >> F::shift;
-        const i32x4 out_of_range = (n_words > splat(2 * F::bias) - field) | (splat(1) - field > n_words);
-        const auto scaled = from_bits(bits(x) + (typename F::Bits)(n_words << F::shift));
-        return Flagged{scaled, out_of_range | not_normal<Lane>(x)};
+    template <class V> static TARN_INLINE auto fast(V x, WordsOf<V> n) {
+        const auto n_words = words_of_lanes<V>(n);
+        const auto field = exponent_words(x) >> F::shift;
+        const auto out_of_range = (n_words > 2 * F::bias - field) | (1 - field > n_words);
+        const auto scaled = from_bits(bits(x) + (BitsOf<V>)(n_words << F::shift));
+        return Flagged{scaled, out_of_range | not_normal(x)};
     }
 };
 

@@ -9,44 +9,44 @@
 namespace tarn {
 namespace {
 
-template <class Lane> TARN_INLINE i32x4 either_not_finite(Block<Lane> x, Block<Lane> y) {
-    return not_finite<Lane>(x) | not_finite<Lane>(y);
+template <class V> TARN_INLINE WordsOf<V> either_not_finite(V x, V y) {
+    return not_finite(x) | not_finite(y);
 }
 
 template <class Lane> struct Fmin : Kernel<Lane(Lane, Lane)> {
     static constexpr auto callout = callout::fmin<Lane>;
-    static TARN_INLINE auto fast(Block<Lane> x, Block<Lane> y) {
-        return Flagged{min(x, y), either_not_finite<Lane>(x, y)};
+    template <class V> static TARN_INLINE auto fast(V x, V y) {
+        return Flagged{min(x, y), either_not_finite(x, y)};
     }
 };
 
 template <class Lane> struct Fmax : Kernel<Lane(Lane, Lane)> {
     static constexpr auto callout = callout::fmax<Lane>;
-    static TARN_INLINE auto fast(Block<Lane> x, Block<Lane> y) {
-        return Flagged{max(x, y), either_not_finite<Lane>(x, y)};
+    template <class V> static TARN_INLINE auto fast(V x, V y) {
+        return Flagged{max(x, y), either_not_finite(x, y)};
     }
 };
 
 template <class Lane> struct MaxMag : Kernel<Lane(Lane, Lane)> {
     static constexpr auto callout = callout::maxmag<Lane>;
-    static TARN_INLINE auto fast(Block<Lane> x, Block<Lane> y) {
+    template <class V> static TARN_INLINE auto fast(V x, V y) {
         const auto unequal = select(abs(x) > abs(y), x, y);
-        return Flagged{select(abs(x) == abs(y), max(y, x), unequal), either_not_finite<Lane>(x, y)};
+        return Flagged{select(abs(x) == abs(y), max(y, x), unequal), either_not_finite(x, y)};
     }
 };
 
 template <class Lane> struct MinMag : Kernel<Lane(Lane, Lane)> {
     static constexpr auto callout = callout::minmag<Lane>;
-    static TARN_INLINE auto fast(Block<Lane> x, Block<Lane> y) {
+    template <class V> static TARN_INLINE auto fast(V x, V y) {
         const auto unequal = select(abs(x) < abs(y), x, y);
-        return Flagged{select(abs(x) == abs(y), min(y, x), unequal), either_not_finite<Lane>(x, y)};
+        return Flagged{select(abs(x) == abs(y), min(y, x), unequal), either_not_finite(x, y)};
     }
 };
 
 template <class Lane> struct Fdim : Kernel<Lane(Lane, Lane)> {
     static constexpr auto callout = callout::fdim<Lane>;
-    static TARN_INLINE auto fast(Block<Lane> x, Block<Lane> y) {
-        return Flagged{from_bits(bits(x - y) & (y < x)), either_not_finite<Lane>(x, y)};
+    template <class V> static TARN_INLINE auto fast(V x, V y) {
+        return Flagged{from_bits(bits(x - y) & (y < x)), either_not_finite(x, y)};
     }
 };
 

@@ -6,7 +6,7 @@
 // decide: those within a rounding of a boundary. In any other direction every lane goes to the callout.
 #include "callout/callouts.hpp"
 #include "frame/directions.hpp"
-#include "frame/exact.hpp"
+#include "frame/double_word.hpp"
 #include "frame/exports.hpp"
 #include "lanewise/format.hpp"
 
@@ -14,7 +14,7 @@ namespace tarn {
 namespace {
 
 template <class Lane> struct Mad : Kernel<Lane(Lane, Lane, Lane)> {
-    static TARN_INLINE auto fast(Block<Lane> x, Block<Lane> y, Block<Lane> z) { return (x * y) + z; }
+    template <class V> static TARN_INLINE auto fast(V x, V y, V z) { return (x * y) + z; }
 };
 
 template <class Lane> struct FmaFrame : Kernel<Lane(Lane, Lane, Lane)> {
@@ -26,20 +26,20 @@ template <class Lane> struct Fma;
 // The product is exact in double. A boundary of rounding to single precision, be it a single or the middle of
 // two, ends in 28 zeros there: a rounded sum elsewhere lies on the same side of it as the exact one.
 template <> struct Fma<float> : FmaFrame<float> {
-    struct Sum {
-        f64x2 value;
-        i32x4 undecided;
+    template <class W> struct Sum {
+        W value;
+        WordsOf<W> undecided;
     };
-    static TARN_INLINE Sum sum_of(f64x2 x, f64x2 y, f64x2 z) {
-        const f64x2 product = x * y, sum = product + z;
-        const i32x4 boundary = ((i32x4)sum & splat_i32(0x0FFFFFFF)) == 0;
+    template <class W> static TARN_INLINE Sum<W> sum_of(W x, W y, W z) {
+        const W product = x * y, sum = product + z;
+        const auto boundary = (words(sum) & 0x0FFFFFFF) == 0;
         return {sum, boundary & was_rounded(sum, product, z)};
     }
 
-    static TARN_INLINE auto fast(f32x4 x, f32x4 y, f32x4 z) {
-        const Sum low = sum_of(widen_low(x), widen_low(y), widen_low(z));
-        const Sum high = sum_of(widen_high(x), widen_high(y), widen_high(z));
-        return Flagged{narrow(low.value, high.value), lower_words((i64x2)low.undecided, (i64x2)high.undecided)};
+    template <class V> static TARN_INLINE auto fast(V x, V y, V z) {
+        const auto low = sum_of(widen_low(x), widen_low(y), widen_low(z));
+        const auto high = sum_of(widen_high(x), widen_high(y), widen_high(z));
+        return Flagged{narrow(low.value, high.value), lower_words((BitsOf<decltype(low.value)>)low.undecided, (BitsOf<decltype(low.value)>)high.undecided)};
     }
 };
 
@@ -51,16 +51,16 @@ template <> struct Fma<double> : FmaFrame<double> {
     static constexpr std::uint32_t lowest = 0x07B00000;   // of 2^-900
     static constexpr std::uint32_t highest = 0x7E700000;  // of 2^1000
 
-    static TARN_INLINE auto fast(f64x2 x, f64x2 y, f64x2 z) {
+    template <class V> static TARN_INLINE auto fast(V x, V y, V z) {
         const auto product = two_product(x, y);
-        const auto low = two_sum(z, product.error);
-        const auto high = two_sum(product.value, low.value);
-        const f64x2 tail = high.error + low.error;
-        const auto boundary = (i32x4)((bits(tail) & splat_i64(0x0000FFFFFFFFFFFF)) == 0);
-        const i32x4 undecided = boundary & was_rounded(tail, high.error, low.error);
-        const i32x4 out_of_range = outside(magnitude_words<double>(product.value), lowest, highest) |
+        const auto low = two_sum(z, product.tail);
+        const auto high = two_sum(product.head, low.head);
+        const V tail = high.tail + low.tail;
+        const auto boundary = words((bits(tail) & 0x0000FFFFFFFFFFFF) == 0);
+        const auto undecided = boundary & was_rounded(tail, high.tail, low.tail);
+        const auto out_of_range = outside(magnitude_words(product.head), lowest, highest) |
                                    upper_magnitude_above(z, highest);
-        return Flagged{high.value + tail, undecided | out_of_range};
+        return Flagged{high.head + tail, undecided | out_of_range};
     }
 };
 

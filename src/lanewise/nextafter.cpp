@@ -10,11 +10,11 @@ namespace {
 
 template <class Lane> struct NextAfter : Kernel<Lane(Lane, Lane)> {
     static constexpr auto callout = callout::nextafter<Lane>;
-    static TARN_INLINE auto fast(Block<Lane> x, Block<Lane> y) {
+    template <class V> static TARN_INLINE auto fast(V x, V y) {
         const auto toward_zero = from_bits(bits(x) - 1);
-        const i32x4 same_sign = ~(words<Lane>(x) ^ words<Lane>(y));  // in the sign bit
+        const auto same_sign = ~(words(x) ^ words(y));  // in the sign bit
         return Flagged{toward_zero,
-                       not_normal<Lane>(x) | not_normal<Lane>(y) | not_normal<Lane>(toward_zero) | same_sign};
+                       not_normal(x) | not_normal(y) | not_normal(toward_zero) | same_sign};
     }
 };
 

@@ -11,21 +11,21 @@ namespace {
 
 template <class Lane> struct Fract : Kernel<Both<Lane, Lane>(Lane)> {
     static constexpr auto callout = callout::fract<Lane>;
-    static constexpr Block<Lane> below_one =
-        splat(sizeof(Lane) == 4 ? Lane(f32(0x3F7FFFFF)) : Lane(f64(0x3FEFFFFFFFFFFFFF)));  // 1 - 2^-24, 1 - 2^-53
+    static constexpr Lane below_one =
+        sizeof(Lane) == 4 ? Lane(f32(0x3F7FFFFF)) : Lane(f64(0x3FEFFFFFFFFFFFFF));  // 1 - 2^-24, 1 - 2^-53
 
-    static TARN_INLINE auto fast(Block<Lane> x) {
+    template <class V> static TARN_INLINE auto fast(V x) {
         const auto floor = round<Rounding::down>(x);
-        const i32x4 zero = (i32x4)(x == splat(Lane(0)));
-        return FlaggedPair{min(x - floor, below_one), floor, zero | not_finite<Lane>(x)};
+        const auto zero = words(x == Lane(0));
+        return FlaggedPair{min(x - floor, below_one), floor, zero | not_finite(x)};
     }
 };
 
 template <class Lane> struct Modf : Kernel<Both<Lane, Lane>(Lane)> {
     static constexpr auto callout = callout::modf<Lane>;
-    static TARN_INLINE auto fast(Block<Lane> x) {
+    template <class V> static TARN_INLINE auto fast(V x) {
         const auto integral = round<Rounding::zero>(x);
-        return FlaggedPair{or_bits(x - integral, sign_bit(x)), integral, not_finite<Lane>(x)};
+        return FlaggedPair{or_bits(x - integral, sign_bit(x)), integral, not_finite(x)};
     }
 };
 

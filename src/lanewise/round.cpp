@@ -8,7 +8,7 @@ namespace tarn {
 namespace {
 
 template <class Lane, Rounding mode> struct RoundInstruction : Kernel<Lane(Lane)> {
-    static TARN_INLINE auto fast(Block<Lane> x) { return round<mode>(x); }
+    template <class V> static TARN_INLINE auto fast(V x) { return round<mode>(x); }
 };
 template <class Lane> struct Ceil : RoundInstruction<Lane, Rounding::up> {};
 template <class Lane> struct Floor : RoundInstruction<Lane, Rounding::down> {};
@@ -18,11 +18,11 @@ template <class Lane> struct NearbyInt : RoundInstruction<Lane, Rounding::curren
 
 // A tie that went down to an even integer is taken up.
 template <class Lane> struct Round : Kernel<Lane(Lane)> {
-    static TARN_INLINE auto fast(Block<Lane> x) {
+    template <class V> static TARN_INLINE auto fast(V x) {
         const auto magnitude = abs(x);
         const auto even = round<Rounding::nearest>(magnitude);
-        const auto tied_down = magnitude - even == splat(Lane(0.5));
-        const auto one_if = from_bits(bits(splat(Lane(1))) & tied_down);
+        const auto tied_down = magnitude - even == Lane(0.5);
+        const auto one_if = where(tied_down, Lane(1));
         return or_bits(even + one_if, sign_bit(x));
     }
 };

@@ -7,18 +7,18 @@ namespace tarn {
 namespace {
 
 template <class Lane> struct Fabs : Kernel<Lane(Lane)> {
-    static TARN_INLINE auto fast(Block<Lane> x) { return abs(x); }
+    template <class V> static TARN_INLINE auto fast(V x) { return abs(x); }
 };
 
 template <class Lane> struct CopySign : Kernel<Lane(Lane, Lane)> {
-    static TARN_INLINE auto fast(Block<Lane> x, Block<Lane> y) { return or_bits(abs(x), sign_bit(y)); }
+    template <class V> static TARN_INLINE auto fast(V x, V y) { return or_bits(abs(x), sign_bit(y)); }
 };
 
 struct Nanf : Kernel<float(std::uint32_t)> {
-    static TARN_INLINE f32x4 fast(u32x4 payload) { return from_bits((i32x4)payload | splat_i32(0x7FC00000)); }
+    template <class U> static TARN_INLINE auto fast(U payload) { return from_bits((BitsOf<U>)payload | 0x7FC00000); }
 };
 struct Nan : Kernel<double(std::uint64_t)> {
-    static TARN_INLINE f64x2 fast(u64x2 payload) { return from_bits((i64x2)payload | splat_i64(0x7FF8000000000000)); }
+    template <class U> static TARN_INLINE auto fast(U payload) { return from_bits((BitsOf<U>)payload | 0x7FF8000000000000); }
 };
 
 }  // namespace

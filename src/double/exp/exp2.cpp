@@ -12,8 +12,8 @@ namespace tarn {
 namespace {
 
 // 2^(n/128) (1 + r q), n in the shifted sum.
-TARN_INLINE f64x2 exp2_sum(f64x2 shifted, f64x2 r, f64x2 q) {
-    const f64x2 table = exp2_128th(shifted);
+template <class V> TARN_INLINE V exp2_sum(V shifted, V r, V q) {
+    const V table = exp2_128th(shifted);
     return raised<7>(table + (table * r) * q, shifted);
 }
 
@@ -23,33 +23,33 @@ constexpr std::uint32_t exp10_bound = 0x40733A70;  // 307.65
 struct Exp2 : Kernel<double(double)> {
     static constexpr auto callout = callout::exp2;
 
-    static constexpr f64x2 shifter = splat_f64(0x42C8000000000000);  // 1.5 * 2^45: rounds to 128ths
-    static constexpr f64x2 c1 = splat_f64(0x3FE62E42FEFA3685);       // 0.6931471805598483
-    static constexpr f64x2 c2 = splat_f64(0x3FCEBFBDFF82CA48);       // 0.24022650695913428
-    static constexpr f64x2 c3 = splat_f64(0x3FAC6B09B180F045);       // 0.05550413409989167
-    static constexpr f64x2 c4 = splat_f64(0x3F83B2AB5BB1268F);       // 0.009618128524510964
+    static constexpr double shifter = f64(0x42C8000000000000);  // 1.5 * 2^45: rounds to 128ths
+    static constexpr double c1 = f64(0x3FE62E42FEFA3685);       // 0.6931471805598483
+    static constexpr double c2 = f64(0x3FCEBFBDFF82CA48);       // 0.24022650695913428
+    static constexpr double c3 = f64(0x3FAC6B09B180F045);       // 0.05550413409989167
+    static constexpr double c4 = f64(0x3F83B2AB5BB1268F);       // 0.009618128524510964
 
-    static TARN_INLINE auto fast(f64x2 x) {
-        const f64x2 shifted = x + shifter;
-        const f64x2 r = x - (shifted - shifter);
+    template <class V> static TARN_INLINE auto fast(V x) {
+        const V shifted = x + shifter;
+        const V r = x - (shifted - shifter);
         return Flagged{exp2_sum(shifted, r, horner(r, c4, c3, c2, c1)), upper_magnitude_above(x, exp2_bound)};
     }
 };
 
 struct Exp2OfTwo : Kernel<double(double)> {
-    static TARN_INLINE auto fast(f64x2 x) { return Exp2::fast(x); }
+    template <class V> static TARN_INLINE auto fast(V x) { return Exp2::fast(x); }
     static f64x2 finish(f64x2 x, f64x2 value, unsigned flags) { return finish_lanes(callout::exp2, x, value, flags); }
 };
 
 struct Exp2Native : Kernel<double(double)> {
     static constexpr auto callout = callout::exp2;
 
-    static constexpr f64x2 c1 = splat_f64(0x3FE62E42FEFA39EF);  // 0.6931471805599453
-    static constexpr f64x2 c2 = splat_f64(0x3FCEBFBDFF82C58F);  // 0.24022650695910072
+    static constexpr double c1 = f64(0x3FE62E42FEFA39EF);  // 0.6931471805599453
+    static constexpr double c2 = f64(0x3FCEBFBDFF82C58F);  // 0.24022650695910072
 
-    static TARN_INLINE auto fast(f64x2 x) {
-        const f64x2 shifted = x + Exp2::shifter;
-        const f64x2 r = x - (shifted - Exp2::shifter);
+    template <class V> static TARN_INLINE auto fast(V x) {
+        const V shifted = x + Exp2::shifter;
+        const V r = x - (shifted - Exp2::shifter);
         return Flagged{exp2_sum(shifted, r, c2 * r + c1), upper_magnitude_above(x, exp2_bound)};
     }
 };
@@ -57,20 +57,20 @@ struct Exp2Native : Kernel<double(double)> {
 struct Exp10 : Kernel<double(double)> {
     static constexpr auto callout = callout::exp10;
 
-    static constexpr f64x2 scale = splat_f64(0x407A934F0979A371);              // 425.20679614558236 = 128 log2 10
-    static constexpr f64x2 shifter = splat_f64(0x4338800000000000);            // 1.53125 * 2^52
-    static constexpr f64x2 log10_2_128th_head = splat_f64(0x3F63441350A00000);  // 0.0023517968411397305
-    static constexpr f64x2 log10_2_128th_tail = splat_f64(0xBD10C0219DC1DA99);  // -1.487744411497209e-14
-    static constexpr f64x2 c1 = splat_f64(0x40026BB1BBB55516);                 // 2.302585092994046
-    static constexpr f64x2 c2 = splat_f64(0x40053524C73CE8E3);                 // 2.650949055239026
-    static constexpr f64x2 c3 = splat_f64(0x4000470591CCEA8B);                 // 2.0346785917911965
-    static constexpr f64x2 c4 = splat_f64(0x3FF2BD767584DB59);                 // 1.1712555494866221
-    static constexpr f64x2 c5 = splat_f64(0x3FE144C03EFAFB54);                 // 0.5396424512945068
+    static constexpr double scale = f64(0x407A934F0979A371);               // 425.20679614558236 = 128 log2 10
+    static constexpr double shifter = f64(0x4338800000000000);             // 1.53125 * 2^52
+    static constexpr double log10_2_128th_head = f64(0x3F63441350A00000);  // 0.0023517968411397305
+    static constexpr double log10_2_128th_tail = f64(0xBD10C0219DC1DA99);  // -1.487744411497209e-14
+    static constexpr double c1 = f64(0x40026BB1BBB55516);                  // 2.302585092994046
+    static constexpr double c2 = f64(0x40053524C73CE8E3);                  // 2.650949055239026
+    static constexpr double c3 = f64(0x4000470591CCEA8B);                  // 2.0346785917911965
+    static constexpr double c4 = f64(0x3FF2BD767584DB59);                  // 1.1712555494866221
+    static constexpr double c5 = f64(0x3FE144C03EFAFB54);                  // 0.5396424512945068
 
-    static TARN_INLINE auto fast(f64x2 x) {
-        const f64x2 shifted = x * scale + shifter;
-        const f64x2 n = shifted - shifter;
-        const f64x2 r = (x - n * log10_2_128th_head) - n * log10_2_128th_tail;
+    template <class V> static TARN_INLINE auto fast(V x) {
+        const V shifted = x * scale + shifter;
+        const V n = shifted - shifter;
+        const V r = (x - n * log10_2_128th_head) - n * log10_2_128th_tail;
         return Flagged{exp2_sum(shifted, r, horner(r, c5, c4, c3, c2, c1)), upper_magnitude_above(x, exp10_bound)};
     }
 };
@@ -79,13 +79,13 @@ struct Exp10Native : Kernel<double(double)> {
     static constexpr auto callout = callout::exp10;
 
     // The coefficients of 2^(u/128).
-    static constexpr f64x2 c1 = splat_f64(0x3F762E42FEFA39EF);  // 0.005415212348514945
-    static constexpr f64x2 c2 = splat_f64(0x3EEEBFBDFF82C58F);  // 1.4662262387640425e-05
+    static constexpr double c1 = f64(0x3F762E42FEFA39EF);  // 0.005415212348514945
+    static constexpr double c2 = f64(0x3EEEBFBDFF82C58F);  // 1.4662262387640425e-05
 
-    static TARN_INLINE auto fast(f64x2 x) {
-        const f64x2 t = x * Exp10::scale;
-        const f64x2 shifted = t + Exp10::shifter;
-        const f64x2 u = t - (shifted - Exp10::shifter);
+    template <class V> static TARN_INLINE auto fast(V x) {
+        const V t = x * Exp10::scale;
+        const V shifted = t + Exp10::shifter;
+        const V u = t - (shifted - Exp10::shifter);
         return Flagged{exp2_sum(shifted, u, c2 * u + c1), upper_magnitude_above(x, exp10_bound)};
     }
 };

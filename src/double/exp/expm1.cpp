@@ -11,39 +11,39 @@ namespace {
 
 #include "tables/expm1_pairs.inc"
 
-constexpr f64x2 one = splat(1.0);
-constexpr f64x2 scale = splat_f64(0x40671547652B82FE);    // 184.6649652337873 = 128/ln 2
-constexpr f64x2 shifter = splat_f64(0x42F80000001FF800);  // 1.5 * 2^48 and the exponent bias, in 16ths
-constexpr f64x2 bound = splat_f64(0x40861DA04CBAFE43);    // 707.7032713517041
-constexpr f64x2 c2 = splat_f64(0x3FDFFFFFFFFFFE5C);       // 0.4999999999999767
-constexpr f64x2 c3 = splat_f64(0x3FC555555555541D);       // 0.166666666666658
+constexpr double one = 1.0;
+constexpr double scale = f64(0x40671547652B82FE);    // 184.6649652337873 = 128/ln 2
+constexpr double shifter = f64(0x42F80000001FF800);  // 1.5 * 2^48 and the exponent bias, in 16ths
+constexpr double bound = f64(0x40861DA04CBAFE43);    // 707.7032713517041
+constexpr double c2 = f64(0x3FDFFFFFFFFFFE5C);       // 0.4999999999999767
+constexpr double c3 = f64(0x3FC555555555541D);       // 0.166666666666658
 
 // n, the row and the exponent field of 2^(n/128).
-struct Split {
-    f64x2 n;
-    i64x2 row, exponent;
+template <class V> struct Split {
+    V n;
+    BitsOf<V> row, exponent;
 };
-TARN_INLINE Split split(f64x2 x) {
-    const f64x2 n = round<Rounding::nearest>(x * scale);
-    const i64x2 shifted = bits(n + shifter);
-    return {n, shift_right_logical(shifted & splat_i64(0x7F0), 4), (shifted & splat_i64(0x3FF800)) << 41};
+template <class V> TARN_INLINE Split<V> split(V x) {
+    const V n = round<Rounding::nearest>(x * scale);
+    const BitsOf<V> shifted = bits(n + shifter);
+    return {n, shift_right_logical(shifted & 0x7F0, 4), (shifted & 0x3FF800) << 41};
 }
 
 struct Expm1 : Kernel<double(double)> {
     static constexpr auto callout = callout::expm1;
 
-    static constexpr f64x2 ln2_128th_head = splat_f64(0x3F762E42FEF80000);  // 0.005415212348111709
-    static constexpr f64x2 ln2_128th_tail = splat_f64(0x3D41CF79ABC9E3B4);  // 1.2655086083325438e-13
-    static constexpr f64x2 c4 = splat_f64(0x3FA55555C2A9C0F3);              // 0.04166667939432669
-    static constexpr f64x2 c5 = splat_f64(0x3F81111168877F38);              // 0.008333335878830547
+    static constexpr double ln2_128th_head = f64(0x3F762E42FEF80000);  // 0.005415212348111709
+    static constexpr double ln2_128th_tail = f64(0x3D41CF79ABC9E3B4);  // 1.2655086083325438e-13
+    static constexpr double c4 = f64(0x3FA55555C2A9C0F3);              // 0.04166667939432669
+    static constexpr double c5 = f64(0x3F81111168877F38);              // 0.008333335878830547
 
-    static TARN_INLINE auto fast(f64x2 x) {
+    template <class V> static TARN_INLINE auto fast(V x) {
         const auto [n, row, exponent] = split(x);
-        const f64x2 r = (x - n * ln2_128th_head) - n * ln2_128th_tail;
-        const f64x2 q = horner(r, c5, c4, c3, c2) * (r * r) + r;
+        const V r = (x - n * ln2_128th_head) - n * ln2_128th_tail;
+        const V q = horner(r, c5, c4, c3, c2) * (r * r) + r;
         const auto [heads, tails] = gather_columns(expm1_pairs, row);
-        const f64x2 h = or_bits(heads, exponent);
-        const f64x2 l = tails * from_bits(exponent);
+        const V h = or_bits(heads, exponent);
+        const V l = tails * from_bits(exponent);
         return Flagged{or_bits((h - one) + (l + h * q), sign_bit(x)), not_within(x, bound)};
     }
 };
@@ -51,13 +51,13 @@ struct Expm1 : Kernel<double(double)> {
 struct Expm1Native : Kernel<double(double)> {
     static constexpr auto callout = callout::expm1;
 
-    static constexpr f64x2 ln2_128th = splat_f64(0x3F762E42FEFA39EF);  // 0.005415212348514945
+    static constexpr double ln2_128th = f64(0x3F762E42FEFA39EF);  // 0.005415212348514945
 
-    static TARN_INLINE auto fast(f64x2 x) {
+    template <class V> static TARN_INLINE auto fast(V x) {
         const auto [n, row, exponent] = split(x);
-        const f64x2 r = x - n * ln2_128th;
-        const f64x2 q = (c3 * r + c2) * (r * r) + r;
-        const f64x2 h = or_bits(gather_columns(expm1_pairs, row).first, exponent);
+        const V r = x - n * ln2_128th;
+        const V q = (c3 * r + c2) * (r * r) + r;
+        const V h = or_bits(gather_columns(expm1_pairs, row).first, exponent);
         return Flagged{or_bits((h - one) + h * q, sign_bit(x)), not_within(x, bound)};
     }
 };

@@ -9,11 +9,11 @@ namespace tarn {
 #include "tables/exp2_128ths.inc"
 
 // 2^(j/128), j in the low bits of a shifted sum.
-TARN_INLINE f64x2 exp2_128th(f64x2 shifted) { return gather(exp2_128ths, bits(shifted) & splat_i64(127)); }
+template <class V> TARN_INLINE V exp2_128th(V shifted) { return gather(exp2_128ths, bits(shifted) & 127); }
 
 // y times 2^(n >> index_bits), n in the low bits of a shifted sum; wrapping makes a negative n subtract.
-template <int index_bits> TARN_INLINE f64x2 raised(f64x2 y, f64x2 shifted) {
-    const i64x2 whole = bits(shifted) & ~splat_i64((1 << index_bits) - 1);
+template <int index_bits, class V> TARN_INLINE V raised(V y, V shifted) {
+    const BitsOf<V> whole = bits(shifted) & ~i64((1 << index_bits) - 1);
     return from_bits(bits(y) + (whole << (52 - index_bits)));
 }
 

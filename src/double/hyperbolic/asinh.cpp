@@ -13,15 +13,15 @@ namespace {
 
 using namespace inverse_hyperbolic;
 
-constexpr std::uint32_t bound = 0x5FDFFFFF;             // below 2^511: the square is finite
-constexpr f64x2 tiny = splat_f64(0x3E30000000000000);   // 2^-28
+constexpr std::uint32_t bound = 0x5FDFFFFF;       // below 2^511: the square is finite
+constexpr double tiny = f64(0x3E30000000000000);  // 2^-28
 
 struct Asinh : Kernel<double(double)> {
     static constexpr auto callout = callout::asinh;
 
-    static TARN_INLINE auto fast(f64x2 x) {
-        const f64x2 a = abs(x);
-        const f64x2 y = select(a < tiny, a, inverse_hyperbolic::asinh(a));
+    template <class V> static TARN_INLINE auto fast(V x) {
+        const V a = abs(x);
+        const V y = select(a < tiny, a, inverse_hyperbolic::asinh(a));
         return Flagged{or_bits(y, sign_bit(x)), upper_magnitude_above(x, bound)};
     }
 };
@@ -29,27 +29,25 @@ struct Asinh : Kernel<double(double)> {
 struct AsinhNative : Kernel<double(double)> {
     static constexpr auto callout = callout::asinh;
 
-    static TARN_INLINE auto fast(f64x2 x) {
-        const f64x2 a = abs(x);
-        const f64x2 y = native_log_of(sum_of(sqrt(a * a + one), a));
+    template <class V> static TARN_INLINE auto fast(V x) {
+        const V a = abs(x);
+        const V y = native_log_of(fast_two_sum(sqrt(a * a + one), a));
         return Flagged{or_bits(y, sign_bit(x)), upper_magnitude_above(x, bound)};
     }
 };
 
 struct Acosh : Kernel<double(double)> {
     static constexpr auto callout = callout::acosh;
-    template <class Lane> static constexpr Lane last_lane = 2;
 
-    static TARN_INLINE auto outside(f64x2 x) { return (i32x4)~(x > one) | upper_magnitude_above(x, bound); }
-    static TARN_INLINE auto fast(f64x2 x) { return Flagged{inverse_hyperbolic::acosh(x), outside(x)}; }
+    template <class V> static TARN_INLINE auto outside(V x) { return words(~(x > one)) | upper_magnitude_above(x, bound); }
+    template <class V> static TARN_INLINE auto fast(V x) { return Flagged{inverse_hyperbolic::acosh(x), outside(x)}; }
 };
 
 struct AcoshNative : Kernel<double(double)> {
     static constexpr auto callout = callout::acosh;
-    template <class Lane> static constexpr Lane last_lane = 2;
 
-    static TARN_INLINE auto fast(f64x2 x) {
-        return Flagged{native_log_of(sum_of(x, sqrt((x - one) * (x + one)))), Acosh::outside(x)};
+    template <class V> static TARN_INLINE auto fast(V x) {
+        return Flagged{native_log_of(fast_two_sum(x, sqrt((x - one) * (x + one)))), Acosh::outside(x)};
     }
 };
 

@@ -12,16 +12,16 @@ namespace {
 
 using namespace inverse_hyperbolic;
 
-constexpr f64x2 half = splat(0.5);
+constexpr double half = 0.5;
 constexpr std::uint32_t below_one = 0x3FEFFFFF;
-constexpr f64x2 tiny = splat_f64(0x3E30000000000000);  // 2^-28
+constexpr double tiny = f64(0x3E30000000000000);  // 2^-28
 
 struct Atanh : Kernel<double(double)> {
     static constexpr auto callout = callout::atanh;
 
-    static TARN_INLINE auto fast(f64x2 x) {
-        const f64x2 a = abs(x);
-        const f64x2 y = select(a < tiny, a, twice_atanh(a) * half);
+    template <class V> static TARN_INLINE auto fast(V x) {
+        const V a = abs(x);
+        const V y = select(a < tiny, a, twice_atanh(a) * half);
         return Flagged{or_bits(y, sign_bit(x)), upper_magnitude_above(x, below_one)};
     }
 };
@@ -29,10 +29,10 @@ struct Atanh : Kernel<double(double)> {
 struct AtanhNative : Kernel<double(double)> {
     static constexpr auto callout = callout::atanh;
 
-    static TARN_INLINE auto fast(f64x2 x) {
-        const f64x2 a = abs(x);
-        const f64x2 w = (a + a) / (one - a);
-        const f64x2 y = native_log_of(sum_of(max(w, one), min(w, one)));
+    template <class V> static TARN_INLINE auto fast(V x) {
+        const V a = abs(x);
+        const V w = (a + a) / (one - a);
+        const V y = native_log_of(fast_two_sum(max(w, one), min(w, one)));
         return Flagged{y * or_bits(half, sign_bit(x)), upper_magnitude_above(x, below_one)};
     }
 };

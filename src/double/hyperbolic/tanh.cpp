@@ -12,14 +12,14 @@ namespace tarn {
 namespace {
 
 // From 1.125 2^1023 on, infinities and NaNs.
-TARN_INLINE i32x4 beyond(const TanhPlace& place) { return place.top > splat_i32(0x7FE00000); }
+template <class V> TARN_INLINE WordsOf<V> beyond(const TanhPlace<V>& place) { return place.top > 0x7FE00000; }
 
 struct Tanh : Kernel<double(double)> {
     static constexpr auto callout = callout::tanh;
-    static constexpr int at_a_time = 8;
+    static constexpr int blocks_at_a_time = 4;
 
-    static TARN_INLINE auto fast(f64x2 x) {
-        const TanhPlace place = tanh_place(x);
+    template <class V> static TARN_INLINE auto fast(V x) {
+        const TanhPlace<V> place = tanh_place(x);
         return Flagged{tanh_sum(x, place), beyond(place)};
     }
 };
@@ -27,14 +27,14 @@ struct Tanh : Kernel<double(double)> {
 struct TanhNative : Kernel<double(double)> {
     static constexpr auto callout = callout::tanh;
 
-    static TARN_INLINE auto fast(f64x2 x) {
-        const TanhPlace place = tanh_place(x);
-        const f64x2 h = place.h, h2 = h * h;
+    template <class V> static TARN_INLINE auto fast(V x) {
+        const TanhPlace<V> place = tanh_place(x);
+        const V h = place.h, h2 = h * h;
         const auto [q4, q5] = gather_columns<8>(tanh_parts, place.row);
         const auto [q2, q3] = gather_columns<10>(tanh_parts, place.row);
         const auto [q0, q1] = gather_columns<12>(tanh_parts, place.row);
-        const f64x2 slope = gather_columns<14>(tanh_parts, place.row).first;
-        const f64x2 q = horner(h2, q4, q2, q0) + horner(h2, q5, q3, q1) * h;
+        const V slope = gather_columns<14>(tanh_parts, place.row).first;
+        const V q = horner(h2, q4, q2, q0) + horner(h2, q5, q3, q1) * h;
         return Flagged{or_bits(place.head + h * (slope + h * q), sign_bit(x)), beyond(place)};
     }
 };

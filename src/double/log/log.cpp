@@ -14,11 +14,11 @@ namespace {
 
 template <class Base, auto special> struct Log : Kernel<double(double)> {
     static constexpr auto callout = special;
-    static TARN_INLINE auto fast(f64x2 x) { return Flagged{table_log<Base>(x, splat(0.0)), not_positive_normal(x)}; }
+    template <class V> static TARN_INLINE auto fast(V x) { return Flagged{table_log<Base>(x, V{}), not_positive_normal(x)}; }
 };
 template <class Base, auto special> struct LogNative : Kernel<double(double)> {
     static constexpr auto callout = special;
-    static TARN_INLINE auto fast(f64x2 x) { return Flagged{native_table_log<Base>(x), not_positive_normal(x)}; }
+    template <class V> static TARN_INLINE auto fast(V x) { return Flagged{native_table_log<Base>(x), not_positive_normal(x)}; }
 };
 
 using LogE = Log<BaseE, callout::log>;
@@ -29,7 +29,7 @@ using Log10 = Log<Base10, callout::log10>;
 using Log10Native = LogNative<Base10, callout::log10>;
 
 struct Log2OfTwo : Kernel<double(double)> {
-    static TARN_INLINE auto fast(f64x2 x) { return Log2::fast(x); }
+    template <class V> static TARN_INLINE auto fast(V x) { return Log2::fast(x); }
     static f64x2 finish(f64x2 x, f64x2 value, unsigned flags) { return finish_lanes(callout::log2, x, value, flags); }
 };
 

@@ -12,44 +12,44 @@ namespace {
 
 #include "tables/log1p_rows.inc"
 
-constexpr f64x2 one = splat(1.0);
-constexpr f64x2 ln2_head = splat_f64(0x3FE62E42FEFA0000);  // 0.6931471805582987
-constexpr f64x2 ln2_tail = splat_f64(0x3D7CF79ABC9E0000);  // 1.6465949582866463e-12
-constexpr f64x2 tiny = splat_f64(0x3E00000000000000);      // 2^-31: the sum needs no cut
+constexpr double one = 1.0;
+constexpr double ln2_head = f64(0x3FE62E42FEFA0000);  // 0.6931471805582987
+constexpr double ln2_tail = f64(0x3D7CF79ABC9E0000);  // 1.6465949582866463e-12
+constexpr double tiny = f64(0x3E00000000000000);      // 2^-31: the sum needs no cut
 
-TARN_INLINE i64x2 outside(f64x2 x) {
-    return (x < splat_f64(0xBFEFFFFFFFFFFFFF)) |                             // -0.9999999999999999
-           (i64x2)_mm_cmpnle_pd(x, splat_f64(0x7F3FFFFFFFFFF000));  // 8.77779851006591e+304
+template <class V> TARN_INLINE BitsOf<V> outside(V x) {
+    return (x < f64(0xBFEFFFFFFFFFFFFF)) |                             // -0.9999999999999999
+           ~(x <= f64(0x7F3FFFFFFFFFF000));  // 8.77779851006591e+304
 }
 
 // The reduced sum: s R 2^e - 1 and c R 2^e, with R's row and the exponent that goes with it.
-struct Reduced {
-    f64x2 r, el, k;
-    i64x2 row;
+template <class V> struct Reduced {
+    V r, el, k;
+    BitsOf<V> row;
 };
-TARN_INLINE Reduced reduced(f64x2 s, f64x2 c) {
-    const f32x4 R = rounded_reciprocal(significand_1024th(s));
-    const f64x2 scale = widen_low(R) * from_bits(splat_i64(0x7F40000000000000) - (bits(s) & splat_i64(0x7FF0000000000000)));
+template <class V> TARN_INLINE Reduced<V> reduced(V s, V c) {
+    const Like<V, float> R = rounded_reciprocal(significand_1024th(s));
+    const V scale = widen_low(R) * from_bits(0x7F40000000000000 - (bits(s) & 0x7FF0000000000000));
     return {s * scale - one, c * scale, exponent_for(s, R), row_of_reciprocal(R)};
 }
 
 struct Log1p : Kernel<double(double)> {
     static constexpr auto callout = callout::log1p;
 
-    static TARN_INLINE auto fast(f64x2 x) {
-        const f64x2 whole = one + x;
-        const f64x2 s = from_bits(bits(whole) & ((abs(x) < tiny) | splat_i64(0xFFFFFFFFFFFFFC00)));
-        const f64x2 c = (max(one, x) - s) + min(one, x);
+    template <class V> static TARN_INLINE auto fast(V x) {
+        const V whole = one + x;
+        const V s = from_bits(bits(whole) & ((abs(x) < tiny) | i64(0xFFFFFFFFFFFFFC00)));
+        const V c = (max(one, x) - s) + min(one, x);
         const auto [r, el, k, row] = reduced(s, c);
         const auto [table_head, table_tail] = gather_columns(log1p_rows, row);
-        const f64x2 sum = r + el;
-        const f64x2 lost = el - (sum - r);
-        const f64x2 sum2 = sum * sum;
-        const f64x2 p = sum2 * ((BaseE::c2 + BaseE::c3 * sum) + sum2 * (BaseE::c4 + BaseE::c5 * sum));
-        const f64x2 a = k * ln2_head + table_head;
-        const f64x2 y = a + sum;
-        const f64x2 error = sum - (y - a);
-        const f64x2 result = (((k * ln2_tail + table_tail) + error) + (p + lost)) + y;
+        const V sum = r + el;
+        const V lost = el - (sum - r);
+        const V sum2 = sum * sum;
+        const V p = sum2 * ((BaseE::c2 + BaseE::c3 * sum) + sum2 * (BaseE::c4 + BaseE::c5 * sum));
+        const V a = k * ln2_head + table_head;
+        const V y = a + sum;
+        const V error = sum - (y - a);
+        const V result = (((k * ln2_tail + table_tail) + error) + (p + lost)) + y;
         return Flagged{or_bits(result, sign_bit(x)), outside(x)};
     }
 };
@@ -57,12 +57,12 @@ struct Log1p : Kernel<double(double)> {
 struct Log1pNative : Kernel<double(double)> {
     static constexpr auto callout = callout::log1p;
 
-    static TARN_INLINE auto fast(f64x2 x) {
-        const f64x2 s = from_bits(bits(one + x) & ((abs(x) < tiny) | splat_i64(0xFFFFFFFFFFFFFC00)));
+    template <class V> static TARN_INLINE auto fast(V x) {
+        const V s = from_bits(bits(one + x) & ((abs(x) < tiny) | i64(0xFFFFFFFFFFFFFC00)));
         const auto [r, el, k, row] = reduced(s, (max(one, x) - s) + min(one, x));
-        const f64x2 sum = r + el;
-        const f64x2 p = sum + sum * sum * (BaseE::c2 + BaseE::c3 * sum);
-        const f64x2 result = (p + gather(log_rows, row)) + BaseE::exponent(k);
+        const V sum = r + el;
+        const V p = sum + sum * sum * (BaseE::c2 + BaseE::c3 * sum);
+        const V result = (p + gather(log_rows, row)) + BaseE::exponent(k);
         return Flagged{or_bits(result, sign_bit(x)), outside(x)};
     }
 };

@@ -8,26 +8,26 @@ namespace tarn {
 
 #include "tables/log2_reciprocal_rows.inc"
 
-TARN_INLINE f64x2 from_row_point(const Log2Reduction& x) {
-    return x.m - from_bits((x.row << 42) + bits(splat(1.0)));
+template <class V> TARN_INLINE V from_row_point(const Log2Reduction<V>& x) {
+    return x.m - from_bits((x.row << 42) + bits(1.0));
 }
-TARN_INLINE f64x2 native_log2(const Log2Reduction& x, f64x2 from_point) {
-    const f64x2 a3 = splat_f64(0x3FDEC70AAC125F13);  // 0.48089854053385855
-    const f64x2 a2 = splat_f64(0xBFE7154787CFD1D5);  // -0.7213475849699146
-    const f64x2 a1 = splat_f64(0x3FF71547652B82D4);  // 1.442695040888954
+template <class V> TARN_INLINE V native_log2(const Log2Reduction<V>& x, V from_point) {
+    constexpr double a3 = f64(0x3FDEC70AAC125F13);  // 0.48089854053385855
+    constexpr double a2 = f64(0xBFE7154787CFD1D5);  // -0.7213475849699146
+    constexpr double a1 = f64(0x3FF71547652B82D4);  // 1.442695040888954
     const auto [reciprocal, log] = gather_columns(log2_reciprocal_rows, x.row);
-    const f64x2 r = from_point * reciprocal;
+    const V r = from_point * reciprocal;
     return (x.e + log) + horner(r, a3, a2, a1) * r;
 }
 
-TARN_INLINE f64x2 native_log2(f64x2 x) {
-    const Log2Reduction at = log2_reduction(x);
+template <class V> TARN_INLINE V native_log2(V x) {
+    const Log2Reduction<V> at = log2_reduction(x);
     return native_log2(at, from_row_point(at));
 }
 
 // Of x + tail, the tail below an ulp of x.
-TARN_INLINE f64x2 native_log2_of_sum(f64x2 x, f64x2 tail) {
-    const Log2Reduction at = log2_reduction(x);
+template <class V> TARN_INLINE V native_log2_of_sum(V x, V tail) {
+    const Log2Reduction<V> at = log2_reduction(x);
     return native_log2(at, from_row_point(at) + tail * inverse_scale(x));
 }
 

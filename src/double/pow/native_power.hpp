@@ -7,13 +7,13 @@
 
 namespace tarn {
 
-TARN_INLINE Flagged<f64x2, i32x4> native_power(f64x2 x, f64x2 z) {
-    const f64x2 shifter = splat_f64(0x42C8000000000000);  // 52776558133248.0 = 1.5 * 2^45
-    const f64x2 c2 = splat_f64(0x3FCEBFC0C3C5D71B);       // 0.2402268367692891
-    const f64x2 c1 = splat_f64(0x3FE62E4454752F82);       // 0.6931478166165877
-    const f64x2 shifted = z + shifter;
-    const f64x2 r = z - (shifted - shifter);
-    const f64x2 T = raised<7>(exp2_128th(shifted), shifted);
+template <class V> TARN_INLINE Flagged<V, WordsOf<V>> native_power(V x, V z) {
+    constexpr double shifter = f64(0x42C8000000000000);  // 52776558133248.0 = 1.5 * 2^45
+    constexpr double c2 = f64(0x3FCEBFC0C3C5D71B);       // 0.2402268367692891
+    constexpr double c1 = f64(0x3FE62E4454752F82);       // 0.6931478166165877
+    const V shifted = z + shifter;
+    const V r = z - (shifted - shifter);
+    const V T = raised<7>(exp2_128th(shifted), shifted);
     return {exp2_sum(T, r, c1 + c2 * r), not_positive_normal(x) | upper_magnitude_above(z, largest_exponent)};
 }
 

@@ -13,7 +13,7 @@ namespace {
 template <auto special_lane> struct PowerOf : Kernel<double(double, double)> {
     static constexpr auto callout = special_lane;
 
-    static TARN_INLINE auto fast(f64x2 x, f64x2 y) {
+    template <class V> static TARN_INLINE auto fast(V x, V y) {
         const auto power = pair_power(x, log2_of_power(log2_pair(x), y), largest_exponent);
         return Flagged{power.value, power.special | upper_magnitude_above(y, 0x7F7FFFFF)};  // from 2^1017 on
     }
@@ -22,7 +22,7 @@ template <auto special_lane> struct PowerOf : Kernel<double(double, double)> {
 template <auto special_lane> struct PowerNative : Kernel<double(double, double)> {
     static constexpr auto callout = special_lane;
 
-    static TARN_INLINE auto fast(f64x2 x, f64x2 y) { return native_power(x, native_log2(x) * y); }
+    template <class V> static TARN_INLINE auto fast(V x, V y) { return native_power(x, native_log2(x) * y); }
 };
 
 }  // namespace

@@ -11,7 +11,7 @@ namespace {
 struct Pown : Kernel<double(double, std::int32_t)> {
     static constexpr auto callout = callout::pown;
 
-    static TARN_INLINE auto fast(f64x2 x, i32x4 n) {
+    template <class V> static TARN_INLINE auto fast(V x, WordsOf<V> n) {
         return pair_power(x, log2_of_power(log2_pair(x), to_f64(n)), largest_integer_exponent);
     }
 };
@@ -19,7 +19,7 @@ struct Pown : Kernel<double(double, std::int32_t)> {
 struct PownNative : Kernel<double(double, std::int32_t)> {
     static constexpr auto callout = callout::pown;
 
-    static TARN_INLINE auto fast(f64x2 x, i32x4 n) { return native_power(x, native_log2(x) * to_f64(n)); }
+    template <class V> static TARN_INLINE auto fast(V x, WordsOf<V> n) { return native_power(x, native_log2(x) * to_f64(n)); }
 };
 
 }  // namespace

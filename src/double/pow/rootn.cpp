@@ -12,7 +12,7 @@ namespace {
 struct Rootn : Kernel<double(double, std::int32_t)> {
     static constexpr auto callout = callout::rootn;
 
-    static TARN_INLINE auto fast(f64x2 x, i32x4 n) {
+    template <class V> static TARN_INLINE auto fast(V x, WordsOf<V> n) {
         return pair_power(x, log2_of_root(log2_pair(x), to_f64(n)), largest_exponent);
     }
 };
@@ -20,7 +20,7 @@ struct Rootn : Kernel<double(double, std::int32_t)> {
 struct RootnNative : Kernel<double(double, std::int32_t)> {
     static constexpr auto callout = callout::rootn;
 
-    static TARN_INLINE auto fast(f64x2 x, i32x4 n) { return native_power(x, native_log2(x) / to_f64(n)); }
+    template <class V> static TARN_INLINE auto fast(V x, WordsOf<V> n) { return native_power(x, native_log2(x) / to_f64(n)); }
 };
 
 }  // namespace

@@ -12,7 +12,7 @@ namespace {
 template <class Root, auto special_lane, bool native = false> struct CubeRootOf : Kernel<double(double)> {
     static constexpr auto callout = special_lane;
 
-    static TARN_INLINE auto fast(f64x2 x) {
+    template <class V> static TARN_INLINE auto fast(V x) {
         return Flagged{cube_root_steps<Root, native>(x), not_positive_normal(abs(x))};
     }
 };

@@ -10,26 +10,26 @@ namespace tarn {
 namespace {
 
 // Zeros and subnormals, in the upper words.
-TARN_INLINE i32x4 without_exponent(f64x2 x) { return ((i32x4)bits(x) & splat_i32(0x7FF00000)) == splat(0); }
+template <class V> TARN_INLINE WordsOf<V> without_exponent(V x) { return (words(x) & 0x7FF00000) == 0; }
 
 struct Div : Kernel<double(double, double)> {
     static constexpr auto callout = callout::div;
 
-    static TARN_INLINE auto fast(f64x2 x, f64x2 y) { return Flagged{x / y, without_exponent(y)}; }
+    template <class V> static TARN_INLINE auto fast(V x, V y) { return Flagged{x / y, without_exponent(y)}; }
 };
 
 struct DivNative : Kernel<double(double, double)> {
-    static TARN_INLINE f64x2 fast(f64x2 x, f64x2 y) { return x / y; }
+    template <class V> static TARN_INLINE V fast(V x, V y) { return x / y; }
 };
 
 struct Inv : Kernel<double(double)> {
     static constexpr auto callout = callout::inv;
 
-    static TARN_INLINE auto fast(f64x2 x) { return Flagged{splat(1.0) / x, without_exponent(x)}; }
+    template <class V> static TARN_INLINE auto fast(V x) { return Flagged{1.0 / x, without_exponent(x)}; }
 };
 
 struct InvNative : Kernel<double(double)> {
-    static TARN_INLINE f64x2 fast(f64x2 x) { return splat(1.0) / x; }
+    template <class V> static TARN_INLINE V fast(V x) { return 1.0 / x; }
 };
 
 }  // namespace

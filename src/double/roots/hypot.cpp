@@ -12,14 +12,14 @@ struct Hypot : Kernel<double(double, double)> {
     static constexpr auto callout = callout::hypot;
     static constexpr std::uint32_t lowest = 0x07B00000;  // of 2^-900
 
-    static TARN_INLINE auto fast(f64x2 x, f64x2 y) {
-        const f64x2 sum = x * x + y * y;
+    template <class V> static TARN_INLINE auto fast(V x, V y) {
+        const V sum = x * x + y * y;
         return Flagged{sqrt(sum), below_or_not_finite(sum, lowest)};
     }
 };
 
 struct HypotNative : Kernel<double(double, double)> {
-    static TARN_INLINE f64x2 fast(f64x2 x, f64x2 y) { return sqrt(x * x + y * y); }
+    template <class V> static TARN_INLINE V fast(V x, V y) { return sqrt(x * x + y * y); }
 };
 
 }  // namespace

@@ -11,14 +11,14 @@ namespace {
 
 struct Rsqrt : Kernel<double(double)> {
     static constexpr auto callout = callout::rsqrt;
-    static constexpr int at_a_time = 4;  // the root and the division take their turns
+    static constexpr int blocks_at_a_time = 2;                  // the root and the division take their turns
     static constexpr std::uint32_t lowest = 0x07B00000;  // of 2^-900: below, residuals reach the end of the range
 
-    static TARN_INLINE auto fast(f64x2 x) { return Flagged{corrected_rsqrt(x), below_or_not_finite(x, lowest)}; }
+    template <class V> static TARN_INLINE auto fast(V x) { return Flagged{corrected_rsqrt(x), below_or_not_finite(x, lowest)}; }
 };
 
 struct RsqrtNative : Kernel<double(double)> {
-    static TARN_INLINE f64x2 fast(f64x2 x) { return splat(1.0) / sqrt(x); }
+    template <class V> static TARN_INLINE V fast(V x) { return 1.0 / sqrt(x); }
 };
 
 }  // namespace

@@ -7,7 +7,7 @@ namespace tarn {
 namespace {
 
 struct Sqrt : Kernel<double(double)> {
-    static TARN_INLINE f64x2 fast(f64x2 x) { return sqrt(x); }
+    template <class V> static TARN_INLINE V fast(V x) { return sqrt(x); }
 };
 
 }  // namespace

@@ -11,53 +11,53 @@ namespace {
 
 #include "tables/erf_points.inc"
 
-constexpr f64x2 largest = splat_f64(0x4017F80000000000);  // 5.9921875 = 767/128
-constexpr f64x2 shifter = splat_f64(0x42C0000000000000);  // 2^45: rounds to 128ths
-constexpr f64x2 tiny = splat_f64(0x2FF0000000000000);     // 2^-256
-constexpr f64x2 third = splat_f64(0xBFD5555555555555);    // -0.3333333333333333
-constexpr f64x2 k4 = splat_f64(0x3FE5555555554B0C);       // 0.6666666666663743
+constexpr double largest = f64(0x4017F80000000000);  // 5.9921875 = 767/128
+constexpr double shifter = f64(0x42C0000000000000);  // 2^45: rounds to 128ths
+constexpr double tiny = f64(0x2FF0000000000000);     // 2^-256
+constexpr double third = f64(0xBFD5555555555555);    // -0.3333333333333333
+constexpr double k4 = f64(0x3FE5555555554B0C);       // 0.6666666666663743
 
 // u and the square of d, 0 where it would underflow; erf(c) and D d with the sign of x. The order of the
 // minima matters: a NaN x leaves the clamp as the row's place, and comes back as the offset.
-struct Step {
-    f64x2 u, d2, value, g;
+template <class V> struct Step {
+    V u, d2, value, g;
 };
-TARN_INLINE Step step(f64x2 x) {
-    const f64x2 a = abs(x);
-    const f64x2 clamped = min(a, largest);
-    const f64x2 shifted = clamped + shifter;
-    const f64x2 c = shifted - shifter;
-    const f64x2 d = clamped - c;
-    const f64x2 squared = where(clamped > tiny, d);
-    const auto [value, slope] = gather_columns(erf_points, bits(shifted) & splat_i64(0x3FF));
+template <class V> TARN_INLINE Step<V> step(V x) {
+    const V a = abs(x);
+    const V clamped = min(a, largest);
+    const V shifted = clamped + shifter;
+    const V c = shifted - shifter;
+    const V d = clamped - c;
+    const V squared = where(clamped > tiny, d);
+    const auto [value, slope] = gather_columns(erf_points, bits(shifted) & 0x3FF);
     return {c * d, squared * squared, or_bits(value, sign_bit(x)), slope * xor_bits(min(d, a), sign_bit(x))};
 }
 
 struct Erf : Kernel<double(double)> {
-    static constexpr int at_a_time = 4;
-    static constexpr f64x2 k1 = splat_f64(0xBFA6C16DB05BDEA5);  // -0.044444492128545655
-    static constexpr f64x2 k2 = splat_f64(0x3FC1111235A363B1);  // 0.13333346957258876
-    static constexpr f64x2 k3 = splat_f64(0xBFD55555555547F6);  // -0.3333333333331433
-    static constexpr f64x2 m1 = splat_f64(0x3FCC71CA1C71EB57);  // 0.2222225798503483
-    static constexpr f64x2 m2 = splat_f64(0xBFD9999C2BE2DDA8);  // -0.4000006130767937
-    static constexpr f64x2 m3 = splat_f64(0x3FDFFFFFFFFFD4CD);  // 0.4999999999993861
-    static constexpr f64x2 j1 = splat_f64(0xBFC5555800001B4F);  // -0.1666669845582995
-    static constexpr f64x2 j2 = splat_f64(0x3FB9999E2BE2F122);  // 0.10000027247855717
+    static constexpr int blocks_at_a_time = 2;
+    static constexpr double k1 = f64(0xBFA6C16DB05BDEA5);  // -0.044444492128545655
+    static constexpr double k2 = f64(0x3FC1111235A363B1);  // 0.13333346957258876
+    static constexpr double k3 = f64(0xBFD55555555547F6);  // -0.3333333333331433
+    static constexpr double m1 = f64(0x3FCC71CA1C71EB57);  // 0.2222225798503483
+    static constexpr double m2 = f64(0xBFD9999C2BE2DDA8);  // -0.4000006130767937
+    static constexpr double m3 = f64(0x3FDFFFFFFFFFD4CD);  // 0.4999999999993861
+    static constexpr double j1 = f64(0xBFC5555800001B4F);  // -0.1666669845582995
+    static constexpr double j2 = f64(0x3FB9999E2BE2F122);  // 0.10000027247855717
 
-    static TARN_INLINE auto fast(f64x2 x) {
+    template <class V> static TARN_INLINE auto fast(V x) {
         const auto [u, d2, value, g] = step(x);
-        const f64x2 p1 = horner(u, k1, k2, k3, k4) * (u * u) - u;
-        const f64x2 p2 = horner(u, m1, m2, m3) * u;
-        const f64x2 p3 = (j1 * u + j2) * d2 + third;
-        const f64x2 p = (p2 + p3) * d2 + p1;
+        const V p1 = horner(u, k1, k2, k3, k4) * (u * u) - u;
+        const V p2 = horner(u, m1, m2, m3) * u;
+        const V p3 = (j1 * u + j2) * d2 + third;
+        const V p = (p2 + p3) * d2 + p1;
         return (p * g + g) + value;
     }
 };
 
 struct ErfNative : Kernel<double(double)> {
-    static TARN_INLINE auto fast(f64x2 x) {
+    template <class V> static TARN_INLINE auto fast(V x) {
         const auto [u, d2, value, g] = step(x);
-        const f64x2 p = third * d2 + (k4 * (u * u) - u);
+        const V p = third * d2 + (k4 * (u * u) - u);
         return (p * g + g) + value;
     }
 };

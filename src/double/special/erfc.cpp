@@ -15,21 +15,21 @@ namespace {
 struct Native {
     static constexpr bool has_tail = false;
 
-    static TARN_INLINE f64x2 series(f64x2 u, f64x2 d2) {
-        constexpr f64x2 p0 = splat_f64(0x3FE55554E6CBD17A);  // 0.66666646077514646
-        constexpr f64x2 p1 = splat_f64(0xBFD55554783D5B8F);  // -0.33333312742382132
-        constexpr f64x2 p2 = splat_f64(0x3FC115CE85E922DC);  // 0.13347798861129589
-        constexpr f64x2 p3 = splat_f64(0xBFA6C888510AE081);  // -0.044498691456682067
-        constexpr f64x2 q0 = splat_f64(0xBFD555485F4C215C);  // -0.33333024317155036
-        constexpr f64x2 q1 = splat_f64(0x3FE00F90DCD82EF6);  // 0.50190013059315564
-        constexpr f64x2 q2 = splat_f64(0xBFD9AFD532D1112E);  // -0.40135698282780907
+    template <class V> static TARN_INLINE V series(V u, V d2) {
+        constexpr double p0 = f64(0x3FE55554E6CBD17A);  // 0.66666646077514646
+        constexpr double p1 = f64(0xBFD55554783D5B8F);  // -0.33333312742382132
+        constexpr double p2 = f64(0x3FC115CE85E922DC);  // 0.13347798861129589
+        constexpr double p3 = f64(0xBFA6C888510AE081);  // -0.044498691456682067
+        constexpr double q0 = f64(0xBFD555485F4C215C);  // -0.33333024317155036
+        constexpr double q1 = f64(0x3FE00F90DCD82EF6);  // 0.50190013059315564
+        constexpr double q2 = f64(0xBFD9AFD532D1112E);  // -0.40135698282780907
         return horner(u, q2, q1, q0) * d2 + (horner(u, p3, p2, p1, p0) * (u * u) - u);
     }
 };
 
 template <class Form> struct Complement : Kernel<double(double)> {
     static constexpr auto callout = callout::erfc;
-    static TARN_INLINE auto fast(f64x2 x) { return Flagged{erfc_steps<Form>(x), ~(i64x2)(x < splat(27.25))}; }
+    template <class V> static TARN_INLINE auto fast(V x) { return Flagged{erfc_steps<Form>(x), ~(x < 27.25)}; }
 };
 
 using Erfc = Complement<ErfcSeries>;

@@ -11,99 +11,99 @@
 namespace tarn {
 namespace {
 
-constexpr f64x2 half = splat(0.5), one = splat(1.0);
+constexpr double half = 0.5, one = 1.0;
 
 // z times (arcsin(v) - v)/(v z).
 struct Full {
-    static TARN_INLINE f64x2 rest(f64x2 z) {
-        constexpr f64x2 d0 = splat_f64(0x3FC555555555529C);   // 0.1666666666666473
-        constexpr f64x2 d1 = splat_f64(0x3FB333333337E0DE);   // 0.07500000000425497
-        constexpr f64x2 d2 = splat_f64(0x3FA6DB6DB3B445F8);   // 0.04464285677580543
-        constexpr f64x2 d3 = splat_f64(0x3F9F1C72E13AD8BE);   // 0.030381960865917483
-        constexpr f64x2 d4 = splat_f64(0x3F96E89CEBDEFADD);   // 0.022371723076271322
-        constexpr f64x2 d5 = splat_f64(0x3F91C6DCF538AD2E);   // 0.01736016508782006
-        constexpr f64x2 d6 = splat_f64(0x3F8C6DBBCB88BD57);   // 0.013881175183171264
-        constexpr f64x2 d7 = splat_f64(0x3F88F8DC2AFCCAD6);   // 0.012193412839768863
-        constexpr f64x2 d8 = splat_f64(0x3F7A583395D45ED5);   // 0.006431771759956202
-        constexpr f64x2 d9 = splat_f64(0x3F943F44BFBC3BAE);   // 0.01977260036715805
-        constexpr f64x2 d10 = splat_f64(0xBF90FB17F7DBB0ED);  // -0.016582846167623556
-        constexpr f64x2 d11 = splat_f64(0x3FA07520C70EB909);  // 0.03214361600781685
-        const f64x2 z2 = z * z, z4 = z2 * z2;
-        const f64x2 upper = ((d10 + d11 * z) * z2 + (d8 + d9 * z)) * z4 + ((d6 + d7 * z) * z2 + (d4 + d5 * z));
+    template <class V> static TARN_INLINE V rest(V z) {
+        constexpr double d0 = f64(0x3FC555555555529C);   // 0.1666666666666473
+        constexpr double d1 = f64(0x3FB333333337E0DE);   // 0.07500000000425497
+        constexpr double d2 = f64(0x3FA6DB6DB3B445F8);   // 0.04464285677580543
+        constexpr double d3 = f64(0x3F9F1C72E13AD8BE);   // 0.030381960865917483
+        constexpr double d4 = f64(0x3F96E89CEBDEFADD);   // 0.022371723076271322
+        constexpr double d5 = f64(0x3F91C6DCF538AD2E);   // 0.01736016508782006
+        constexpr double d6 = f64(0x3F8C6DBBCB88BD57);   // 0.013881175183171264
+        constexpr double d7 = f64(0x3F88F8DC2AFCCAD6);   // 0.012193412839768863
+        constexpr double d8 = f64(0x3F7A583395D45ED5);   // 0.006431771759956202
+        constexpr double d9 = f64(0x3F943F44BFBC3BAE);   // 0.01977260036715805
+        constexpr double d10 = f64(0xBF90FB17F7DBB0ED);  // -0.016582846167623556
+        constexpr double d11 = f64(0x3FA07520C70EB909);  // 0.03214361600781685
+        const V z2 = z * z, z4 = z2 * z2;
+        const V upper = ((d10 + d11 * z) * z2 + (d8 + d9 * z)) * z4 + ((d6 + d7 * z) * z2 + (d4 + d5 * z));
         return z * ((upper * z2 + (d2 + d3 * z)) * z2 + (d0 + d1 * z));
     }
 };
 struct Native {
-    static TARN_INLINE f64x2 rest(f64x2 z) {
-        constexpr f64x2 n1 = splat_f64(0x3FC5555C883A06DD);  // 0.1666675248307489
-        constexpr f64x2 n2 = splat_f64(0x3FB3301E456DEE8A);  // 0.074952976179640057
-        constexpr f64x2 n3 = splat_f64(0x3FA747E4B927AAE0);  // 0.045470378496096364
-        constexpr f64x2 n4 = splat_f64(0x3F98C282FEDE7F97);  // 0.024179503255822601
-        constexpr f64x2 n5 = splat_f64(0x3FA596D328057E09);  // 0.042166327128821797
+    template <class V> static TARN_INLINE V rest(V z) {
+        constexpr double n1 = f64(0x3FC5555C883A06DD);  // 0.1666675248307489
+        constexpr double n2 = f64(0x3FB3301E456DEE8A);  // 0.074952976179640057
+        constexpr double n3 = f64(0x3FA747E4B927AAE0);  // 0.045470378496096364
+        constexpr double n4 = f64(0x3F98C282FEDE7F97);  // 0.024179503255822601
+        constexpr double n5 = f64(0x3FA596D328057E09);  // 0.042166327128821797
         return ((n5 * z + n4) * (z * z) + (n3 * z + n2)) * (z * z) + n1 * z;
     }
 };
 
 // A unit's turns, the tails of their heads, and v (1 + rest) with a tail added.
 struct Radians {
-    static constexpr f64x2 quarter = splat_f64(0x3FF921FB54442D18);         // 1.5707963267948966 = pi/2
-    static constexpr f64x2 quarter_tail = splat_f64(0x3C91A62633145C07);    // 6.123233995736766e-17
-    static constexpr f64x2 half_turn = splat_f64(0x400921FB54442D18);       // 3.141592653589793 = pi
-    static constexpr f64x2 half_turn_tail = splat_f64(0x3CA1A62633145C07);  // 1.2246467991473532e-16
+    static constexpr double quarter = f64(0x3FF921FB54442D18);         // 1.5707963267948966 = pi/2
+    static constexpr double quarter_tail = f64(0x3C91A62633145C07);    // 6.123233995736766e-17
+    static constexpr double half_turn = f64(0x400921FB54442D18);       // 3.141592653589793 = pi
+    static constexpr double half_turn_tail = f64(0x3CA1A62633145C07);  // 1.2246467991473532e-16
 
-    static TARN_INLINE f64x2 angle(f64x2 v, f64x2 rest) { return v + v * rest; }
-    static TARN_INLINE f64x2 angle(f64x2 v, f64x2 rest, f64x2 tail) { return v + (v * rest + tail); }
+    template <class V> static TARN_INLINE V angle(V v, V rest) { return v + v * rest; }
+    template <class V> static TARN_INLINE V angle(V v, V rest, V tail) { return v + (v * rest + tail); }
 };
 struct HalfTurns {
-    static constexpr f64x2 quarter = half, quarter_tail = splat(0.0);
-    static constexpr f64x2 half_turn = one, half_turn_tail = splat(0.0);
-    static constexpr f64x2 inv_pi = splat_f64(0x3FD45F306DC9C883);       // 0.3183098861837907
-    static constexpr f64x2 inv_pi_tail = splat_f64(0xBC76B01EC5417056);  // -1.9678676675182486e-17
+    static constexpr double quarter = half, quarter_tail = 0.0;
+    static constexpr double half_turn = one, half_turn_tail = 0.0;
+    static constexpr double inv_pi = f64(0x3FD45F306DC9C883);       // 0.3183098861837907
+    static constexpr double inv_pi_tail = f64(0xBC76B01EC5417056);  // -1.9678676675182486e-17
 
-    static TARN_INLINE f64x2 angle(f64x2 v, f64x2 rest) {
+    template <class V> static TARN_INLINE V angle(V v, V rest) {
         return v * inv_pi + (v * inv_pi_tail + (v * rest) * inv_pi);
     }
-    static TARN_INLINE f64x2 angle(f64x2 v, f64x2 rest, f64x2) { return angle(v, rest); }
+    template <class V> static TARN_INLINE V angle(V v, V rest, V) { return angle(v, rest); }
 };
 
 // The folded lanes, their root, and z.
-struct Folded {
-    i64x2 upper;
-    f64x2 root, z;
+template <class V> struct Folded {
+    BitsOf<V> upper;
+    V root, z;
 };
-TARN_INLINE Folded fold(f64x2 a) {
-    const f64x2 w = half - half * a;
+template <class V> TARN_INLINE Folded<V> fold(V a) {
+    const V w = half - half * a;
     return {~(a < half), sqrt(w), min(a * a, w)};
 }
 
-constexpr int lanes_by_roots = 4;  // at a time: more only wait for each other's roots
+constexpr int blocks_by_roots = 2;  // at a time: more only wait for each other's roots
 
 template <class Form, class Unit, callout::UnaryDouble scalar> struct Arcsine : Kernel<double(double)> {
     static constexpr auto callout = scalar;
-    static constexpr int at_a_time = lanes_by_roots;
+    static constexpr int blocks_at_a_time = blocks_by_roots;
 
-    static TARN_INLINE auto fast(f64x2 x) {
-        const f64x2 a = abs(x);
+    template <class V> static TARN_INLINE auto fast(V x) {
+        const V a = abs(x);
         const auto [upper, root, z] = fold(a);
-        const f64x2 v = select(upper, splat(-2.0) * root, a);
-        const f64x2 y = Unit::angle(v, Form::rest(z)) + where(upper, Unit::quarter);
-        return Flagged{xor_bits(y, sign_bit(x)), (i64x2)(a >= one)};
+        const V v = select(upper, -2.0 * root, a);
+        const V y = Unit::angle(v, Form::rest(z)) + where(upper, Unit::quarter);
+        return Flagged{xor_bits(y, sign_bit(x)), (a >= one)};
     }
 };
 
 // From a quarter turn down, or where folded from 0 up or, for a negative x, from half a turn down.
 template <class Form, class Unit, callout::UnaryDouble scalar> struct Arccosine : Kernel<double(double)> {
     static constexpr auto callout = scalar;
-    static constexpr int at_a_time = lanes_by_roots;
+    static constexpr int blocks_at_a_time = blocks_by_roots;
 
-    static TARN_INLINE auto fast(f64x2 x) {
-        const f64x2 a = abs(x);
+    template <class V> static TARN_INLINE auto fast(V x) {
+        const V a = abs(x);
         const auto [upper, root, z] = fold(a);
-        const i64x2 negative = bits(x) >> 63;
-        const f64x2 start = select(upper, where(negative, Unit::half_turn), Unit::quarter);
-        const f64x2 tail = select(upper, where(negative, Unit::half_turn_tail), Unit::quarter_tail);
-        const f64x2 v = xor_bits(select(upper, root + root, a), sign_bit(x) ^ (~upper & sign_mask_f64));
-        return Flagged{start + Unit::angle(v, Form::rest(z), tail), (i64x2)(a >= one)};
+        const BitsOf<V> negative = bits(x) >> 63;
+        const V start = select(upper, where(negative, Unit::half_turn), Unit::quarter);
+        const V tail = select(upper, where(negative, Unit::half_turn_tail), Unit::quarter_tail);
+        const V v = xor_bits(select(upper, root + root, a), sign_bit(x) ^ (~upper & sign_mask<V>));
+        return Flagged{start + Unit::angle(v, Form::rest(z), tail), (a >= one)};
     }
 };
 

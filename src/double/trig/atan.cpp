@@ -13,10 +13,10 @@ namespace {
 using namespace arctangent;
 
 template <class Form> struct ByNodes : Kernel<double(double)> {
-    static TARN_INLINE auto fast(f64x2 x) { return by_nodes<Form>(x); }
+    template <class V> static TARN_INLINE auto fast(V x) { return by_nodes<Form>(x); }
 };
 template <class Unit> struct ByPolynomial : Kernel<double(double)> {
-    static TARN_INLINE auto fast(f64x2 x) { return of<Unit>(x); }
+    template <class V> static TARN_INLINE auto fast(V x) { return of<Unit>(x); }
 };
 
 using Atan = ExceptAt<ByNodes<Full<RadiansByNodes>>, 2, ByPolynomial<Radians>>;

@@ -16,13 +16,13 @@ using namespace arctangent;
 
 template <class Form, callout::BinaryDouble scalar> struct ByNodes : Kernel<double(double, double)> {
     static constexpr auto callout = scalar;
-    static TARN_INLINE auto fast(f64x2 y, f64x2 x) {
+    template <class V> static TARN_INLINE auto fast(V y, V x) {
         return Flagged{point_by_nodes<Form>(y, x), no_coordinate(y) | no_coordinate(x)};
     }
 };
 struct Atan2OfTwo : Kernel<double(double, double)> {
     static constexpr auto callout = callout::atan2;
-    static TARN_INLINE auto fast(f64x2 y, f64x2 x) {
+    template <class V> static TARN_INLINE auto fast(V y, V x) {
         return Flagged{of_point<Radians>(y, x), no_coordinate(y) | no_coordinate(x)};
     }
 };

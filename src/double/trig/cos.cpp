@@ -15,13 +15,13 @@ namespace {
 
 using namespace trig_f64;
 
-constexpr f64x2 half_pi = splat_f64(0x3FF921FB54442D18);  // 1.5707963267948966
+constexpr double half_pi = f64(0x3FF921FB54442D18);  // 1.5707963267948966
 
 struct LargeArgument : Kernel<double(double)> {
     static constexpr auto callout = callout::cos;
-    static constexpr int at_a_time = 4;
+    static constexpr int blocks_at_a_time = 2;
 
-    static TARN_INLINE auto fast(f64x2 x) {
+    template <class V> static TARN_INLINE auto fast(V x) {
         return Flagged{cosine_from_table(reduce_exactly<Turns>(x)).rounded(), is_infinite(x)};
     }
 };
@@ -29,13 +29,13 @@ struct LargeArgument : Kernel<double(double)> {
 template <class Form> struct Cos : Kernel<double(double)> {
     using long_path = LargeArgument;
 
-    static TARN_INLINE auto fast(f64x2 x) {
-        const f64x2 v = x + half_pi;
-        const f64x2 shifted = v * inv_pi + shifter;
-        const f64x2 m = (shifted - shifter) - half;
-        const f64x2 r = Form::rest(Form::near(x, m), m);
-        const f64x2 y = Form::cosine(xor_bits(r, parity_sign(shifted)), r * r);
-        return Flagged{y, (i64x2)(abs(v) > splat(0x1p23))};
+    template <class V> static TARN_INLINE auto fast(V x) {
+        const V v = x + half_pi;
+        const V shifted = v * inv_pi + shifter;
+        const V m = (shifted - shifter) - half;
+        const V r = Form::rest(Form::near(x, m), m);
+        const V y = Form::cosine(xor_bits(r, parity_sign(shifted)), r * r);
+        return Flagged{y, (abs(v) > 0x1p23)};
     }
 };
 

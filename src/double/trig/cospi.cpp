@@ -18,21 +18,21 @@ namespace {
 using namespace trig_f64;
 
 template <class Form> struct Cospi : Kernel<double(double)> {
-    static TARN_INLINE f64x2 of_magnitude(f64x2 a) {
-        const f64x2 shifted = (a + half) + shifter;
-        const f64x2 m = (shifted - shifter) - half;
-        const f64x2 r = (a - m) * pi;
+    template <class V> static TARN_INLINE V of_magnitude(V a) {
+        const V shifted = (a + half) + shifter;
+        const V m = (shifted - shifter) - half;
+        const V r = (a - m) * pi;
         return Form::cosine(xor_bits(r, parity_sign(shifted)), r * r);
     }
 
-    static TARN_INLINE auto fast(f64x2 x) {
-        const f64x2 a = abs(x);
-        return Flagged{of_magnitude(a), (i64x2)(a > splat(0x1p51))};
+    template <class V> static TARN_INLINE auto fast(V x) {
+        const V a = abs(x);
+        return Flagged{of_magnitude(a), (a > 0x1p51)};
     }
 
     struct LargeArgument : Kernel<double(double)> {
         static constexpr auto callout = callout::cospi;
-        static TARN_INLINE auto fast(f64x2 x) {
+        template <class V> static TARN_INLINE auto fast(V x) {
             return Flagged{of_magnitude(without_periods(abs(x))), is_infinite(x)};
         }
     };

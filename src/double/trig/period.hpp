@@ -6,10 +6,10 @@
 
 namespace tarn::trig_f64 {
 
-TARN_INLINE f64x2 without_periods(f64x2 x) {
-    constexpr f64x2 all_periods = splat_f64(0x43A0000000000000);     // 2^59
-    constexpr f64x2 period_shifter = splat_f64(0x43B8000000000000);  // 1.5 * 2^60: rounds to 256s
-    const f64x2 s = where((i64x2)(abs(x) < all_periods), period_shifter);
+template <class V> TARN_INLINE V without_periods(V x) {
+    constexpr double all_periods = f64(0x43A0000000000000);     // 2^59
+    constexpr double period_shifter = f64(0x43B8000000000000);  // 1.5 * 2^60: rounds to 256s
+    const V s = where((abs(x) < all_periods), period_shifter);
     return x - ((x + s) - s);
 }
 

@@ -17,9 +17,9 @@ using namespace trig_f64;
 
 struct LargeArgument : Kernel<double(double)> {
     static constexpr auto callout = callout::sin;
-    static constexpr int at_a_time = 4;
+    static constexpr int blocks_at_a_time = 2;
 
-    static TARN_INLINE auto fast(f64x2 x) {
+    template <class V> static TARN_INLINE auto fast(V x) {
         return Flagged{xor_bits(sine_from_table(reduce_exactly<Turns>(x)).rounded(), sign_bit(x)), is_infinite(x)};
     }
 };
@@ -27,13 +27,13 @@ struct LargeArgument : Kernel<double(double)> {
 template <class Form> struct Sin : Kernel<double(double)> {
     using long_path = LargeArgument;
 
-    static TARN_INLINE auto fast(f64x2 x) {
-        const f64x2 a = abs(x);
-        const f64x2 shifted = a * inv_pi + shifter;
-        const f64x2 n = shifted - shifter;
-        const f64x2 r = Form::rest(Form::near(a, n), n);
-        const f64x2 y = Form::sine(xor_bits(r, parity_sign(shifted)), r * r);
-        return Flagged{xor_bits(y, sign_bit(x)), (i64x2)(a > splat(0x1p24))};
+    template <class V> static TARN_INLINE auto fast(V x) {
+        const V a = abs(x);
+        const V shifted = a * inv_pi + shifter;
+        const V n = shifted - shifter;
+        const V r = Form::rest(Form::near(a, n), n);
+        const V y = Form::sine(xor_bits(r, parity_sign(shifted)), r * r);
+        return Flagged{xor_bits(y, sign_bit(x)), (a > 0x1p24)};
     }
 };
 

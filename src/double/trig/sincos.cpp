@@ -18,32 +18,32 @@ using namespace trig_f64;
 
 struct LargeArgument : Kernel<Both<double, double>(double)> {
     static constexpr auto callout = callout::sincos;
-    static constexpr int at_a_time = 4;
+    static constexpr int blocks_at_a_time = 2;
 
-    static TARN_INLINE auto fast(f64x2 x) {
-        const Reduced angle = reduce_exactly<Turns>(x);
-        const f64x2 sine = xor_bits(sine_from_table(angle).rounded(), sign_bit(x));
+    template <class V> static TARN_INLINE auto fast(V x) {
+        const Reduced<V> angle = reduce_exactly<Turns>(x);
+        const V sine = xor_bits(sine_from_table(angle).rounded(), sign_bit(x));
         return FlaggedPair{sine, cosine_from_table(angle).rounded(), is_infinite(x)};
     }
 };
 
 template <class Form> struct Sincos : Kernel<Both<double, double>(double)> {
     using long_path = LargeArgument;
-    static constexpr int at_a_time = 8;
+    static constexpr int blocks_at_a_time = 4;
 
-    static TARN_INLINE auto fast(f64x2 x) {
-        const f64x2 a = abs(x);
-        const f64x2 shifted = a * inv_pi + shifter;
-        const f64x2 n = shifted - shifter;
-        const i64x2 parity = parity_sign(shifted);
-        const f64x2 near_n = Form::near(a, n);
-        const i64x2 side = sign_bit(near_n);
-        const f64x2 m = n + or_bits(half, side);
-        const f64x2 sine_r = xor_bits(Form::rest(near_n, n), parity);
-        const f64x2 cosine_r = xor_bits(Form::rest(Form::near(a, m), m), sign_mask_f64 ^ side ^ parity);
-        const f64x2 sine = xor_bits(Form::sine(sine_r, sine_r * sine_r), sign_bit(x));
-        const f64x2 cosine = Form::cosine(cosine_r, cosine_r * cosine_r);
-        return FlaggedPair{sine, cosine, (i64x2)(a > splat(0x1p23))};
+    template <class V> static TARN_INLINE auto fast(V x) {
+        const V a = abs(x);
+        const V shifted = a * inv_pi + shifter;
+        const V n = shifted - shifter;
+        const BitsOf<V> parity = parity_sign(shifted);
+        const V near_n = Form::near(a, n);
+        const BitsOf<V> side = sign_bit(near_n);
+        const V m = n + or_bits(half, side);
+        const V sine_r = xor_bits(Form::rest(near_n, n), parity);
+        const V cosine_r = xor_bits(Form::rest(Form::near(a, m), m), sign_mask<V> ^ side ^ parity);
+        const V sine = xor_bits(Form::sine(sine_r, sine_r * sine_r), sign_bit(x));
+        const V cosine = Form::cosine(cosine_r, cosine_r * cosine_r);
+        return FlaggedPair{sine, cosine, (a > 0x1p23)};
     }
 };
 

@@ -18,21 +18,21 @@ namespace {
 using namespace trig_f64;
 
 template <class Form> struct Sinpi : Kernel<double(double)> {
-    static TARN_INLINE f64x2 of_magnitude(f64x2 a, f64x2 x) {
-        const f64x2 shifted = a + shifter;
-        const f64x2 r = (a - (shifted - shifter)) * pi;
-        const f64x2 y = Form::cosine(xor_bits(r, parity_sign(shifted)), r * r);
+    template <class V> static TARN_INLINE V of_magnitude(V a, V x) {
+        const V shifted = a + shifter;
+        const V r = (a - (shifted - shifter)) * pi;
+        const V y = Form::cosine(xor_bits(r, parity_sign(shifted)), r * r);
         return xor_bits(y, sign_bit(x));
     }
 
-    static TARN_INLINE auto fast(f64x2 x) {
-        const f64x2 a = abs(x);
-        return Flagged{of_magnitude(a, x), (i64x2)(a > splat(0x1p51))};
+    template <class V> static TARN_INLINE auto fast(V x) {
+        const V a = abs(x);
+        return Flagged{of_magnitude(a, x), (a > 0x1p51)};
     }
 
     struct LargeArgument : Kernel<double(double)> {
         static constexpr auto callout = callout::sinpi;
-        static TARN_INLINE auto fast(f64x2 x) {
+        template <class V> static TARN_INLINE auto fast(V x) {
             return Flagged{of_magnitude(without_periods(abs(x)), x), is_infinite(x)};
         }
     };

@@ -20,61 +20,60 @@ using namespace trig_f64;
 
 #include "tables/tangent_256ths.inc"
 
-constexpr f64x2 two_over_pi = splat_f64(0x3FE45F306DC9C883);  // 0.6366197723675814
-constexpr f64x2 limit = splat_f64(0x40FF400000000000);        // 128000.0
+constexpr double two_over_pi = f64(0x3FE45F306DC9C883);  // 0.6366197723675814
+constexpr double limit = f64(0x40FF400000000000);        // 128000.0
 
 struct TanFull : TangentFull {
-    static constexpr f64x2 half_pi_1 = splat_f64(0x3FF921FB40000000);  // 1.570796251296997
-    static constexpr f64x2 half_pi_2 = splat_f64(0x3E74442D00000000);  // 7.549789415861596e-08
-    static constexpr f64x2 half_pi_3 = splat_f64(0x3CF8469880000000);  // 5.390302529957765e-15
-    static constexpr f64x2 half_pi_4 = splat_f64(0x3B78CC51701B839A);  // 3.2820035428735005e-22
+    static constexpr double half_pi_1 = f64(0x3FF921FB40000000);  // 1.570796251296997
+    static constexpr double half_pi_2 = f64(0x3E74442D00000000);  // 7.549789415861596e-08
+    static constexpr double half_pi_3 = f64(0x3CF8469880000000);  // 5.390302529957765e-15
+    static constexpr double half_pi_4 = f64(0x3B78CC51701B839A);  // 3.2820035428735005e-22
 
-    static TARN_INLINE f64x2 reduced(f64x2 a, f64x2 n) {
+    template <class V> static TARN_INLINE V reduced(V a, V n) {
         return (((a - n * half_pi_1) - n * half_pi_2) - n * half_pi_3) - n * half_pi_4;
     }
 };
 struct TanNative : TangentNative {
-    static constexpr f64x2 half_pi_1 = splat_f64(0x3FF921FB54440000);  // 1.5707963267923333
-    static constexpr f64x2 half_pi_2 = splat_f64(0x3D868C234C4C0000);  // 2.5633441515839558e-12
-    static constexpr f64x2 half_pi_3 = splat_f64(0x3B298A2E03707345);  // 1.0562999066987428e-23
+    static constexpr double half_pi_1 = f64(0x3FF921FB54440000);  // 1.5707963267923333
+    static constexpr double half_pi_2 = f64(0x3D868C234C4C0000);  // 2.5633441515839558e-12
+    static constexpr double half_pi_3 = f64(0x3B298A2E03707345);  // 1.0562999066987428e-23
 
-    static TARN_INLINE f64x2 reduced(f64x2 a, f64x2 n) {
+    template <class V> static TARN_INLINE V reduced(V a, V n) {
         return ((a - n * half_pi_1) - n * half_pi_2) - n * half_pi_3;
     }
 };
 
 struct LargeArgument : Kernel<double(double)> {
     static constexpr auto callout = callout::tan;
-    static constexpr int at_a_time = 4;
+    static constexpr int blocks_at_a_time = 2;
 
-    static TARN_INLINE auto fast(f64x2 x) {
-        constexpr f64x2 t3 = splat_f64(0x3FD5555555555555);  // 0.3333333333333333 = 1/3
-        constexpr f64x2 t5 = splat_f64(0x3FC1111111111111);  // 0.13333333333333333 = 2/15
-        constexpr f64x2 t7 = splat_f64(0x3FABA1BA1BA1BA1C);  // 0.05396825396825397 = 17/315
+    template <class V> static TARN_INLINE auto fast(V x) {
+        constexpr double t3 = f64(0x3FD5555555555555);  // 0.3333333333333333 = 1/3
+        constexpr double t5 = f64(0x3FC1111111111111);  // 0.13333333333333333 = 2/15
+        constexpr double t7 = f64(0x3FABA1BA1BA1BA1C);  // 0.05396825396825397 = 17/315
 
         const auto [row, rest] = reduce_exactly<HalfTurns>(x);
-        const auto &row0 = tangent_256ths[row[0]], &row1 = tangent_256ths[row[1]];
-        const auto [head, tail] = columns(row0, row1);
-        const f64x2 slope = {row0[2], row1[2]};
+        const auto [head, tail] = gather_columns(tangent_256ths, row);
+        const V slope = for_each_lane(row, [](std::int64_t r) __attribute__((always_inline)) { return tangent_256ths[r][2]; });
 
-        const f64x2 r = rest.head, z = r * r;
-        const f64x2 t = r + (horner(z, t7, t5, t3) * z * r + rest.tail);
-        const i64x2 pole = (i64x2)(row == 128);
-        const f64x2 y = head + (tail + select(pole, splat(-1.0), slope * t) / select(pole, t, one - head * t));
+        const V r = rest.head, z = r * r;
+        const V t = r + (horner(z, t7, t5, t3) * z * r + rest.tail);
+        const BitsOf<V> pole = (row == 128);
+        const V y = head + (tail + select(pole, -1.0, slope * t) / select(pole, t, one - head * t));
         return Flagged{xor_bits(y, sign_bit(x)), is_infinite(x)};
     }
 };
 
 template <class Form> struct Tan : Kernel<double(double)> {
     using long_path = LargeArgument;
-    static constexpr int at_a_time = 4;
+    static constexpr int blocks_at_a_time = 2;
 
-    static TARN_INLINE auto fast(f64x2 x) {
-        const f64x2 a = abs(x);
-        const f64x2 shifted = a * two_over_pi + shifter;
-        const i64x2 parity = parity_sign(shifted);
-        const f64x2 y = tangent_quotient<Form>(Form::reduced(a, shifted - shifter), parity);
-        return Flagged{xor_bits(y, sign_bit(x) ^ parity), (i64x2)(a > limit)};
+    template <class V> static TARN_INLINE auto fast(V x) {
+        const V a = abs(x);
+        const V shifted = a * two_over_pi + shifter;
+        const BitsOf<V> parity = parity_sign(shifted);
+        const V y = tangent_quotient<Form>(Form::reduced(a, shifted - shifter), parity);
+        return Flagged{xor_bits(y, sign_bit(x) ^ parity), (a > limit)};
     }
 };
 

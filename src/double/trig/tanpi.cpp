@@ -19,31 +19,31 @@ namespace {
 
 using namespace trig_f64;
 
-constexpr f64x2 half_shifter = splat_f64(0x4328000000000000);  // 3377699720527872.0 = 1.5 * 2^51: rounds to halves
+constexpr double half_shifter = f64(0x4328000000000000);  // 3377699720527872.0 = 1.5 * 2^51: rounds to halves
 
 template <class Form> struct Tanpi : Kernel<double(double)> {
-    static constexpr int at_a_time = 8;
+    static constexpr int blocks_at_a_time = 4;
 
-    static TARN_INLINE f64x2 of_magnitude(f64x2 a, f64x2 x) {
-        const f64x2 shifted = a + half_shifter;
-        const i64x2 parity = parity_sign(shifted);
-        const f64x2 r = (a - (shifted - half_shifter)) * pi;
-        const f64x2 y = tangent_quotient<Form>(r, parity);
+    template <class V> static TARN_INLINE V of_magnitude(V a, V x) {
+        const V shifted = a + half_shifter;
+        const BitsOf<V> parity = parity_sign(shifted);
+        const V r = (a - (shifted - half_shifter)) * pi;
+        const V y = tangent_quotient<Form>(r, parity);
 
         // Where r is 0, y is +0 or +inf, and every other one of each changes its sign.
-        const i64x2 odd = bits(shifted) << 62 & sign_mask_f64;
-        const i64x2 exact = (i64x2)(r == splat(0.0));
+        const BitsOf<V> odd = bits(shifted) << 62 & sign_mask<V>;
+        const BitsOf<V> exact = (r == 0.0);
         return xor_bits(y, sign_bit(x) ^ select(exact, odd, parity));
     }
 
-    static TARN_INLINE auto fast(f64x2 x) {
-        const f64x2 a = abs(x);
-        return Flagged{of_magnitude(a, x), (i64x2)(a > splat(0x1p50))};
+    template <class V> static TARN_INLINE auto fast(V x) {
+        const V a = abs(x);
+        return Flagged{of_magnitude(a, x), (a > 0x1p50)};
     }
 
     struct LargeArgument : Kernel<double(double)> {
         static constexpr auto callout = callout::tanpi;
-        static TARN_INLINE auto fast(f64x2 x) {
+        template <class V> static TARN_INLINE auto fast(V x) {
             return Flagged{of_magnitude(without_periods(abs(x)), x), is_infinite(x)};
         }
     };

@@ -16,24 +16,24 @@ namespace {
 #include "tables/exp2_256ths.inc"
 #include "tables/exp2f_quadratic.inc"
 
-constexpr f32x4 shifter = splat_f32(0x4B400000);    // 12582912.0 = 1.5 * 2^23
+constexpr float shifter = f32(0x4B400000);          // 12582912.0 = 1.5 * 2^23
 constexpr std::uint32_t normal_bound = 0x42FC0000;  // 126.0
 
 struct Exp2f : Kernel<float(float)> {
     static constexpr auto callout = callout::exp2f;
 
-    static constexpr f32x4 c6 = splat_f32(0x39213C8C);  // 0.00015376711962744594
-    static constexpr f32x4 c5 = splat_f32(0x3AAF7A51);  // 0.0013387893559411168
-    static constexpr f32x4 c4 = splat_f32(0x3C1D962C);  // 0.009618323296308517
-    static constexpr f32x4 c3 = splat_f32(0x3D6357CF);  // 0.055503662675619125
-    static constexpr f32x4 c2 = splat_f32(0x3E75FDEF);  // 0.24022649228572845
-    static constexpr f32x4 c1 = splat_f32(0x3F317218);  // 0.6931471824645996
-    static constexpr f32x4 c0 = splat_f32(0x3F800000);  // 1.0
+    static constexpr float c6 = f32(0x39213C8C);  // 0.00015376711962744594
+    static constexpr float c5 = f32(0x3AAF7A51);  // 0.0013387893559411168
+    static constexpr float c4 = f32(0x3C1D962C);  // 0.009618323296308517
+    static constexpr float c3 = f32(0x3D6357CF);  // 0.055503662675619125
+    static constexpr float c2 = f32(0x3E75FDEF);  // 0.24022649228572845
+    static constexpr float c1 = f32(0x3F317218);  // 0.6931471824645996
+    static constexpr float c0 = f32(0x3F800000);  // 1.0
 
-    static TARN_INLINE auto fast(f32x4 x) {
-        const f32x4 shifted = x + shifter;
-        const f32x4 r = x - (shifted - shifter);
-        const f32x4 p = horner(r, c6, c5, c4, c3, c2, c1, c0);
+    template <class V> static TARN_INLINE auto fast(V x) {
+        const V shifted = x + shifter;
+        const V r = x - (shifted - shifter);
+        const V p = horner(r, c6, c5, c4, c3, c2, c1, c0);
         return Flagged{from_bits(bits(p) + (bits(shifted) << 23)), magnitude_above(x, normal_bound)};
     }
 };
@@ -41,35 +41,35 @@ struct Exp2f : Kernel<float(float)> {
 struct Exp2fNative : Kernel<float(float)> {
     static constexpr auto callout = callout::exp2f;
 
-    static constexpr f32x4 d3 = splat_f32(0x3D61FBCC);  // 0.055171772837638855
-    static constexpr f32x4 d2 = splat_f32(0x3E786F13);  // 0.24261121451854706
-    static constexpr f32x4 d1 = splat_f32(0x3F31798D);  // 0.6932609677314758
-    static constexpr f32x4 d0 = splat_f32(0x3F7FFB49);  // 0.9999280571937561
+    static constexpr float d3 = f32(0x3D61FBCC);  // 0.055171772837638855
+    static constexpr float d2 = f32(0x3E786F13);  // 0.24261121451854706
+    static constexpr float d1 = f32(0x3F31798D);  // 0.6932609677314758
+    static constexpr float d0 = f32(0x3F7FFB49);  // 0.9999280571937561
 
-    static TARN_INLINE auto fast(f32x4 x) {
-        const f32x4 shifted = x + shifter;
-        const f32x4 r = x - (shifted - shifter);
-        const f32x4 p = horner(r, d3, d2, d1, d0);
+    template <class V> static TARN_INLINE auto fast(V x) {
+        const V shifted = x + shifter;
+        const V r = x - (shifted - shifter);
+        const V p = horner(r, d3, d2, d1, d0);
         return Flagged{from_bits(bits(p) + (bits(shifted) << 23)), magnitude_above(x, normal_bound)};
     }
 };
 
 // Width 4: the table method.
 struct Exp2fTable : Kernel<float(float)> {
-    static constexpr float shifter = f32(0x48400000);      // 196608.0 = 1.5 * 2^17: rounds to 64ths
-    static constexpr std::uint32_t bias = 0x1FC0;          // 127 * 64
-    static constexpr float b1 = f32(0x4038AA68);           // 2.8854007720947266
-    static constexpr float b0 = f32(0x40853526);           // 4.162737846374512
+    static constexpr float shifter = f32(0x48400000);          // 196608.0 = 1.5 * 2^17: rounds to 64ths
+    static constexpr std::uint32_t bias = 0x1FC0;              // 127 * 64
+    static constexpr float b1 = f32(0x4038AA68);               // 2.8854007720947266
+    static constexpr float b0 = f32(0x40853526);               // 4.162737846374512
     static constexpr std::uint32_t normal_bound = 0x42F70000;  // 123.5
 
-    static TARN_INLINE auto fast(f32x4 x) {
-        const i32x4 exponent = bits(x) & splat_i32(0x7F800000);
-        const f32x4 flushed = from_bits(bits(x) & ~(exponent == splat_i32(0)));
-        const f32x4 shifted = x + splat(shifter);
-        const f32x4 r = (splat(shifter) - shifted) + flushed;
-        const f32x4 scale = from_bits(shift_right_logical(bits(shifted) + splat_i32(bias), 6) << 23);
-        const f32x4 leading = gather(exp2f_quadratic, bits(shifted) & splat_i32(63));
-        const f32x4 p = (r + splat(b1)) * r + splat(b0);
+    template <class V> static TARN_INLINE auto fast(V x) {
+        const BitsOf<V> exponent = bits(x) & 0x7F800000;
+        const V flushed = from_bits(bits(x) & ~(exponent == 0));
+        const V shifted = x + shifter;
+        const V r = (shifter - shifted) + flushed;
+        const V scale = from_bits(shift_right_logical(bits(shifted) + i32(bias), 6) << 23);
+        const V leading = gather(exp2f_quadratic, bits(shifted) & 63);
+        const V p = (r + b1) * r + b0;
         return Flagged{(leading * scale) * p, magnitude_above(x, normal_bound)};
     }
 

@@ -12,67 +12,67 @@
 namespace tarn {
 namespace {
 
-constexpr f32x4 one = splat(1.0f), half = splat(0.5f);
-constexpr f32x4 ln2 = factor_of_exponent(0x3F317218);  // 0.6931471824645996
+constexpr float one = 1.0f, half = 0.5f;
+constexpr float ln2 = factor_of_exponent(0x3F317218);  // 0.6931471824645996
 
-TARN_INLINE f32x4 upper_12_bits(f32x4 x) { return from_bits(bits(x) & splat_i32(0xFFFFF000)); }
+template <class V> TARN_INLINE V upper_12_bits(V x) { return from_bits(bits(x) & i32(0xFFFFF000)); }
 
-struct Quotient {
-    f32x4 head, rest;
+template <class V> struct Quotient {
+    V head, rest;
 };
 
 struct Full {
-    static constexpr f32x4 q8 = splat_f32(0x3E0D84ED);  // 0.13820238411426544
-    static constexpr f32x4 q7 = splat_f32(0xBE1AD9E3);  // -0.15122179687023163
-    static constexpr f32x4 q6 = splat_f32(0x3E0FCB12);  // 0.14042308926582336
-    static constexpr f32x4 q5 = splat_f32(0xBE28AD37);  // -0.1647232621908188
-    static constexpr f32x4 q4 = splat_f32(0x3E4CE190);  // 0.20007920265197754
-    static constexpr f32x4 q3 = splat_f32(0xBE80058E);  // -0.2500423789024353
-    static constexpr f32x4 q2 = splat_f32(0x3EAAAA94);  // 0.3333326578140259
-    static constexpr f32x4 q1 = splat(-0.5f);
+    static constexpr float q8 = f32(0x3E0D84ED);  // 0.13820238411426544
+    static constexpr float q7 = f32(0xBE1AD9E3);  // -0.15122179687023163
+    static constexpr float q6 = f32(0x3E0FCB12);  // 0.14042308926582336
+    static constexpr float q5 = f32(0xBE28AD37);  // -0.1647232621908188
+    static constexpr float q4 = f32(0x3E4CE190);  // 0.20007920265197754
+    static constexpr float q3 = f32(0xBE80058E);  // -0.2500423789024353
+    static constexpr float q2 = f32(0x3EAAAA94);  // 0.3333326578140259
+    static constexpr float q1 = -0.5f;
 
     // 2a/(1 - a).
-    static TARN_INLINE Quotient quotient(f32x4 a) {
-        const f32x4 n = a + a, d = one - a;
-        const f32x4 d_lost = (one - d) - a;
-        const f32x4 y = upper_12_bits(reciprocal_estimate(d));
-        const f32x4 d_head = upper_12_bits(d), n_head = upper_12_bits(n);
-        const f32x4 e = (one - d_head * y) - ((d - d_head) + d_lost) * y;
+    template <class V> static TARN_INLINE Quotient<V> quotient(V a) {
+        const V n = a + a, d = one - a;
+        const V d_lost = (one - d) - a;
+        const V y = upper_12_bits(reciprocal_estimate(d));
+        const V d_head = upper_12_bits(d), n_head = upper_12_bits(n);
+        const V e = (one - d_head * y) - ((d - d_head) + d_lost) * y;
         return {n_head * y, (n - n_head) * y + (n * y) * (e + e * e)};
     }
-    static TARN_INLINE f32x4 log_m(f32x4 r) { return log1p_polynomial(r, q8, q7, q6, q5, q4, q3, q2, q1); }
+    template <class V> static TARN_INLINE V log_m(V r) { return log1p_polynomial(r, q8, q7, q6, q5, q4, q3, q2, q1); }
 };
 
 struct Native {
-    static constexpr f32x4 q4 = splat_f32(0x3E612933);  // 0.2198837250471115
-    static constexpr f32x4 q3 = splat_f32(0xBE88E8FE);  // -0.2674025893211365
-    static constexpr f32x4 q2 = splat_f32(0x3EAA7160);  // 0.33289623260498047
-    static constexpr f32x4 q1 = splat(-0.5f);
+    static constexpr float q4 = f32(0x3E612933);  // 0.2198837250471115
+    static constexpr float q3 = f32(0xBE88E8FE);  // -0.2674025893211365
+    static constexpr float q2 = f32(0x3EAA7160);  // 0.33289623260498047
+    static constexpr float q1 = -0.5f;
 
-    static TARN_INLINE Quotient quotient(f32x4 a) {
-        const f32x4 d = one - a;
-        const f32x4 y = reciprocal_estimate(d);
-        return {(a + a) * (y * (splat(2.0f) - d * y)), splat(0.0f)};
+    template <class V> static TARN_INLINE Quotient<V> quotient(V a) {
+        const V d = one - a;
+        const V y = reciprocal_estimate(d);
+        return {(a + a) * (y * (2.0f - d * y)), V{}};
     }
-    static TARN_INLINE f32x4 log_m(f32x4 r) { return log1p_polynomial(r, q4, q3, q2, q1); }
+    template <class V> static TARN_INLINE V log_m(V r) { return log1p_polynomial(r, q4, q3, q2, q1); }
 };
 
 template <class Form> struct Atanhf : Kernel<float(float)> {
     static constexpr auto callout = callout::atanhf;
     static constexpr std::uint32_t tiny = 0x0C000000;  // 9.860761315262648e-32: below it x is the value
 
-    static TARN_INLINE auto fast(f32x4 x) {
-        const f32x4 a = abs(x);
+    template <class V> static TARN_INLINE auto fast(V x) {
+        const V a = abs(x);
         const auto [head, rest] = Form::quotient(a);
-        const f32x4 larger = max(one, head), smaller = min(one, head);
-        const f32x4 sum = larger + smaller;
-        const f32x4 tail = (smaller - (sum - larger)) + rest;
+        const V larger = max(one, head), smaller = min(one, head);
+        const V sum = larger + smaller;
+        const V tail = (smaller - (sum - larger)) + rest;
         const auto [exponent, r_of_sum] = split_at_two_thirds(sum);
-        const f32x4 r = r_of_sum + tail * from_bits(bits(one) - exponent);
-        const f32x4 y = to_f32(exponent) * ln2 + Form::log_m(r);
+        const V r = r_of_sum + tail * from_bits(bits(one) - exponent);
+        const V y = to_f32(exponent) * ln2 + Form::log_m(r);
         // Outside [tiny, 1), in one wrapping sum.
-        const i32x4 special = bits(a) + splat_i32(0x80000000 - tiny) >= splat_i32(0x80000000 + 0x3F800000 - tiny);
-        return Flagged{y * or_bits(half, sign_bit(x)), special};
+        const BitsOf<V> special = bits(a) + i32(0x80000000 - tiny) >= i32(0x80000000 + 0x3F800000 - tiny);
+        return Flagged{y * or_bits(filled<V>(half), sign_bit(x)), special};
     }
 };
 

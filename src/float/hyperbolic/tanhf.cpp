@@ -14,26 +14,25 @@ namespace {
 
 struct Tanhf : Kernel<float(float)> {
     static constexpr auto callout = callout::tanhf;
-    static constexpr int at_a_time = 8;
+    static constexpr int blocks_at_a_time = 2;
 
-    static constexpr i32x4 first = splat_i32(0x3CF80000);  // where row 1 would begin, less one part
-    static constexpr i32x4 last = splat_i32(0x04280000);   // 133 parts on
+    static constexpr std::int32_t first = 0x3CF80000;  // where row 1 would begin, less one part
+    static constexpr std::int32_t last = 0x04280000;   // 133 parts on
 
-    // The cubics of two rows, at two lanes.
-    static TARN_INLINE f64x2 cubic(f64x2 a, const double* row0, const double* row1) {
-        const auto [c0, c1] = columns(row0, row1);
-        const auto [c2, c3] = columns(row0 + 2, row1 + 2);
+    template <class V, class Columns> static TARN_INLINE V cubic(V a, Columns lower, Columns upper) {
+        const auto [c0, c1] = lower;
+        const auto [c2, c3] = upper;
         return ((c3 * a + c2) * a + c1) * a + c0;
     }
 
-    static TARN_INLINE auto fast(f32x4 x) {
-        const i32x4 top = bits(x) & splat_i32(0x7FF80000);
-        const i32x4 part = min(difference_from_zero(top, first), last);
-        const auto [i, j, k, l] = rows(part, 19).row;
-        const f32x4 a = abs(x);
-        const f32x4 y = narrow(cubic(widen_low(a), tanhf_cubics[i], tanhf_cubics[j]),
-                               cubic(widen_high(a), tanhf_cubics[k], tanhf_cubics[l]));
-        return Flagged{or_bits(y, sign_bit(x)), top > splat_i32(0x7F000000)};
+    template <class V> static TARN_INLINE auto fast(V x) {
+        const BitsOf<V> top = bits(x) & 0x7FF80000;
+        const BitsOf<V> part = min(difference_from_zero(top, filled<BitsOf<V>>(first)), last);
+        const BitsOf<V> row = part >> 19;
+        const V a = abs(x);
+        const V y = narrow(cubic(widen_low(a), gather_columns_low<0>(tanhf_cubics, row), gather_columns_low<2>(tanhf_cubics, row)),
+                           cubic(widen_high(a), gather_columns_high<0>(tanhf_cubics, row), gather_columns_high<2>(tanhf_cubics, row)));
+        return Flagged{or_bits(y, sign_bit(x)), top > 0x7F000000};
     }
 };
 

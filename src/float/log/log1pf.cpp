@@ -13,43 +13,43 @@ namespace {
 
 #include "tables/log1pf_pairs.inc"
 
-constexpr f32x4 one = splat(1.0f);
+constexpr float one = 1.0f;
 
 struct Log1pf : Kernel<float(float)> {
     static constexpr auto callout = callout::log1pf;
 
-    static constexpr f32x4 ln2_head = splat_f32(0x3F317200);  // 0.693145751953125
-    static constexpr f32x4 ln2_tail = splat_f32(0x35BFBE00);  // 1.4285906217992306e-06
-    static constexpr f32x4 c3 = splat_f32(0x3EAAAB39);        // 0.33333757519721985
-    static constexpr f32x4 c2 = splat_f32(0xBF000036);        // -0.5000032186508179
-    static constexpr f32x4 small = splat_f32(0x39800000);     // 2^-12: 1 + x needs no cut
+    static constexpr float ln2_head = f32(0x3F317200);  // 0.693145751953125
+    static constexpr float ln2_tail = f32(0x35BFBE00);  // 1.4285906217992306e-06
+    static constexpr float c3 = f32(0x3EAAAB39);        // 0.33333757519721985
+    static constexpr float c2 = f32(0xBF000036);        // -0.5000032186508179
+    static constexpr float small = f32(0x39800000);     // 2^-12: 1 + x needs no cut
 
     // 1 + x outside [2^-24, 2^118] in one wrapping sum: x <= -1, x above 2^118, infinities and NaNs.
-    static TARN_INLINE i32x4 outside(f32x4 sum) {
-        return (i32x4)((u32x4)sum - (u32x4)splat_i32(0xB3800000)) > splat_i32(0xC7000000);
+    template <class V> static TARN_INLINE BitsOf<V> outside(V sum) {
+        return wrapping_difference(bits(sum), i32(0xB3800000)) > i32(0xC7000000);
     }
 
-    static TARN_INLINE auto fast(f32x4 x) {
-        const f32x4 larger = max(one, x), smaller = min(one, x);
-        const f32x4 whole = larger + smaller;
-        const f32x4 s = from_bits(bits(whole) & ((abs(x) < small) | splat_i32(0xFFFFFF00)));
-        const f32x4 e = (larger - s) + smaller;
+    template <class V> static TARN_INLINE auto fast(V x) {
+        const V larger = max(one, x), smaller = min(one, x);
+        const V whole = larger + smaller;
+        const V s = from_bits(bits(whole) & ((abs(x) < small) | i32(0xFFFFFF00)));
+        const V e = (larger - s) + smaller;
 
-        const f32x4 m_256th = from_bits((bits(s) & splat_i32(0x007FFFFF)) | splat_i32(0x3B800000));
-        const f32x4 c = round<Rounding::nearest>(reciprocal_estimate(m_256th));  // 128 to 256
-        const auto [heads, tails] = gather_pairs(log1pf_pairs, (bits(c) - splat_i32(0x43000000)) >> 16);
+        const V m_256th = from_bits((bits(s) & 0x007FFFFF) | 0x3B800000);
+        const V c = round<Rounding::nearest>(reciprocal_estimate(m_256th));  // 128 to 256
+        const auto [heads, tails] = gather_pairs(log1pf_pairs, (bits(c) - 0x43000000) >> 16);
 
-        const f32x4 k = to_f32(shift_right_logical(bits(s), 23));
-        const f32x4 scale = c * from_bits(splat_i32(0x7B000000) - (bits(s) & splat_i32(0x7F800000)));
-        const f32x4 r = s * scale - one;
-        const f32x4 el = e * scale;
-        const f32x4 R = r + el;
-        const f32x4 p = (c3 * R + c2) * (R * R) + (el - (R - r));
+        const V k = to_f32(shift_right_logical(bits(s), 23));
+        const V scale = c * from_bits(0x7B000000 - (bits(s) & 0x7F800000));
+        const V r = s * scale - one;
+        const V el = e * scale;
+        const V R = r + el;
+        const V p = (c3 * R + c2) * (R * R) + (el - (R - r));
 
-        const f32x4 a = k * ln2_head + heads;
-        const f32x4 sum = a + R;
-        const f32x4 sum_error = R - (sum - a);
-        const f32x4 y = (((k * ln2_tail + tails) + sum_error) + p) + sum;
+        const V a = k * ln2_head + heads;
+        const V sum = a + R;
+        const V sum_error = R - (sum - a);
+        const V y = (((k * ln2_tail + tails) + sum_error) + p) + sum;
         return Flagged{or_bits(y, sign_bit(x)), outside(whole)};
     }
 };
@@ -57,20 +57,20 @@ struct Log1pf : Kernel<float(float)> {
 struct Log1pfNative : Kernel<float(float)> {
     static constexpr auto callout = callout::log1pf;
 
-    static constexpr f32x4 ln2 = factor_of_exponent(0x3F317218);  // 0.6931471824645996
-    static constexpr f32x4 q3 = splat_f32(0x3E612933);            // 0.2198837250471115
-    static constexpr f32x4 q2 = splat_f32(0xBE88E8FE);            // -0.2674025893211365
-    static constexpr f32x4 q1 = splat_f32(0x3EAA7160);            // 0.33289623260498047
-    static constexpr f32x4 q0 = splat(-0.5f);
+    static constexpr float ln2 = factor_of_exponent(0x3F317218);  // 0.6931471824645996
+    static constexpr float q3 = f32(0x3E612933);              // 0.2198837250471115
+    static constexpr float q2 = f32(0xBE88E8FE);              // -0.2674025893211365
+    static constexpr float q1 = f32(0x3EAA7160);              // 0.33289623260498047
+    static constexpr float q0 = -0.5f;
 
-    static TARN_INLINE auto fast(f32x4 x) {
-        const f32x4 s = one + x;
-        const f32x4 e = (max(one, x) - s) + min(one, x);
+    template <class V> static TARN_INLINE auto fast(V x) {
+        const V s = one + x;
+        const V e = (max(one, x) - s) + min(one, x);
         const auto [exponent, r_of_s] = split_at_two_thirds(s);
-        const f32x4 r = r_of_s + e * from_bits(bits(one) - exponent);
-        const f32x4 y = to_f32(exponent) * ln2 + log1p_polynomial(r, q3, q2, q1, q0);
+        const V r = r_of_s + e * from_bits(bits(one) - exponent);
+        const V y = to_f32(exponent) * ln2 + log1p_polynomial(r, q3, q2, q1, q0);
         // In one wrapping sum: 1 + x outside [2^-126, 2^127).
-        const i32x4 special = (i32x4)((u32x4)s + (u32x4)splat_i32(0x01000000)) < splat_i32(0x01800000);
+        const BitsOf<V> special = wrapping_sum(bits(s), 0x01000000) < 0x01800000;
         return Flagged{or_bits(y, sign_bit(x)), special};
     }
 };

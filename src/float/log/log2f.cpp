@@ -12,19 +12,19 @@ namespace {
 struct Log2f : Kernel<float(float)> {
     static constexpr auto callout = callout::log2f;
 
-    static constexpr f32x4 p[9] = {
-        splat_f32(0x3FB8AA3B),  // 1.4426950216293335
-        splat_f32(0xBF38AA2B),  // -0.7213465571403503
-        splat_f32(0x3EF637C0),  // 0.4808940887451172
-        splat_f32(0xBEB8B969),  // -0.36078956723213196
-        splat_f32(0x3E93DD07),  // 0.28879567980766296
-        splat_f32(0xBE727824),  // -0.23678642511367798
-        splat_f32(0x3E4D660B),  // 0.20058457553386688
-        splat_f32(0xBE638E14),  // -0.22222167253494263
-        splat_f32(0x3E554012),  // 0.2082522213459015
+    static constexpr float p[9] = {
+        f32(0x3FB8AA3B),  // 1.4426950216293335
+        f32(0xBF38AA2B),  // -0.7213465571403503
+        f32(0x3EF637C0),  // 0.4808940887451172
+        f32(0xBEB8B969),  // -0.36078956723213196
+        f32(0x3E93DD07),  // 0.28879567980766296
+        f32(0xBE727824),  // -0.23678642511367798
+        f32(0x3E4D660B),  // 0.20058457553386688
+        f32(0xBE638E14),  // -0.22222167253494263
+        f32(0x3E554012),  // 0.2082522213459015
     };
 
-    static TARN_INLINE auto fast(f32x4 x) {
+    template <class V> static TARN_INLINE auto fast(V x) {
         const auto [exponent, r] = split_at_two_thirds(x);
         return Flagged{degree_9(r, p) + to_f32(exponent >> 23), not_positive_normal(x)};
     }
@@ -33,13 +33,13 @@ struct Log2f : Kernel<float(float)> {
 struct Log2fNative : Kernel<float(float)> {
     static constexpr auto callout = callout::log2f;
 
-    static constexpr f32x4 p5 = splat_f32(0x3EAAE01B);  // 0.33374103903770447
-    static constexpr f32x4 p4 = splat_f32(0xBECB686C);  // -0.39728105068206787
-    static constexpr f32x4 p3 = splat_f32(0x3EF4FA41);  // 0.4784717857837677
-    static constexpr f32x4 p2 = splat_f32(0xBF38658A);  // -0.7202993631362915
-    static constexpr f32x4 p1 = splat_f32(0x3FB8AAED);  // 1.4427162408828735
+    static constexpr float p5 = f32(0x3EAAE01B);  // 0.33374103903770447
+    static constexpr float p4 = f32(0xBECB686C);  // -0.39728105068206787
+    static constexpr float p3 = f32(0x3EF4FA41);  // 0.4784717857837677
+    static constexpr float p2 = f32(0xBF38658A);  // -0.7202993631362915
+    static constexpr float p1 = f32(0x3FB8AAED);  // 1.4427162408828735
 
-    static TARN_INLINE auto fast(f32x4 x) {
+    template <class V> static TARN_INLINE auto fast(V x) {
         const auto [exponent, r] = split_at_two_thirds(x);
         return Flagged{to_f32(exponent >> 23) + horner(r, p5, p4, p3, p2, p1) * r, not_positive_normal(x)};
     }

@@ -11,27 +11,27 @@
 namespace tarn {
 namespace {
 
-constexpr f32x4 ln2_head = factor_of_exponent(0x3F317200);  // 0.693145751953125
-constexpr f32x4 ln2_tail = factor_of_exponent(0x35BFBE8E);  // 1.428606765330187e-06
-constexpr f32x4 ln2 = factor_of_exponent(0x3F317218);       // 0.6931471824645996
-constexpr f32x4 q0 = splat(-0.5f);
+constexpr float ln2_head = factor_of_exponent(0x3F317200);  // 0.693145751953125
+constexpr float ln2_tail = factor_of_exponent(0x35BFBE8E);  // 1.428606765330187e-06
+constexpr float ln2 = factor_of_exponent(0x3F317218);       // 0.6931471824645996
+constexpr float q0 = -0.5f;
 
 struct Logf : Kernel<float(float)> {
     static constexpr auto callout = callout::logf;
 
-    static constexpr f32x4 q8 = splat_f32(0xBE0402C8);  // -0.12891685962677002
-    static constexpr f32x4 q7 = splat_f32(0x3E0F335D);  // 0.1398443728685379
-    static constexpr f32x4 q6 = splat_f32(0xBDF9889E);  // -0.12184260785579681
-    static constexpr f32x4 q5 = splat_f32(0x3E0F6B8C);  // 0.140058696269989
-    static constexpr f32x4 q4 = splat_f32(0xBE2ACEE6);  // -0.16680487990379333
-    static constexpr f32x4 q3 = splat_f32(0x3E4CE814);  // 0.20010405778884888
-    static constexpr f32x4 q2 = splat_f32(0xBE7FFF78);  // -0.24999797344207764
-    static constexpr f32x4 q1 = splat_f32(0x3EAAAA83);  // 0.3333321511745453
+    static constexpr float q8 = f32(0xBE0402C8);  // -0.12891685962677002
+    static constexpr float q7 = f32(0x3E0F335D);  // 0.1398443728685379
+    static constexpr float q6 = f32(0xBDF9889E);  // -0.12184260785579681
+    static constexpr float q5 = f32(0x3E0F6B8C);  // 0.140058696269989
+    static constexpr float q4 = f32(0xBE2ACEE6);  // -0.16680487990379333
+    static constexpr float q3 = f32(0x3E4CE814);  // 0.20010405778884888
+    static constexpr float q2 = f32(0xBE7FFF78);  // -0.24999797344207764
+    static constexpr float q1 = f32(0x3EAAAA83);  // 0.3333321511745453
 
-    static TARN_INLINE auto fast(f32x4 x) {
+    template <class V> static TARN_INLINE auto fast(V x) {
         const auto [exponent, r] = split_at_two_thirds(x);
-        const f32x4 k = to_f32(exponent);
-        const f32x4 p = log1p_polynomial(r, q8, q7, q6, q5, q4, q3, q2, q1, q0);
+        const V k = to_f32(exponent);
+        const V p = log1p_polynomial(r, q8, q7, q6, q5, q4, q3, q2, q1, q0);
         return Flagged{k * ln2_head + (k * ln2_tail + p), not_positive_normal(x)};
     }
 };
@@ -39,16 +39,16 @@ struct Logf : Kernel<float(float)> {
 struct LogfHalf : Kernel<float(float)> {
     static constexpr auto callout = callout::logf;
 
-    static constexpr f32x4 q6 = splat_f32(0xBE1B6A22);  // -0.15177205204963684
-    static constexpr f32x4 q5 = splat_f32(0x3E2DB86B);  // 0.16964881122112274
-    static constexpr f32x4 q4 = splat_f32(0xBE289358);  // -0.16462457180023193
-    static constexpr f32x4 q3 = splat_f32(0x3E4AFB81);  // 0.19822503626346588
-    static constexpr f32x4 q2 = splat_f32(0xBE80061D);  // -0.25004664063453674
-    static constexpr f32x4 q1 = splat_f32(0x3EAAAEE7);  // 0.33336564898490906
+    static constexpr float q6 = f32(0xBE1B6A22);  // -0.15177205204963684
+    static constexpr float q5 = f32(0x3E2DB86B);  // 0.16964881122112274
+    static constexpr float q4 = f32(0xBE289358);  // -0.16462457180023193
+    static constexpr float q3 = f32(0x3E4AFB81);  // 0.19822503626346588
+    static constexpr float q2 = f32(0xBE80061D);  // -0.25004664063453674
+    static constexpr float q1 = f32(0x3EAAAEE7);  // 0.33336564898490906
 
-    static TARN_INLINE auto fast(f32x4 x) {
+    template <class V> static TARN_INLINE auto fast(V x) {
         const auto [exponent, r] = split_at_two_thirds(x);
-        const f32x4 p = log1p_polynomial(r, q6, q5, q4, q3, q2, q1, q0);
+        const V p = log1p_polynomial(r, q6, q5, q4, q3, q2, q1, q0);
         return Flagged{to_f32(exponent) * ln2 + p, not_positive_normal(x)};
     }
 };
@@ -56,10 +56,10 @@ struct LogfHalf : Kernel<float(float)> {
 struct LogfNative : Kernel<float(float)> {
     static constexpr auto callout = callout::logf;
 
-    static constexpr f32x4 q2 = splat_f32(0xBE89233C);  // -0.267846941947937
-    static constexpr f32x4 q1 = splat_f32(0x3EB4A830);  // 0.3528456687927246
+    static constexpr float q2 = f32(0xBE89233C);  // -0.267846941947937
+    static constexpr float q1 = f32(0x3EB4A830);  // 0.3528456687927246
 
-    static TARN_INLINE auto fast(f32x4 x) {
+    template <class V> static TARN_INLINE auto fast(V x) {
         const auto [exponent, r] = split_at_two_thirds(x);
         return Flagged{to_f32(exponent) * ln2 + log1p_polynomial(r, q2, q1, q0), not_positive_normal(x)};
     }

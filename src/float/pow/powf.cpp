@@ -22,70 +22,70 @@ template <int group_lanes> struct Powf : Kernel<float(float, float)> {
     static constexpr bool two_halves = lanes == 4;
     static constexpr auto callout = callout::powf;
 
-    static constexpr f64x2 ln2 = splat_f64(0x3FE62E42FEFA39EF);       // 0.6931471805599453
-    static constexpr f64x2 a3 = splat_f64(0x3FD55555555543C5);        // 0.33333333333308374
-    static constexpr f64x2 a2 = splat_f64(0xBFDFFFFFFFFFF81F);        // -0.49999999999988803
-    static constexpr f64x2 scale = splat_f64(0x40A71547652B82FE);     // 2954.639443740597 = 2048/ln 2
-    static constexpr f64x2 slope = splat_f64(0x3F362F3904051FA1);     // 0.00033850805268231294, near ln 2/2048
-    static constexpr f64x2 shifter = splat_f64(0x4338000000000000);   // 6755399441055744.0 = 1.5 * 2^52
-    static constexpr f64x2 one = splat(1.0), half = splat(0.5);
-    static constexpr i32x4 bound = splat_i32(0x4059FE36);             // upper half of 103.9720458984375
+    static constexpr double ln2 = f64(0x3FE62E42FEFA39EF);      // 0.6931471805599453
+    static constexpr double a3 = f64(0x3FD55555555543C5);       // 0.33333333333308374
+    static constexpr double a2 = f64(0xBFDFFFFFFFFFF81F);       // -0.49999999999988803
+    static constexpr double scale = f64(0x40A71547652B82FE);    // 2954.639443740597 = 2048/ln 2
+    static constexpr double slope = f64(0x3F362F3904051FA1);    // 0.00033850805268231294, near ln 2/2048
+    static constexpr double shifter = f64(0x4338000000000000);  // 6755399441055744.0 = 1.5 * 2^52
+    static constexpr float one = 1.0, half = 0.5;
+    static constexpr std::int32_t bound = 0x4059FE36;  // upper half of 103.9720458984375
 
     // y ln x for two lanes.
-    static TARN_INLINE f64x2 log_product(f64x2 m, f64x2 c, f64x2 log_c, f64x2 k, f64x2 y) {
-        const f64x2 r = m * c - one;
-        const f64x2 p = r + r * r * (a2 + a3 * r);
+    template <class V> static TARN_INLINE V log_product(V m, V c, V log_c, V k, V y) {
+        const V r = m * c - one;
+        const V p = r + r * r * (a2 + a3 * r);
         return ((p + log_c) + k * ln2) * y;
     }
 
-    struct Exponent {
-        f64x2 n, f;  // n as the shifter holds it
+    template <class V> struct Exponent {
+        V n, f;  // n as the shifter holds it
     };
-    static TARN_INLINE Exponent split(f64x2 z) {
-        const f64x2 t = z * scale;
-        const f64x2 shifted = (t - half) + shifter;
+    template <class V> static TARN_INLINE Exponent<V> split(V z) {
+        const V t = z * scale;
+        const V shifted = (t - half) + shifter;
         return {shifted, (t - (shifted - shifter)) * slope};
     }
-    static TARN_INLINE f64x2 exp2_of(Exponent e, f64x2 table) {
+    template <class V> static TARN_INLINE V exp2_of(const Exponent<V>& e, V table) {
         return from_bits(bits(table + table * e.f) + (shift_right_logical(bits(e.n), 11) << 52));
     }
 
-    static TARN_INLINE auto fast(f32x4 x, f32x4 y) {
-        const f32x4 m = from_bits((bits(x) & splat_i32(0x007FFFFF)) | splat_i32(0x3A800000));  // m/1024
-        const f32x4 c = round<Rounding::nearest>(reciprocal_estimate(m));                      // 512 to 1024
-        const i32x4 upper = bits(c) > splat_i32(0x44350000);                                   // above 724
-        const i32x4 k = shift_right_logical(bits(x), 23) - splat(126) + upper;
-        const i32x4 row = (bits(c) - splat_i32(0x44000000)) >> 14;
+    template <class V> static TARN_INLINE auto fast(V x, V y) {
+        const V m = from_bits((bits(x) & 0x007FFFFF) | 0x3A800000);    // m/1024
+        const V c = round<Rounding::nearest>(reciprocal_estimate(m));  // 512 to 1024
+        const BitsOf<V> upper = bits(c) > 0x44350000;                  // above 724
+        const BitsOf<V> k = shift_right_logical(bits(x), 23) - 126 + upper;
+        const BitsOf<V> row = (bits(c) - 0x44000000) >> 14;
 
-        const f64x2 z_low = log_product(widen_low(m), widen_low(c), gather_low(powf_logs, row), to_f64(k),
-                                        widen_low(y));
-        const f64x2 z_high = two_halves ? log_product(widen_high(m), widen_high(c), gather_high(powf_logs, row),
-                                                      to_f64_high(k), widen_high(y))
-                                        : z_low;
-        const Exponent low = split(z_low), high = split(z_high);
-        const i32x4 j = lower_words(bits(low.n), bits(high.n)) & splat(2047);
-        const f64x2 power_low = exp2_of(low, gather_low(powf_exp2, j));
-        const f64x2 power_high = two_halves ? exp2_of(high, gather_high(powf_exp2, j)) : power_low;
+        const auto z_low = log_product(widen_low(m), widen_low(c), gather_low(powf_logs, row), to_f64(k),
+                                       widen_low(y));
+        const auto z_high = two_halves ? log_product(widen_high(m), widen_high(c), gather_high(powf_logs, row),
+                                                     to_f64_high(k), widen_high(y))
+                                       : z_low;
+        const auto low = split(z_low), high = split(z_high);
+        const BitsOf<V> j = lower_words(bits(low.n), bits(high.n)) & 2047;
+        const auto power_low = exp2_of(low, gather_low(powf_exp2, j));
+        const auto power_high = two_halves ? exp2_of(high, gather_high(powf_exp2, j)) : power_low;
 
         // An infinite or NaN y makes z one.
-        const i32x4 size = upper_words(bits(z_low), bits(z_high)) & ~sign_mask_f32;
-        const i32x4 special = not_below_largest_normal(x) | (size > bound);
-        const f32x4 power = narrow(power_low, power_high);
+        const BitsOf<V> size = upper_words(bits(z_low), bits(z_high)) & ~sign_mask<V>;
+        const BitsOf<V> special = not_below_largest_normal(x) | (size > bound);
+        const V power = narrow(power_low, power_high);
         if constexpr (two_halves) return Flagged{power, special};
         else return Flagged{power, to_i64(special)};
     }
 
 private:
     // Not positive and normal, or the largest finite number.
-    static TARN_INLINE i32x4 not_below_largest_normal(f32x4 x) {
-        return (i32x4)((u32x4)x - (u32x4)splat_i32(0x80800000)) >= splat_i32(0xFEFFFFFF);
+    template <class V> static TARN_INLINE BitsOf<V> not_below_largest_normal(V x) {
+        return wrapping_difference(bits(x), i32(0x80800000)) >= i32(0xFEFFFFFF);
     }
 };
 
 struct PowfNative : Kernel<float(float, float)> {
     static constexpr auto callout = callout::powf;
 
-    static TARN_INLINE auto fast(f32x4 x, f32x4 y) { return native_power<NativeExp>(x, y); }
+    template <class V> static TARN_INLINE auto fast(V x, V y) { return native_power<NativeExp>(x, y); }
 };
 
 using PowfByWidth = ExceptAt<ExceptAt<Powf<4>, 1, Powf<2>>, 2, Powf<2>>;

@@ -13,18 +13,18 @@ namespace {
 struct Pownf : Kernel<float(float, std::int32_t)> {
     static constexpr auto callout = callout::pownf;
 
-    static TARN_INLINE auto fast(f32x4 x, i32x4 n) {
-        const Split log = split_log(x);
-        const f32x4 y = to_f32(n);
-        const i32x4 rest = (i32x4)((u32x4)n - (u32x4)to_i32(y));  // 2^31 wraps, and wraps back
-        return split_power<IntegerExponentExp>(x, log, y, halves(y), to_f32(rest));
+    template <class V> static TARN_INLINE auto fast(V x, BitsOf<V> n) {
+        const HeadTail<V> log = split_log(x);
+        const V y = to_f32(n);
+        const BitsOf<V> rest = wrapping_difference(n, to_i32(y));  // 2^31 wraps, and wraps back
+        return split_power<IntegerExponentExp>(x, log, y, veltkamp_split(y), to_f32(rest));
     }
 };
 
 struct PownfNative : Kernel<float(float, std::int32_t)> {
     static constexpr auto callout = callout::pownf;
 
-    static TARN_INLINE auto fast(f32x4 x, i32x4 n) { return native_power<NativeIntegerExp>(x, to_f32(n)); }
+    template <class V> static TARN_INLINE auto fast(V x, BitsOf<V> n) { return native_power<NativeIntegerExp>(x, to_f32(n)); }
 };
 
 }  // namespace

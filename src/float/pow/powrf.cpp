@@ -13,15 +13,15 @@ namespace {
 struct Powrf : Kernel<float(float, float)> {
     static constexpr auto callout = callout::powrf;
 
-    static TARN_INLINE auto fast(f32x4 x, f32x4 y) {
-        return split_power<RealExponentExp>(x, split_log(x), y, halves(y), splat(0.0f));
+    template <class V> static TARN_INLINE auto fast(V x, V y) {
+        return split_power<RealExponentExp>(x, split_log(x), y, veltkamp_split(y), V{});
     }
 };
 
 struct PowrfNative : Kernel<float(float, float)> {
     static constexpr auto callout = callout::powrf;
 
-    static TARN_INLINE auto fast(f32x4 x, f32x4 y) { return native_power<NativeExp>(x, y); }
+    template <class V> static TARN_INLINE auto fast(V x, V y) { return native_power<NativeExp>(x, y); }
 };
 
 }  // namespace

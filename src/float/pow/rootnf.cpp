@@ -14,22 +14,22 @@ namespace {
 struct Rootnf : Kernel<float(float, std::int32_t)> {
     static constexpr auto callout = callout::rootnf;
 
-    static TARN_INLINE auto fast(f32x4 x, i32x4 n) {
-        const Split log = split_log(x);
-        const f32x4 one = splat(1.0f), divisor = to_f32(n);
-        const f32x4 y = one / divisor;
-        const Split y_halves = halves(y);
-        const auto [back, back_tail] = exact_product(y, y_halves, divisor, halves(divisor));
-        const f32x4 y_tail = ((one - back) - back_tail) * y;
-        return split_power<IntegerExponentExp>(x, log, y, y_halves, y_tail);
+    template <class V> static TARN_INLINE auto fast(V x, BitsOf<V> n) {
+        const HeadTail<V> log = split_log(x);
+        const V divisor = to_f32(n);
+        const V y = 1.0f / divisor;
+        const HeadTail<V> y_split = veltkamp_split(y);
+        const auto [back, back_tail] = two_product(y, y_split, divisor, veltkamp_split(divisor));
+        const V y_tail = ((1.0f - back) - back_tail) * y;
+        return split_power<IntegerExponentExp>(x, log, y, y_split, y_tail);
     }
 };
 
 struct RootnfNative : Kernel<float(float, std::int32_t)> {
     static constexpr auto callout = callout::rootnf;
 
-    static TARN_INLINE auto fast(f32x4 x, i32x4 n) {
-        return native_power<NativeIntegerExp>(x, splat(1.0f) / to_f32(n));
+    template <class V> static TARN_INLINE auto fast(V x, BitsOf<V> n) {
+        return native_power<NativeIntegerExp>(x, 1.0f / to_f32(n));
     }
 };
 

@@ -12,8 +12,8 @@ namespace {
 template <class Root, auto special_lane, bool short_series = false> struct CubeRootOf : Kernel<float(float)> {
     static constexpr auto callout = special_lane;
 
-    static TARN_INLINE auto fast(f32x4 x) {
-        const i32x4 special = not_positive_normal(abs(x));
+    template <class V> static TARN_INLINE auto fast(V x) {
+        const BitsOf<V> special = not_positive_normal(abs(x));
         return Flagged{cube_root_steps<Root, short_series>(x, special), special};
     }
 };

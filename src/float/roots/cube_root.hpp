@@ -14,45 +14,48 @@ namespace tarn {
 
 struct CubeRoot {
     static constexpr const auto& rows = cube_root_rows;
-    static constexpr f32x4 c4 = splat_f32(0xBD288F47);  // -0.041152264922857285 = -10/243
-    static constexpr f32x4 c3 = splat_f32(0x3D7CD6EA);  // 0.06172839552164078 = 5/81
-    static constexpr f32x4 c2 = splat_f32(0xBDE38E39);  // -0.1111111119389534 = -1/9
-    static constexpr f32x4 c1 = splat_f32(0x3EAAAAAB);  // 0.3333333432674408 = 1/3
+    static constexpr float c4 = f32(0xBD288F47);  // -0.041152264922857285 = -10/243
+    static constexpr float c3 = f32(0x3D7CD6EA);  // 0.06172839552164078 = 5/81
+    static constexpr float c2 = f32(0xBDE38E39);  // -0.1111111119389534 = -1/9
+    static constexpr float c1 = f32(0x3EAAAAAB);  // 0.3333333432674408 = 1/3
 
-    static TARN_INLINE i32x4 exponent(i32x4 q) { return q + splat(85); }  // of 2^(q - 42)
+    template <class I> static TARN_INLINE I exponent(I q) { return q + 85; }  // of 2^(q - 42)
 };
 
 struct ReciprocalCubeRoot {
     static constexpr const auto& rows = reciprocal_cube_root_rows;
-    static constexpr f32x4 c4 = splat_f32(0x3E137D5E);  // 0.14403292536735535 = 35/243
-    static constexpr f32x4 c3 = splat_f32(0xBE30FCD7);  // -0.17283950746059418 = -14/81
-    static constexpr f32x4 c2 = splat_f32(0x3E638E39);  // 0.2222222238779068 = 2/9
-    static constexpr f32x4 c1 = splat_f32(0xBEAAAAAB);  // -0.3333333432674408 = -1/3
+    static constexpr float c4 = f32(0x3E137D5E);  // 0.14403292536735535 = 35/243
+    static constexpr float c3 = f32(0xBE30FCD7);  // -0.17283950746059418 = -14/81
+    static constexpr float c2 = f32(0x3E638E39);  // 0.2222222238779068 = 2/9
+    static constexpr float c1 = f32(0xBEAAAAAB);  // -0.3333333432674408 = -1/3
 
-    static TARN_INLINE i32x4 exponent(i32x4 q) { return splat(169) - q; }  // of 2^(42 - q)
+    template <class I> static TARN_INLINE I exponent(I q) { return 169 - q; }  // of 2^(42 - q)
 };
 
 // The root of normal numbers of either sign by all terms of the series or, short, by its linear one.
 // Special lanes read row 0, which keeps the load inside the table.
-template <class Root, bool short_series = false> TARN_INLINE f32x4 cube_root_steps(f32x4 x, i32x4 special) {
-    const i32x4 b = bits(x);
-    const i32x4 sign_and_exponent = shift_right_logical(b, 23);
-    const i32x4 sign = sign_and_exponent & splat(0x100);
-    const i32x4 e = sign_and_exponent & splat(0xFF);
-    const i32x4 e5 = (e << 2) + e;
-    const i32x4 e85 = (e5 << 4) + e5;
-    const i32x4 q = ((e85 << 4) + e5) >> 12;  // 1365 e / 4096
-    const i32x4 rem = e - splat(1) - (q + q + q);
+template <class Root, bool short_series = false, class V> TARN_INLINE V cube_root_steps(V x, BitsOf<V> special) {
+    const BitsOf<V> b = bits(x);
+    const BitsOf<V> sign_and_exponent = shift_right_logical(b, 23);
+    const BitsOf<V> sign = sign_and_exponent & 0x100;
+    const BitsOf<V> e = sign_and_exponent & 0xFF;
+    const BitsOf<V> e5 = (e << 2) + e;
+    const BitsOf<V> e85 = (e5 << 4) + e5;
+    const BitsOf<V> q = ((e85 << 4) + e5) >> 12;  // 1365 e / 4096
+    const BitsOf<V> rem = e - 1 - (q + q + q);
 
-    const i32x4 row = ((rem << 5) + (shift_right_logical(b, 18) & splat(31))) & ~special;
+    const BitsOf<V> row = ((rem << 5) + (shift_right_logical(b, 18) & 31)) & ~special;
     const auto [table_high, table_low, minus_reciprocal, padding] = gather_quads(Root::rows, row);
-    const f32x4 minus_m = from_bits((b & splat(0x007FFFFF)) | splat_i32(0xBF800000));
-    const f32x4 minus_c = from_bits((b & splat(0x007E0000)) | splat_i32(0xBF820000));
-    const f32x4 t = (minus_m - minus_c) * minus_reciprocal;
+    const V minus_m = from_bits((b & 0x007FFFFF) | i32(0xBF800000));
+    const V minus_c = from_bits((b & 0x007E0000) | i32(0xBF820000));
+    const V t = (minus_m - minus_c) * minus_reciprocal;
 
-    const f32x4 scale = from_bits((Root::exponent(q) | sign) << 23);
-    const f32x4 high = table_high * scale, low = table_low * scale;
-    const f32x4 series = short_series ? Root::c1 : horner(t, Root::c4, Root::c3, Root::c2, Root::c1);
+    const V scale = from_bits((Root::exponent(q) | sign) << 23);
+    const V high = table_high * scale, low = table_low * scale;
+    const auto series = [&]() __attribute__((always_inline)) {
+        if constexpr (short_series) return Root::c1;
+        else return horner(t, Root::c4, Root::c3, Root::c2, Root::c1);
+    }();
     return (series * (t * high) + low) + high;
 }
 

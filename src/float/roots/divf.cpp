@@ -10,33 +10,33 @@ namespace tarn {
 namespace {
 
 // |x| outside [2^-126, 2^-126 + span], in steps of the bit pattern; infinities and NaNs are outside.
-TARN_INLINE i32x4 outside_normal_span(f32x4 x, std::uint32_t span) {
-    const i32x4 above = (i32x4)((u32x4)x - (u32x4)splat_i32(0x00800000));
-    return (above & ~sign_mask_f32) > splat_i32(span);
+template <class V> TARN_INLINE BitsOf<V> outside_normal_span(V x, std::uint32_t span) {
+    const BitsOf<V> above = wrapping_difference(bits(x), 0x00800000);
+    return (above & ~sign_mask<V>) > i32(span);
 }
 
 struct Divf : Kernel<float(float, float)> {
-    static TARN_INLINE f32x4 fast(f32x4 x, f32x4 y) { return x / y; }
+    template <class V> static TARN_INLINE V fast(V x, V y) { return x / y; }
 };
 
 struct DivfNative : Kernel<float(float, float)> {
     static constexpr auto callout = callout::divf;
     static constexpr std::uint32_t span = 0x7E000000;  // up to 2^126
 
-    static TARN_INLINE auto fast(f32x4 x, f32x4 y) {
+    template <class V> static TARN_INLINE auto fast(V x, V y) {
         return Flagged{x * reciprocal_estimate(y), outside_normal_span(y, span)};
     }
 };
 
 struct Invf : Kernel<float(float)> {
-    static TARN_INLINE f32x4 fast(f32x4 x) { return splat(1.0f) / x; }
+    template <class V> static TARN_INLINE V fast(V x) { return 1.0f / x; }
 };
 
 struct InvfNative : Kernel<float(float)> {
     static constexpr auto callout = callout::invf;
     static constexpr std::uint32_t span = 0x7DFFE800;  // up to 8.502e37, just below 2^126
 
-    static TARN_INLINE auto fast(f32x4 x) { return Flagged{reciprocal_estimate(x), outside_normal_span(x, span)}; }
+    template <class V> static TARN_INLINE auto fast(V x) { return Flagged{reciprocal_estimate(x), outside_normal_span(x, span)}; }
 };
 
 }  // namespace

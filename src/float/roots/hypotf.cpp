@@ -13,19 +13,19 @@ namespace {
 struct Hypotf : Kernel<float(float, float)> {
     static constexpr auto callout = callout::hypotf;
 
-    static constexpr i32x4 lowest = splat_i32(0x1E300000);   // 9.317362419797304e-21
-    static constexpr i32x4 highest = splat_i32(0x60A00000);  // 9.223372036854776e+19
+    static constexpr std::int32_t lowest = 0x1E300000;   // 9.317362419797304e-21
+    static constexpr std::int32_t highest = 0x60A00000;  // 9.223372036854776e+19
 
-    static TARN_INLINE auto fast(f32x4 x, f32x4 y) {
-        const f32x4 sum = x * x + y * y;
+    template <class V> static TARN_INLINE auto fast(V x, V y) {
+        const V sum = x * x + y * y;
         return Flagged{refined_root(sum), (bits(sum) < lowest) | (bits(sum) > highest)};
     }
 };
 
 struct HypotfNative : Kernel<float(float, float)> {
-    static TARN_INLINE f32x4 fast(f32x4 x, f32x4 y) {
-        const f32x4 sum = x * x + y * y;
-        const i32x4 nonzero = ~(sum == splat(0.0f));
+    template <class V> static TARN_INLINE V fast(V x, V y) {
+        const V sum = x * x + y * y;
+        const BitsOf<V> nonzero = ~(sum == 0.0f);
         return sum * from_bits(bits(rsqrt_estimate(sum)) & nonzero);
     }
 };

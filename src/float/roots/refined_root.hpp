@@ -7,12 +7,12 @@
 
 namespace tarn {
 
-TARN_INLINE f32x4 refined_root(f32x4 x) {
-    const f32x4 half = splat(0.5f);
-    const f32x4 y = rsqrt_estimate(x);
-    const f32x4 s = x * y, h = y * half;
-    const f32x4 e = half - s * h;
-    const f32x4 s1 = s + e * s, h1 = h + e * h;
+template <class V> TARN_INLINE V refined_root(V x) {
+    constexpr float half = 0.5f;
+    const V y = rsqrt_estimate(x);
+    const V s = x * y, h = y * half;
+    const V e = half - s * h;
+    const V s1 = s + e * s, h1 = h + e * h;
     return s1 + h1 * (x - s1 * s1);
 }
 

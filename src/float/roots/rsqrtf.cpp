@@ -13,13 +13,13 @@ namespace {
 struct Rsqrtf : Kernel<float(float)> {
     static constexpr auto callout = callout::rsqrtf;
 
-    static constexpr f32x4 c3 = splat(-0.3125f);
-    static constexpr f32x4 c2 = splat(0.375f);
-    static constexpr f32x4 c1 = splat(-0.5f);
+    static constexpr float c3 = -0.3125f;
+    static constexpr float c2 = 0.375f;
+    static constexpr float c1 = -0.5f;
 
-    static TARN_INLINE auto fast(f32x4 x) {
-        const f32x4 y = from_bits(bits(rsqrt_estimate(x)) & splat_i32(0xFFFF8000));
-        const f32x4 t = y * y * x - splat(1.0f);
+    template <class V> static TARN_INLINE auto fast(V x) {
+        const V y = from_bits(bits(rsqrt_estimate(x)) & i32(0xFFFF8000));
+        const V t = y * y * x - 1.0f;
         return Flagged{horner(t, c3, c2, c1) * t * y + y, not_positive_normal(x)};
     }
 };
@@ -27,7 +27,7 @@ struct Rsqrtf : Kernel<float(float)> {
 struct RsqrtfNative : Kernel<float(float)> {
     static constexpr auto callout = callout::rsqrtf;
 
-    static TARN_INLINE auto fast(f32x4 x) { return Flagged{rsqrt_estimate(x), not_positive_normal(x)}; }
+    template <class V> static TARN_INLINE auto fast(V x) { return Flagged{rsqrt_estimate(x), not_positive_normal(x)}; }
 };
 
 }  // namespace

@@ -13,11 +13,11 @@ namespace {
 struct Sqrtf : Kernel<float(float)> {
     static constexpr auto callout = callout::sqrtf;
 
-    static TARN_INLINE auto fast(f32x4 x) { return Flagged{refined_root(x), not_positive_normal(x)}; }
+    template <class V> static TARN_INLINE auto fast(V x) { return Flagged{refined_root(x), not_positive_normal(x)}; }
 };
 
 struct SqrtfNative : Kernel<float(float)> {
-    static TARN_INLINE f32x4 fast(f32x4 x) { return x * rsqrt_estimate(x); }
+    template <class V> static TARN_INLINE V fast(V x) { return x * rsqrt_estimate(x); }
 };
 
 }  // namespace

@@ -13,51 +13,51 @@ namespace {
 #include "tables/erfcf_native_points.inc"
 #include "tables/erfcf_points.inc"
 
-constexpr f32x4 largest = splat_f32(0x41210000);    // 10.0625, the row of zeros
-constexpr f32x4 smallest = splat_f32(0x27800000);   // 2^-48
-constexpr f32x4 bound = splat_f32(0x4120DDFB);      // 10.054194450378418: from here on erfc underflows
-constexpr f32x4 two = splat_f32(0xD8000000);        // -2^49
-constexpr f32x4 unscale = splat_f32(0x27800000);    // 2^-48
+constexpr float largest = f32(0x41210000);   // 10.0625, the row of zeros
+constexpr float smallest = f32(0x27800000);  // 2^-48
+constexpr float bound = f32(0x4120DDFB);     // 10.054194450378418: from here on erfc underflows
+constexpr float two = f32(0xD8000000);       // -2^49
+constexpr float unscale = f32(0x27800000);   // 2^-48
 
 struct Full {
-    static constexpr f32x4 shifter = splat_f32(0x48000000);  // 131072.0: rounds to 64ths
-    static constexpr f32x4 u1 = splat_f32(0xBF7FFFFC);       // -0.9999997615814209
-    static constexpr f32x4 u2 = splat_f32(0x3F2AAAA6);       // 0.6666663885116577
-    static constexpr f32x4 u3 = splat_f32(0xBEAACF22);       // -0.33361154794692993
-    static constexpr f32x4 u4 = splat_f32(0x3E08A7CA);       // 0.13345256447792053
-    static constexpr f32x4 h0 = splat_f32(0xBEAB4EDB);       // -0.3345859944820404
-    static constexpr f32x4 h1 = splat_f32(0x3F005B36);       // 0.5013917684555054
+    static constexpr float shifter = f32(0x48000000);  // 131072.0: rounds to 64ths
+    static constexpr float u1 = f32(0xBF7FFFFC);       // -0.9999997615814209
+    static constexpr float u2 = f32(0x3F2AAAA6);       // 0.6666663885116577
+    static constexpr float u3 = f32(0xBEAACF22);       // -0.33361154794692993
+    static constexpr float u4 = f32(0x3E08A7CA);       // 0.13345256447792053
+    static constexpr float h0 = f32(0xBEAB4EDB);       // -0.3345859944820404
+    static constexpr float h1 = f32(0x3F005B36);       // 0.5013917684555054
 
-    static TARN_INLINE PairLanes row(i32x4 k) { return gather_pairs(erfcf_points, k); }
-    static TARN_INLINE f32x4 series(f32x4 u, f32x4 h) {
+    template <class I> static TARN_INLINE auto row(I k) { return gather_pairs(erfcf_points, k); }
+    template <class V> static TARN_INLINE V series(V u, V h) {
         return u * (u1 + u * (u2 + u * (u3 + u4 * u))) + (h * h) * (h0 + h1 * u);
     }
 };
 
 struct Native {
-    static constexpr f32x4 shifter = splat_f32(0x48800000);  // 262144.0: rounds to 32nds
+    static constexpr float shifter = f32(0x48800000);  // 262144.0: rounds to 32nds
     // Fitted to the least error over the whole grid, the terms in h^2 alone left out.
-    static constexpr f32x4 u1 = splat_f32(0xBF80D115);       // -1.0063806772232056
-    static constexpr f32x4 u2 = splat_f32(0x3F2A0E54);       // 0.6642811298370361
+    static constexpr float u1 = f32(0xBF80D115);  // -1.0063806772232056
+    static constexpr float u2 = f32(0x3F2A0E54);  // 0.6642811298370361
 
-    static TARN_INLINE PairLanes row(i32x4 k) { return gather_pairs(erfcf_native_points, k); }
-    static TARN_INLINE f32x4 series(f32x4 u, f32x4) { return u * (u1 + u2 * u); }
+    template <class I> static TARN_INLINE auto row(I k) { return gather_pairs(erfcf_native_points, k); }
+    template <class V> static TARN_INLINE V series(V u, V) { return u * (u1 + u2 * u); }
 };
 
 template <class Form> struct Erfcf : Kernel<float(float)> {
     static constexpr auto callout = callout::erfcf;
 
-    static TARN_INLINE auto fast(f32x4 x) {
-        const f32x4 a = min(abs(x), largest);
-        const f32x4 shifted = a + Form::shifter;
-        const f32x4 d = shifted - Form::shifter;
-        const f32x4 h = max(a, smallest) - d;
+    template <class V> static TARN_INLINE auto fast(V x) {
+        const V a = min(abs(x), largest);
+        const V shifted = a + Form::shifter;
+        const V d = shifted - Form::shifter;
+        const V h = max(a, smallest) - d;
         const auto [value, slope] = Form::row(bits(shifted) - bits(Form::shifter));
-        const f32x4 p = Form::series(d * h, h);
-        const f32x4 scaled = value - h * (slope + slope * p);
-        const i32x4 negative = x < splat(0.0f);
-        const f32x4 sum = scaled + where(negative, two);
-        return Flagged{sum * or_bits(unscale, negative & sign_mask_f32), (i32x4)_mm_cmpnlt_ps(x, bound)};
+        const V p = Form::series(d * h, h);
+        const V scaled = value - h * (slope + slope * p);
+        const BitsOf<V> negative = x < 0.0f;
+        const V sum = scaled + where(negative, two);
+        return Flagged{sum * or_bits(filled<V>(unscale), negative & sign_mask<V>), ~(x < bound)};
     }
 };
 

@@ -13,9 +13,9 @@ namespace {
 template <class Form> struct Acosf : Kernel<float(float)> {
     static constexpr auto callout = callout::acosf;
 
-    static TARN_INLINE auto fast(f32x4 x) {
+    template <class V> static TARN_INLINE auto fast(V x) {
         const auto folded = arcsine::fold_signed<Form>(x);
-        const f32x4 offset = arcsine::start(x, folded, arcsine::half_pi, arcsine::pi);
+        const V offset = arcsine::start(x, folded, arcsine::half_pi, arcsine::pi);
         return Flagged{offset + Form::value(folded.u, folded.z), arcsine::one <= abs(x)};
     }
 };

@@ -10,15 +10,15 @@ namespace tarn {
 namespace {
 
 struct Full : arcsine::HalfTurns {
-    static TARN_INLINE f32x4 value(f32x4 u, f32x4 z) { return (rest(z) + arcsine::inv_pi) * u; }
+    template <class V> static TARN_INLINE V value(V u, V z) { return (rest(z) + arcsine::inv_pi) * u; }
 };
 
 template <class Form> struct Acospif : Kernel<float(float)> {
     static constexpr auto callout = callout::acospif;
 
-    static TARN_INLINE auto fast(f32x4 x) {
+    template <class V> static TARN_INLINE auto fast(V x) {
         const auto folded = arcsine::fold_signed<Form>(x);
-        const f32x4 offset = arcsine::start(x, folded, arcsine::half, arcsine::one);
+        const V offset = arcsine::start(x, folded, arcsine::half, arcsine::one);
         return Flagged{Form::value(folded.u, folded.z) + offset, arcsine::one <= abs(x)};
     }
 };

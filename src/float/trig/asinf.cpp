@@ -12,10 +12,10 @@ namespace {
 template <class Form> struct Asinf : Kernel<float(float)> {
     static constexpr auto callout = callout::asinf;
 
-    static TARN_INLINE auto fast(f32x4 x) {
-        const f32x4 a = abs(x);
+    template <class V> static TARN_INLINE auto fast(V x) {
+        const V a = abs(x);
         const auto [u, z, upper] = arcsine::fold<Form>(a);
-        const f32x4 y = Form::value(u, z) + where(upper, arcsine::half_pi);
+        const V y = Form::value(u, z) + where(upper, arcsine::half_pi);
         return Flagged{xor_bits(y, sign_bit(x)), arcsine::one <= a};
     }
 };

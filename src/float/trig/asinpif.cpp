@@ -12,22 +12,22 @@ namespace tarn {
 namespace {
 
 struct Full : arcsine::HalfTurns {
-    static TARN_INLINE f32x4 sum(f32x4 u, f32x4 z, f32x4 offset) {
+    template <class V> static TARN_INLINE V sum(V u, V z, V offset) {
         return rest(z) * u + (u * arcsine::inv_pi + offset);
     }
 };
 struct Native : arcsine::HalfTurnsNative {
-    static TARN_INLINE f32x4 root(f32x4 y) { return arcsine::twice_root(y); }
-    static TARN_INLINE f32x4 sum(f32x4 u, f32x4 z, f32x4 offset) { return value(u, z) + offset; }
+    template <class V> static TARN_INLINE V root(V y) { return arcsine::twice_root(y); }
+    template <class V> static TARN_INLINE V sum(V u, V z, V offset) { return value(u, z) + offset; }
 };
 
 template <class Form> struct Asinpif : Kernel<float(float)> {
     static constexpr auto callout = callout::asinpif;
 
-    static TARN_INLINE auto fast(f32x4 x) {
-        const f32x4 a = abs(x);
+    template <class V> static TARN_INLINE auto fast(V x) {
+        const V a = abs(x);
         const auto [u, z, upper] = arcsine::fold<Form>(a);
-        const f32x4 y = Form::sum(u, z, where(upper, arcsine::half));
+        const V y = Form::sum(u, z, where(upper, arcsine::half));
         return Flagged{xor_bits(y, sign_bit(x)), arcsine::one <= a};
     }
 };

@@ -12,22 +12,22 @@ namespace {
 using arctangent::one;
 
 struct Full : arctangent::Radians {
-    static TARN_INLINE f32x4 at_most_one(f32x4 a, i32x4) { return min(one, a) / max(one, a); }
+    template <class V> static TARN_INLINE V at_most_one(V a, BitsOf<V>) { return min(one, a) / max(one, a); }
 };
 struct Native : arctangent::RadiansNative {
-    static TARN_INLINE f32x4 at_most_one(f32x4 a, i32x4 inverted) {
+    template <class V> static TARN_INLINE V at_most_one(V a, BitsOf<V> inverted) {
         return select(inverted, reciprocal_estimate(a), a);
     }
 };
 
 template <class Form> struct Atanf : Kernel<float(float)> {
-    static TARN_INLINE f32x4 fast(f32x4 x) {
-        const i32x4 sign = sign_bit(x);
-        const f32x4 a = abs(x);
-        const i32x4 inverted = bits(a) > bits(one);
-        const f32x4 t = Form::at_most_one(a, inverted);
-        const f32x4 u = xor_bits(t, (inverted & sign_mask_f32) ^ sign);
-        const f32x4 offset = xor_bits(where(inverted, Form::quarter), sign);
+    template <class V> static TARN_INLINE V fast(V x) {
+        const BitsOf<V> sign = sign_bit(x);
+        const V a = abs(x);
+        const BitsOf<V> inverted = bits(a) > bits(one);
+        const V t = Form::at_most_one(a, inverted);
+        const V u = xor_bits(t, (inverted & sign_mask<V>) ^ sign);
+        const V offset = xor_bits(where(inverted, Form::quarter), sign);
         return Form::over_t(t) * u + offset;
     }
 };

@@ -12,32 +12,32 @@ namespace tarn {
 namespace {
 
 using arctangent::one;
-constexpr f32x4 two = splat(2.0f);
-constexpr f32x4 minus_one = splat(-1.0f);
+constexpr float two = 2.0f;
+constexpr float minus_one = -1.0f;
 
 struct Full : arctangent::HalfTurns {
-    static TARN_INLINE f32x4 argument(f32x4 a, i32x4 small) {
-        const f32x4 d = select(small, one, a);
-        const f32x4 estimate = reciprocal_estimate(d);
+    template <class V> static TARN_INLINE V argument(V a, BitsOf<V> small) {
+        const V d = select(small, one, a);
+        const V estimate = reciprocal_estimate(d);
         return select(small, a, minus_one) * (estimate * (two - d * estimate));
     }
 };
 struct Native : arctangent::HalfTurnsNative {
-    static TARN_INLINE f32x4 argument(f32x4 a, i32x4 small) {
-        return select(small, a, xor_bits(reciprocal_estimate(a), sign_mask_f32));
+    template <class V> static TARN_INLINE V argument(V a, BitsOf<V> small) {
+        return select(small, a, xor_bits(reciprocal_estimate(a), sign_mask<V>));
     }
 };
 
 template <class Form> struct Atanpif : Kernel<float(float)> {
     static constexpr auto callout = callout::atanpif;
 
-    static TARN_INLINE auto fast(f32x4 x) {
-        const f32x4 a = abs(x);
-        const i32x4 small = a <= one;
-        const f32x4 t = Form::argument(a, small);
-        const f32x4 y = Form::over_t(t) * t + where(~small, Form::quarter);
-        const i32x4 from_smallest = wrapping_sum(bits(a), splat_i32(0x7F000000));  // 2^-125 becomes the least integer
-        return Flagged{or_bits(y, sign_bit(x)), from_smallest >= splat_i32(0xFC000000)};
+    template <class V> static TARN_INLINE auto fast(V x) {
+        const V a = abs(x);
+        const BitsOf<V> small = a <= one;
+        const V t = Form::argument(a, small);
+        const V y = Form::over_t(t) * t + where(~small, Form::quarter);
+        const BitsOf<V> from_smallest = wrapping_sum(bits(a), 0x7F000000);  // 2^-125 becomes the least integer
+        return Flagged{or_bits(y, sign_bit(x)), from_smallest >= i32(0xFC000000)};
     }
 };
 

@@ -17,9 +17,9 @@ constexpr float half_pi = f32(0x3FC90FDB);  // 1.5707963705062866
 
 struct LargeArgument : Kernel<float(float)> {
     static constexpr auto callout = callout::cosf;
-    static constexpr int at_a_time = 8;
+    static constexpr int blocks_at_a_time = 2;
 
-    static TARN_INLINE auto fast(f32x4 x) {
+    template <class V> static TARN_INLINE auto fast(V x) {
         return Flagged{from_angle_table(cosine_256ths, reduce_exactly<Turns>(x)), not_finite(x)};
     }
 };

@@ -15,21 +15,21 @@ namespace tarn {
 namespace {
 
 template <class Form> struct Cospif : Kernel<float(float)> {
-    static TARN_INLINE f32x4 of_magnitude(f32x4 a) {
-        const f32x4 shifted = (a + sine::half) + sine::shifter;
-        const f32x4 m = (shifted - sine::shifter) - sine::half;
-        const f32x4 r = (a - m) * pi;
+    template <class V> static TARN_INLINE V of_magnitude(V a) {
+        const V shifted = (a + sine::half) + sine::shifter;
+        const V m = (shifted - sine::shifter) - sine::half;
+        const V r = (a - m) * pi;
         return Form::polynomial(xor_bits(r, sine::parity_sign(shifted)), r * r);
     }
 
-    static TARN_INLINE auto fast(f32x4 x) {
-        const f32x4 a = abs(x);
-        return Flagged{of_magnitude(a), a > splat(0x1p22f)};
+    template <class V> static TARN_INLINE auto fast(V x) {
+        const V a = abs(x);
+        return Flagged{of_magnitude(a), a > 0x1p22f};
     }
 
     struct LargeArgument : Kernel<float(float)> {
         static constexpr auto callout = callout::cospif;
-        static TARN_INLINE auto fast(f32x4 x) {
+        template <class V> static TARN_INLINE auto fast(V x) {
             return Flagged{of_magnitude(without_periods(abs(x))), not_finite(x)};
         }
     };

@@ -6,12 +6,12 @@
 
 namespace tarn {
 
-constexpr f32x4 pi = splat_f32(0x40490FDB);  // 3.1415927410125732
+constexpr float pi = f32(0x40490FDB);  // 3.1415927410125732
 
-TARN_INLINE f32x4 without_periods(f32x4 x) {
-    constexpr f32x4 all_periods = splat_f32(0x4F000000);  // 2^31
-    constexpr f32x4 shifter = splat_f32(0x4FC00000);      // 6442450944.0 = 1.5 * 2^32: rounds to 512s
-    const f32x4 s = where(abs(x) < all_periods, shifter);
+template <class V> TARN_INLINE V without_periods(V x) {
+    constexpr float all_periods = f32(0x4F000000);  // 2^31
+    constexpr float shifter = f32(0x4FC00000);      // 6442450944.0 = 1.5 * 2^32: rounds to 512s
+    const V s = where(abs(x) < all_periods, shifter);
     return x - ((x + s) - s);
 }
 

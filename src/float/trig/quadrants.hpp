@@ -8,33 +8,33 @@
 namespace tarn {
 
 // |y| and |x| in order.
-struct Ordered {
-    f32x4 smaller, larger;
-    i32x4 swapped;
+template <class V> struct Ordered {
+    V smaller, larger;
+    BitsOf<V> swapped;
 };
 
-TARN_INLINE Ordered ordered(i32x4 swapped, f32x4 y, f32x4 x) {
+template <class V> TARN_INLINE Ordered<V> ordered(BitsOf<V> swapped, V y, V x) {
     return {select(swapped, x, y), select(swapped, y, x), swapped};
 }
 
 // In a unit of arctangent.hpp, from the quotient t and the lanes to the left of the axis.
-template <class Unit> TARN_INLINE f32x4 angle_of(f32x4 y, f32x4 x, const Ordered& o, f32x4 t, i32x4 left) {
-    const f32x4 u = xor_bits(t, o.swapped & sign_mask_f32);
-    const f32x4 first = Unit::over_t(t) * u + where(o.swapped, Unit::quarter);
-    const f32x4 upper = xor_bits(first, sign_bit(x)) + where(left, Unit::half_turn);
+template <class Unit, class V> TARN_INLINE V angle_of(V y, V x, const Ordered<V>& o, V t, BitsOf<V> left) {
+    const V u = xor_bits(t, o.swapped & sign_mask<V>);
+    const V first = Unit::over_t(t) * u + where(o.swapped, Unit::quarter);
+    const V upper = xor_bits(first, sign_bit(x)) + where(left, Unit::half_turn);
     return xor_bits(upper, sign_bit(y));
 }
 
 // By division. Where y is not finite, or x is zero or not finite, the scalar function gives the value,
 // and not of that lane alone: every lane of the block is its own, more exact than beside ordinary lanes.
 template <class Unit, callout::BinaryFloat scalar> struct Atan2 : Kernel<float(float, float)> {
-    static TARN_INLINE auto fast(f32x4 y, f32x4 x) {
-        const f32x4 ay = abs(y), ax = abs(x);
-        const Ordered o = ordered(ax < ay, ay, ax);
-        const f32x4 value = angle_of<Unit>(y, x, o, o.smaller / o.larger, x < splat(0.0f));
+    template <class V> static TARN_INLINE auto fast(V y, V x) {
+        const V ay = abs(y), ax = abs(x);
+        const Ordered<V> o = ordered(ax < ay, ay, ax);
+        const V value = angle_of<Unit>(y, x, o, o.smaller / o.larger, x < 0.0f);
         // Infinities and NaNs become negative integers, zero the least that is not.
-        const i32x4 x_class = wrapping_sum(bits(ax), splat_i32(0x00800000));
-        return Flagged{value, not_finite(y) | (x_class <= splat_i32(0x00800000))};
+        const BitsOf<V> x_class = wrapping_sum(bits(ax), 0x00800000);
+        return Flagged{value, not_finite(y) | (x_class <= 0x00800000)};
     }
 
     static f32x4 finish(f32x4 y, f32x4 x, f32x4 result, unsigned) {
@@ -53,12 +53,12 @@ template <class Unit, callout::BinaryFloat scalar> struct Atan2 : Kernel<float(f
 template <class Unit, callout::BinaryFloat scalar> struct Atan2Native : Kernel<float(float, float)> {
     static constexpr auto callout = scalar;
 
-    static TARN_INLINE auto fast(f32x4 y, f32x4 x) {
-        const f32x4 ay = abs(y), ax = abs(x);
-        const Ordered o = ordered(bits(ay) > bits(ax), ay, ax);
-        const f32x4 value = angle_of<Unit>(y, x, o, o.smaller * reciprocal_estimate(o.larger), bits(x) >> 31);
-        const i32x4 from_smallest = wrapping_sum(bits(o.larger), splat_i32(0x7F800000));  // 2^-126 becomes the least integer
-        return Flagged{value, from_smallest >= splat_i32(0xFE000000)};       // 2^126
+    template <class V> static TARN_INLINE auto fast(V y, V x) {
+        const V ay = abs(y), ax = abs(x);
+        const Ordered<V> o = ordered(bits(ay) > bits(ax), ay, ax);
+        const V value = angle_of<Unit>(y, x, o, o.smaller * reciprocal_estimate(o.larger), bits(x) >> 31);
+        const BitsOf<V> from_smallest = wrapping_sum(bits(o.larger), 0x7F800000);  // 2^-126 becomes the least integer
+        return Flagged{value, from_smallest >= i32(0xFE000000)};       // 2^126
     }
 };
 

@@ -15,10 +15,10 @@ namespace {
 
 struct LargeArgument : Kernel<Both<float, float>(float)> {
     static constexpr auto callout = callout::sincosf;
-    static constexpr int at_a_time = 8;
+    static constexpr int blocks_at_a_time = 2;
 
-    static TARN_INLINE auto fast(f32x4 x) {
-        const Reduced angle = reduce_exactly<Turns>(x);
+    template <class V> static TARN_INLINE auto fast(V x) {
+        const Reduced<V> angle = reduce_exactly<Turns>(x);
         return FlaggedPair{from_angle_table(sine_256ths, angle), from_angle_table(cosine_256ths, angle), not_finite(x)};
     }
 };

@@ -6,12 +6,12 @@
 
 namespace tarn::sine {
 
-constexpr float limit = f32(0x461C4000);     // 10000.0; above, the exact reduction takes over
-constexpr float inv_pi = f32(0x3EA2F983);    // 0.31830987334251404
-constexpr float shifter = f32(0x4B400000);   // 12582912.0 = 1.5 * 2^23
+constexpr float limit = f32(0x461C4000);    // 10000.0; above, the exact reduction takes over
+constexpr float inv_pi = f32(0x3EA2F983);   // 0.31830987334251404
+constexpr float shifter = f32(0x4B400000);  // 12582912.0 = 1.5 * 2^23
 constexpr float half = 0.5f;
-constexpr float pi_1 = f32(0x40490000);      // 3.140625
-constexpr float pi_2 = f32(0x3A7DA000);      // 0.0009675025939941406
+constexpr float pi_1 = f32(0x40490000);  // 3.140625
+constexpr float pi_2 = f32(0x3A7DA000);  // 0.0009675025939941406
 
 // The parity of the integer in a shifted sum, as a sign.
 template <class V> TARN_INLINE auto parity_sign(V shifted) { return bits(shifted) << 31; }

@@ -15,9 +15,9 @@ namespace {
 
 struct LargeArgument : Kernel<float(float)> {
     static constexpr auto callout = callout::sinf;
-    static constexpr int at_a_time = 8;
+    static constexpr int blocks_at_a_time = 2;
 
-    static TARN_INLINE auto fast(f32x4 x) {
+    template <class V> static TARN_INLINE auto fast(V x) {
         return Flagged{from_angle_table(sine_256ths, reduce_exactly<Turns>(x)), not_finite(x)};
     }
 };

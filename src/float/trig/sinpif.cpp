@@ -15,21 +15,21 @@ namespace tarn {
 namespace {
 
 template <class Form> struct Sinpif : Kernel<float(float)> {
-    static TARN_INLINE f32x4 of_magnitude(f32x4 a, f32x4 x) {
-        const f32x4 shifted = a + sine::shifter;
-        const f32x4 r = (a - (shifted - sine::shifter)) * pi;
-        const f32x4 y = Form::polynomial(xor_bits(r, sine::parity_sign(shifted)), r * r);
+    template <class V> static TARN_INLINE V of_magnitude(V a, V x) {
+        const V shifted = a + sine::shifter;
+        const V r = (a - (shifted - sine::shifter)) * pi;
+        const V y = Form::polynomial(xor_bits(r, sine::parity_sign(shifted)), r * r);
         return xor_bits(y, sign_bit(x));
     }
 
-    static TARN_INLINE auto fast(f32x4 x) {
-        const f32x4 a = abs(x);
-        return Flagged{of_magnitude(a, x), a > splat(0x1p22f)};
+    template <class V> static TARN_INLINE auto fast(V x) {
+        const V a = abs(x);
+        return Flagged{of_magnitude(a, x), a > 0x1p22f};
     }
 
     struct LargeArgument : Kernel<float(float)> {
         static constexpr auto callout = callout::sinpif;
-        static TARN_INLINE auto fast(f32x4 x) {
+        template <class V> static TARN_INLINE auto fast(V x) {
             return Flagged{of_magnitude(without_periods(abs(x)), x), not_finite(x)};
         }
     };

@@ -15,51 +15,51 @@
 namespace tarn {
 namespace {
 
-constexpr f32x4 limit = splat_f32(0x46010000);         // 8256.0
-constexpr f32x4 two_over_pi = splat_f32(0x3F22F983);   // 0.6366197466850281
-constexpr f32x4 shifter = splat_f32(0x4B400000);       // 12582912.0 = 1.5 * 2^23
-constexpr f32x4 half_pi_1 = splat_f32(0x3FC90000);     // 1.5703125
+constexpr float limit = f32(0x46010000);        // 8256.0
+constexpr float two_over_pi = f32(0x3F22F983);  // 0.6366197466850281
+constexpr float shifter = f32(0x4B400000);      // 12582912.0 = 1.5 * 2^23
+constexpr float half_pi_1 = f32(0x3FC90000);    // 1.5703125
 
 struct Full {
-    static constexpr f32x4 half_pi_2 = splat_f32(0x39FD8000);  // 0.00048351287841796875
-    static constexpr f32x4 half_pi_3 = splat_f32(0x34A88000);  // 3.1385570764541626e-07
-    static constexpr f32x4 half_pi_4 = splat_f32(0x2E85A309);  // 6.07710062827671e-11
+    static constexpr float half_pi_2 = f32(0x39FD8000);  // 0.00048351287841796875
+    static constexpr float half_pi_3 = f32(0x34A88000);  // 3.1385570764541626e-07
+    static constexpr float half_pi_4 = f32(0x2E85A309);  // 6.07710062827671e-11
 
-    static TARN_INLINE f32x4 reduced(f32x4 a, f32x4 n) {
+    template <class V> static TARN_INLINE V reduced(V a, V n) {
         return (((a - n * half_pi_1) - n * half_pi_2) - n * half_pi_3) - n * half_pi_4;
     }
-    static TARN_INLINE f32x4 value(Quotient y) { return y.numerator / y.denominator; }
+    template <class V> static TARN_INLINE V value(Quotient<V> y) { return y.numerator / y.denominator; }
 };
 struct Native {
-    static constexpr f32x4 half_pi_2 = splat_f32(0x39FDA000);  // 0.0004837512969970703
-    static constexpr f32x4 half_pi_3 = splat_f32(0x33A22169);  // 7.549790126404332e-08
+    static constexpr float half_pi_2 = f32(0x39FDA000);  // 0.0004837512969970703
+    static constexpr float half_pi_3 = f32(0x33A22169);  // 7.549790126404332e-08
 
-    static TARN_INLINE f32x4 reduced(f32x4 a, f32x4 n) {
+    template <class V> static TARN_INLINE V reduced(V a, V n) {
         return ((a - n * half_pi_1) - n * half_pi_2) - n * half_pi_3;
     }
-    static TARN_INLINE f32x4 value(Quotient y) { return y.numerator * reciprocal_estimate(y.denominator); }
+    template <class V> static TARN_INLINE V value(Quotient<V> y) { return y.numerator * reciprocal_estimate(y.denominator); }
 };
 
 struct LargeArgument : Kernel<float(float)> {
     static constexpr auto callout = callout::tanf;
-    static constexpr int at_a_time = 8;
+    static constexpr int blocks_at_a_time = 2;
 
-    static TARN_INLINE auto fast(f32x4 x) {
-        const Reduced angle = reduce_exactly<HalfTurns>(x);
-        const f32x4 y = from_tangent_table(angle.row, angle.head, angle.tail);
-        return Flagged{select(x == splat(0.0f), x, y), not_finite(x)};
+    template <class V> static TARN_INLINE auto fast(V x) {
+        const Reduced<V> angle = reduce_exactly<HalfTurns>(x);
+        const V y = from_tangent_table(angle.row, angle.head, angle.tail);
+        return Flagged{select(x == 0.0f, x, y), not_finite(x)};
     }
 };
 
 template <class Form> struct Tanf : Kernel<float(float)> {
     using long_path = LargeArgument;
 
-    static TARN_INLINE auto fast(f32x4 x) {
-        const f32x4 a = abs(x);
-        const f32x4 shifted = a * two_over_pi + shifter;
-        const i32x4 parity = bits(shifted) << 31;
-        const f32x4 r = Form::reduced(a, shifted - shifter);
-        const f32x4 y = Form::value(tangent_quotient(r, parity));
+    template <class V> static TARN_INLINE auto fast(V x) {
+        const V a = abs(x);
+        const V shifted = a * two_over_pi + shifter;
+        const BitsOf<V> parity = bits(shifted) << 31;
+        const V r = Form::reduced(a, shifted - shifter);
+        const V y = Form::value(tangent_quotient(r, parity));
         return Flagged{xor_bits(y, sign_bit(x) ^ parity), a > limit};
     }
 };

@@ -5,20 +5,20 @@
 
 namespace tarn {
 
-struct Quotient {
-    f32x4 numerator, denominator;
+template <class V> struct Quotient {
+    V numerator, denominator;
 };
 
 // Lanes whose `inverted` has its sign bit set are inverted.
-TARN_INLINE Quotient tangent_quotient(f32x4 r, i32x4 inverted) {
-    constexpr f32x4 numerator_1 = splat_f32(0xBDC433B8);    // -0.09580177068710327
-    constexpr f32x4 denominator_1 = splat_f32(0xBEDBB7AF);  // -0.4291357696056366
-    constexpr f32x4 denominator_2 = splat_f32(0x3C1F3375);  // 0.00971685815602541
-    constexpr f32x4 one = splat(1.0f);
+template <class V> TARN_INLINE Quotient<V> tangent_quotient(V r, BitsOf<V> inverted) {
+    constexpr float numerator_1 = f32(0xBDC433B8);    // -0.09580177068710327
+    constexpr float denominator_1 = f32(0xBEDBB7AF);  // -0.4291357696056366
+    constexpr float denominator_2 = f32(0x3C1F3375);  // 0.00971685815602541
+    constexpr float one = 1.0f;
 
-    const f32x4 z = r * r;
-    const f32x4 q = (numerator_1 * z + one) * r;
-    const f32x4 p = horner(z, denominator_2, denominator_1, one);
+    const V z = r * r;
+    const V q = (numerator_1 * z + one) * r;
+    const V p = horner(z, denominator_2, denominator_1, one);
     return {select(inverted, p, q), select(inverted, q, p)};
 }
 

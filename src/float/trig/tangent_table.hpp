@@ -11,30 +11,30 @@ namespace tarn {
 #include "tables/tangent_128ths.inc"
 
 // r_tail is what r leaves of the remainder; only the pole feels it.
-TARN_INLINE f32x4 from_tangent_table(i32x4 row, f32x4 r, f32x4 r_tail) {
-    constexpr i32x4 head_bits = splat_i32(0xFFFFF000);
-    const f32x4 one = splat(1.0f);
+template <class V> TARN_INLINE V from_tangent_table(BitsOf<V> row, V r, V r_tail) {
+    constexpr std::int32_t head_bits = i32(0xFFFFF000);
+    constexpr float one = 1.0f;
     const auto [d_high, d_low, pole, t_high] = gather_quads<0>(tangent_128ths, row);
     const auto [t_low, l_high, l_low, c2] = gather_quads<4>(tangent_128ths, row);
     const auto [c3, c4] = gather_pairs<8>(tangent_128ths, row);
 
-    const f32x4 d = d_high - r;
-    const f32x4 d_error = (d_high - d) - r;
-    const f32x4 head = from_bits(bits(d) & head_bits);
-    const f32x4 tail = (((d - head) + d_low) + d_error) - r_tail;
+    const V d = d_high - r;
+    const V d_error = (d_high - d) - r;
+    const V head = from_bits(bits(d) & head_bits);
+    const V tail = (((d - head) + d_low) + d_error) - r_tail;
 
-    const f32x4 y0 = from_bits(bits(reciprocal_estimate(head)) & head_bits);
-    const f32x4 e = one - head * y0;
-    const f32x4 y = (y0 + y0 * e) * (one + e * e);
-    const f32x4 q = tail * y;
-    const f32x4 correction = ((q * q) - (q - e)) * y * pole;
+    const V y0 = from_bits(bits(reciprocal_estimate(head)) & head_bits);
+    const V e = one - head * y0;
+    const V y = (y0 + y0 * e) * (one + e * e);
+    const V q = tail * y;
+    const V correction = ((q * q) - (q - e)) * y * pole;
 
-    const f32x4 s1 = t_high + l_high * r;
-    const f32x4 error_1 = (t_high - s1) + l_high * r;
-    const f32x4 s2 = s1 + pole * y0;
-    const f32x4 error_2 = (pole * y0 - s2) + s1;
-    const f32x4 rest = t_low + ((error_1 + correction) + error_2);
-    const f32x4 polynomial = ((l_low + c2 * r) + (r * r) * (c3 + c4 * r)) * r;
+    const V s1 = t_high + l_high * r;
+    const V error_1 = (t_high - s1) + l_high * r;
+    const V s2 = s1 + pole * y0;
+    const V error_2 = (pole * y0 - s2) + s1;
+    const V rest = t_low + ((error_1 + correction) + error_2);
+    const V polynomial = ((l_low + c2 * r) + (r * r) * (c3 + c4 * r)) * r;
     return s2 + (polynomial + rest);
 }
 

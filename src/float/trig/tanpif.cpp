@@ -15,26 +15,26 @@
 namespace tarn {
 namespace {
 
-constexpr i32x4 infinity = splat_i32(0x7F800000);
-constexpr f32x4 zero = splat(0.0f);
+constexpr std::int32_t infinity = 0x7F800000;
+constexpr float zero = 0.0f;
 
 struct Tanpif : Kernel<float(float)> {
     static constexpr auto callout = callout::tanpif;
-    static constexpr int at_a_time = 8;
+    static constexpr int blocks_at_a_time = 2;
 
-    static constexpr f32x4 shifter = splat_f32(0x47C00000);  // 98304.0 = 1.5 * 2^16: rounds to 128ths
+    static constexpr float shifter = f32(0x47C00000);  // 98304.0 = 1.5 * 2^16: rounds to 128ths
 
-    static TARN_INLINE auto fast(f32x4 x) {
-        const f32x4 within = without_periods(x);
-        const f32x4 shifted = within + shifter;
-        const i32x4 row = bits(shifted) & splat_i32(127);
-        const f32x4 r = (within - (shifted - shifter)) * pi;
-        const f32x4 y = from_tangent_table(row, r, zero);
+    template <class V> static TARN_INLINE auto fast(V x) {
+        const V within = without_periods(x);
+        const V shifted = within + shifter;
+        const BitsOf<V> row = bits(shifted) & 127;
+        const V r = (within - (shifted - shifter)) * pi;
+        const V y = from_tangent_table(row, r, V{});
 
-        const i32x4 odd = bits(shifted) << 24 & sign_mask_f32;
-        const i32x4 on_pole = (i32x4)(r == zero) & (row == splat_i32(64));
-        const i32x4 on_zero = (i32x4)(r == zero) & (row == splat_i32(0));
-        const f32x4 at_zero = from_bits(sign_bit(x) ^ odd);
+        const BitsOf<V> odd = bits(shifted) << 24 & sign_mask<V>;
+        const BitsOf<V> on_pole = (BitsOf<V>)(r == zero) & (row == 64);
+        const BitsOf<V> on_zero = (BitsOf<V>)(r == zero) & (row == 0);
+        const V at_zero = from_bits(sign_bit(x) ^ odd);
         return Flagged{select(on_pole, from_bits(infinity | odd), select(on_zero, at_zero, y)), not_finite(x)};
     }
 };
@@ -42,20 +42,20 @@ struct Tanpif : Kernel<float(float)> {
 struct TanpifNative : Kernel<float(float)> {
     static constexpr auto callout = callout::tanpif;
 
-    static constexpr f32x4 shifter = splat_f32(0x4AC00000);  // 6291456.0 = 1.5 * 2^22: rounds to halves
+    static constexpr float shifter = f32(0x4AC00000);  // 6291456.0 = 1.5 * 2^22: rounds to halves
 
-    static TARN_INLINE auto fast(f32x4 x) {
-        const f32x4 within = without_periods(x) + zero;  // -0 becomes +0
-        const f32x4 shifted = within + shifter;
-        const i32x4 inverted = bits(shifted) << 31;
-        const f32x4 r = (within - (shifted - shifter)) * pi;
+    template <class V> static TARN_INLINE auto fast(V x) {
+        const V within = without_periods(x) + zero;  // -0 becomes +0
+        const V shifted = within + shifter;
+        const BitsOf<V> inverted = bits(shifted) << 31;
+        const V r = (within - (shifted - shifter)) * pi;
         const auto [numerator, denominator] = tangent_quotient(r, inverted);
-        const f32x4 y = numerator * reciprocal_estimate(denominator);
+        const V y = numerator * reciprocal_estimate(denominator);
 
         // Where r is 0, y is +0 or +inf.
-        const i32x4 odd = bits(shifted) << 30 & sign_mask_f32;
-        const i32x4 exact_sign = odd ^ (sign_bit(x) & ~(inverted >> 31));
-        return Flagged{xor_bits(y, select((i32x4)(r == zero), exact_sign, inverted)), not_finite(x)};
+        const BitsOf<V> odd = bits(shifted) << 30 & sign_mask<V>;
+        const BitsOf<V> exact_sign = odd ^ (sign_bit(x) & ~(inverted >> 31));
+        return Flagged{xor_bits(y, select((BitsOf<V>)(r == zero), exact_sign, inverted)), not_finite(x)};
     }
 };
 

@@ -17,37 +17,37 @@ namespace tarn {
 // a head of 12 bits with a tail.
 struct Turns {
     static constexpr int doublings = 0;
-    static constexpr f32x4 shifter = splat_f32(0x47400000);    // 49152.0 = 1.5 * 2^15: 256ths
-    static constexpr i32x4 row_mask = splat_i32(255);
-    static constexpr f32x4 unit = splat_f32(0x40C90FDB);       // 6.2831854820251465 = 2 pi
-    static constexpr f32x4 unit_head = splat_f32(0x40C91000);  // 6.283203125
-    static constexpr f32x4 unit_tail = splat_f32(0xB795777A);  // -1.781781975296326e-05
+    static constexpr float shifter = f32(0x47400000);  // 49152.0 = 1.5 * 2^15: 256ths
+    static constexpr std::int32_t row_mask = 255;
+    static constexpr float unit = f32(0x40C90FDB);       // 6.2831854820251465 = 2 pi
+    static constexpr float unit_head = f32(0x40C91000);  // 6.283203125
+    static constexpr float unit_tail = f32(0xB795777A);  // -1.781781975296326e-05
 };
 struct HalfTurns {
     static constexpr int doublings = 1;
-    static constexpr f32x4 shifter = splat_f32(0x47C00000);    // 98304.0 = 1.5 * 2^16: 128ths
-    static constexpr i32x4 row_mask = splat_i32(127);
-    static constexpr f32x4 unit = splat_f32(0x40490FDB);       // 3.1415927410125732 = pi
-    static constexpr f32x4 unit_head = splat_f32(0x40491000);  // 3.1416015625
-    static constexpr f32x4 unit_tail = splat_f32(0xB715777A);  // -8.90890987648163e-06
+    static constexpr float shifter = f32(0x47C00000);  // 98304.0 = 1.5 * 2^16: 128ths
+    static constexpr std::int32_t row_mask = 127;
+    static constexpr float unit = f32(0x40490FDB);       // 3.1415927410125732 = pi
+    static constexpr float unit_head = f32(0x40491000);  // 3.1416015625
+    static constexpr float unit_tail = f32(0xB715777A);  // -8.90890987648163e-06
 };
 
 // The angle of grid point `row`, plus head + tail radians.
-struct Reduced {
-    i32x4 row;
-    f32x4 head, tail;
+template <class V> struct Reduced {
+    BitsOf<V> row;
+    V head, tail;
 };
 
-struct Fraction {
+template <class V> struct Fraction {
     u32x4 high, low;
 };
 
 // The 64 bits after the binary point of |x| / (2 pi). Of the row's last word the products of 16 by 16 bits
 // that begin at bit 32 count and those at bit 16 but for their low half, as the rest changes nothing above 2^-63.
-TARN_INLINE Fraction fraction_of_turn(f32x4 x) {
-    const i32x4 exponent = shift_right_logical(bits(abs(x)), 23);
+template <class V> TARN_INLINE Fraction<V> fraction_of_turn(V x) {
+    const BitsOf<V> exponent = shift_right_logical(bits(abs(x)), 23);
     const auto row = gather_quads(two_over_pi_96, exponent);
-    const u32x4 m = (u32x4)((bits(x) & splat_i32(0x007FFFFF)) + splat_i32(0x00800000));
+    const u32x4 m = (u32x4)((bits(x) & 0x007FFFFF) + 0x00800000);
     const u32x4 t0 = (u32x4)row.first, t1 = (u32x4)row.second, t2_exchanged = (u32x4)row.third;
     const u32x4 crossed = multiply_halves(m, t2_exchanged);
     const u32x4 last = (m >> 16) * (t2_exchanged & 0xFFFF) + (crossed >> 16) + (crossed & 0xFFFF);
@@ -56,7 +56,7 @@ TARN_INLINE Fraction fraction_of_turn(f32x4 x) {
     return {m * t0 + woven_high_words(even, odd), woven_low_words(even, odd)};
 }
 
-template <class Unit> TARN_INLINE Reduced reduce_exactly(f32x4 x) {
+template <class Unit, class V> TARN_INLINE Reduced<V> reduce_exactly(V x) {
     const auto [high, low] = fraction_of_turn(x);
     constexpr int d = Unit::doublings;
 
@@ -65,27 +65,27 @@ template <class Unit> TARN_INLINE Reduced reduce_exactly(f32x4 x) {
     const u32x4 sign = (u32x4)sign_bit(x);
     const auto leading = [&](std::uint32_t power) __attribute__((always_inline)) { return sign | power; };
     const auto value = [&](u32x4 bits_below, std::uint32_t power) __attribute__((always_inline)) {
-        return (f32x4)(bits_below | leading(power)) - (f32x4)leading(power);
+        return (V)(bits_below | leading(power)) - (V)leading(power);
     };
-    const f32x4 one_and_top = (f32x4)((high << d) >> 9 | leading(0x3F800000));                 // 1.0 and 2^-23 units
-    const f32x4 middle = value((high & 0x1FF >> d) << (14 + d) | low >> (18 - d), 0x34000000);  // 2^-23
-    const f32x4 last = value((low & 0x3FFFF >> d) << (5 + d), 0x28800000);                     // 2^-46
-    const f32x4 shifted = one_and_top + Unit::shifter;
-    const f32x4 top = one_and_top - (shifted - Unit::shifter);
+    const V one_and_top = (V)((high << d) >> 9 | leading(0x3F800000));                      // 1.0 and 2^-23 units
+    const V middle = value((high & 0x1FF >> d) << (14 + d) | low >> (18 - d), 0x34000000);  // 2^-23
+    const V last = value((low & 0x3FFFF >> d) << (5 + d), 0x28800000);                      // 2^-46
+    const V shifted = one_and_top + Unit::shifter;
+    const V top = one_and_top - (shifted - Unit::shifter);
 
     // The remainder in units, as a sum of 12 leading bits, the rest and a tail; then in radians.
-    const f32x4 s = top + middle;
-    const f32x4 s_head = from_bits(bits(s) & splat_i32(0xFFFFF000));
-    const f32x4 s_rest = s - s_head;
-    const f32x4 s_tail = (middle + (top - s)) + last;
-    const f32x4 head = Unit::unit_head * s_head;  // exact
-    const f32x4 rest = (Unit::unit_head * s_rest + s_head * Unit::unit_tail) +
+    const V s = top + middle;
+    const V s_head = from_bits(bits(s) & i32(0xFFFFF000));
+    const V s_rest = s - s_head;
+    const V s_tail = (middle + (top - s)) + last;
+    const V head = Unit::unit_head * s_head;  // exact
+    const V rest = (Unit::unit_head * s_rest + s_head * Unit::unit_tail) +
                        (Unit::unit * s_tail + Unit::unit_tail * s_rest);
-    const f32x4 r = head + rest;
-    const f32x4 r_tail = (head - r) + rest;
+    const V r = head + rest;
+    const V r_tail = (head - r) + rest;
 
     // Too small for the fraction's bits: row 0, and x is its own remainder.
-    const i32x4 tiny = abs(x) <= splat_f32(0x35800000);  // 2^-20
+    const BitsOf<V> tiny = abs(x) <= f32(0x35800000);  // 2^-20
     return {bits(shifted) & Unit::row_mask, select(tiny, x, r), where(~tiny, r_tail)};
 }
 
