@@ -253,13 +253,14 @@ private:
 
     [[gnu::noinline, gnu::cold]] static Updated<R, width> finished(Updated<R, width> fast, Passed<A, width>... x,
                                                                    unsigned special) {
-        Group<R, lanes, bytes> values[count];
-        for (int i = 0; i < count; i++) {
-            const unsigned flags = special >> (i * lanes) & lane_mask(lanes);
-            values[i] = group<lanes, bytes, R, width>(fast, i);
-            if (flags != 0) values[i] = K::finish(argument<A>(x, i)..., values[i], flags);
+        constexpr int few = K::lanes, groups = stored_lanes(width) > few ? stored_lanes(width) / few : 1;
+        Group<R, few, 16> values[groups];
+        for (int i = 0; i < groups; i++) {
+            const unsigned flags = special >> (i * few) & lane_mask(few);
+            values[i] = group<few, 16, R, width>(fast, i);
+            if (flags != 0) values[i] = K::finish(group<few, 16, A, width>(x, i)..., values[i], flags);
         }
-        const Result result = vector_of<lanes, bytes, R, width>(values);
+        const Result result = vector_of<few, 16, R, width>(values);
         if constexpr (in_memory<R, width>) return fast = result;
         else return result;
     }

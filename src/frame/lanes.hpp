@@ -121,19 +121,19 @@ TARN_INLINE Vec<Lane, width> vector_of(const Group<Lane, lanes, bytes> (&groups)
         }
     } else {
 #ifdef __AVX2__
-        const auto put = [&](int i, auto two) __attribute__((always_inline)) {
+        const auto put = [](auto& v, int i, auto two) __attribute__((always_inline)) {
             v.block[i] = low_half(two);
             v.block[i + 1] = high_half(two);
         };
         if constexpr (size == 32) {
-            for (int i = 0; i < count; i++) put(2 * i, groups[i]);
+            for (int i = 0; i < count; i++) put(v, 2 * i, groups[i]);
         } else if constexpr (size == 16) {
             if constexpr (in_memory<Lane, width>) for (int i = 0; i < count; i++) v.block[i] = low_half(groups[i]);
             else v = low_half(groups[0]);
         } else {
             for (int i = 0; i < count; i++) {
-                put(4 * i, groups[i].low);
-                put(4 * i + 2, groups[i].high);
+                put(v, 4 * i, groups[i].low);
+                put(v, 4 * i + 2, groups[i].high);
             }
         }
 #endif

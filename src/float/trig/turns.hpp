@@ -39,32 +39,35 @@ template <class V> struct Reduced {
 };
 
 template <class V> struct Fraction {
-    u32x4 high, low;
+    Unsigned<V> high, low;
 };
 
 // The 64 bits after the binary point of |x| / (2 pi). Of the row's last word the products of 16 by 16 bits
 // that begin at bit 32 count and those at bit 16 but for their low half, as the rest changes nothing above 2^-63.
 template <class V> TARN_INLINE Fraction<V> fraction_of_turn(V x) {
+    using U = Unsigned<V>;
+    using L = Like<V, std::uint64_t>;
     const BitsOf<V> exponent = shift_right_logical(bits(abs(x)), 23);
     const auto row = gather_quads(two_over_pi_96, exponent);
-    const u32x4 m = (u32x4)((bits(x) & 0x007FFFFF) + 0x00800000);
-    const u32x4 t0 = (u32x4)row.first, t1 = (u32x4)row.second, t2_exchanged = (u32x4)row.third;
-    const u32x4 crossed = multiply_halves(m, t2_exchanged);
-    const u32x4 last = (m >> 16) * (t2_exchanged & 0xFFFF) + (crossed >> 16) + (crossed & 0xFFFF);
-    const u64x2 even = multiply_words((u64x2)m, (u64x2)t1) + ((u64x2)last & 0xFFFFFFFF);
-    const u64x2 odd = multiply_words((u64x2)m >> 32, (u64x2)t1 >> 32) + ((u64x2)last >> 32);
+    const U m = (U)((bits(x) & 0x007FFFFF) + 0x00800000);
+    const U t0 = (U)row.first, t1 = (U)row.second, t2_exchanged = (U)row.third;
+    const U crossed = multiply_halves(m, t2_exchanged);
+    const U last = (m >> 16) * (t2_exchanged & 0xFFFF) + (crossed >> 16) + (crossed & 0xFFFF);
+    const L even = multiply_words((L)m, (L)t1) + ((L)last & 0xFFFFFFFF);
+    const L odd = multiply_words((L)m >> 32, (L)t1 >> 32) + ((L)last >> 32);
     return {m * t0 + woven_high_words(even, odd), woven_low_words(even, odd)};
 }
 
 template <class Unit, class V> TARN_INLINE Reduced<V> reduce_exactly(V x) {
+    using U = Unsigned<V>;
     const auto [high, low] = fraction_of_turn(x);
     constexpr int d = Unit::doublings;
 
     // The fraction as three floats of 23, 23 and 18 bits with the sign of x, each made by writing its
     // bits below a leading one and subtracting that.
-    const u32x4 sign = (u32x4)sign_bit(x);
+    const U sign = (U)sign_bit(x);
     const auto leading = [&](std::uint32_t power) __attribute__((always_inline)) { return sign | power; };
-    const auto value = [&](u32x4 bits_below, std::uint32_t power) __attribute__((always_inline)) {
+    const auto value = [&](U bits_below, std::uint32_t power) __attribute__((always_inline)) {
         return (V)(bits_below | leading(power)) - (V)leading(power);
     };
     const V one_and_top = (V)((high << d) >> 9 | leading(0x3F800000));                      // 1.0 and 2^-23 units
