@@ -25,9 +25,8 @@ template <class Unit> TARN_INLINE f32x4 angle_of(f32x4 y, f32x4 x, const Ordered
     return xor_bits(upper, sign_bit(y));
 }
 
-// By division. Where y is not finite, or x is zero or not finite, the scalar function gives the value,
-// and not of that lane alone: every lane of the block is its own, more exact than beside ordinary lanes.
-template <class Unit, callout::BinaryFloat scalar> struct Atan2 : Kernel<float(float, float)> {
+// By division. Where y is not finite, or x is zero or not finite, the angle is the scalar function's.
+template <class Unit> struct Atan2 : Kernel<float(float, float)> {
     static TARN_INLINE auto fast(f32x4 y, f32x4 x) {
         const f32x4 ay = abs(y), ax = abs(x);
         const Ordered o = ordered(ax < ay, ay, ax);
@@ -35,16 +34,6 @@ template <class Unit, callout::BinaryFloat scalar> struct Atan2 : Kernel<float(f
         // Infinities and NaNs become negative integers, zero the least that is not.
         const i32x4 x_class = wrapping_sum(bits(ax), splat_i32(0x00800000));
         return Flagged{value, not_finite(y) | (x_class <= splat_i32(0x00800000))};
-    }
-
-    static f32x4 finish(f32x4 y, f32x4 x, f32x4 result, unsigned) {
-        for (int i = 0; i < 4; i++) {
-            const float y_lane = y[i], x_lane = x[i];
-            float lane;
-            scalar(&y_lane, &x_lane, &lane);
-            result[i] = lane;
-        }
-        return result;
     }
 };
 
