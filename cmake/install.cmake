@@ -12,7 +12,20 @@ install(EXPORT ocl_tarn_k1 NAMESPACE ocl_tarn_k1:: FILE ocl_tarn_k1-config.cmake
 write_basic_package_version_file(${CMAKE_CURRENT_BINARY_DIR}/ocl_tarn_k1-config-version.cmake COMPATIBILITY SameMajorVersion)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/ocl_tarn_k1-config-version.cmake DESTINATION ${package_dir})
 
-# Found from where the file lies, so that an installed tree can be moved.
-file(RELATIVE_PATH TARN_PC_TO_PREFIX /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
+# Found from where the file lies, so that an installed tree can be moved; a directory named absolutely stays there.
+if(IS_ABSOLUTE ${CMAKE_INSTALL_LIBDIR})
+  set(TARN_PC_PREFIX ${CMAKE_INSTALL_PREFIX})
+else()
+  file(RELATIVE_PATH to_prefix /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
+  string(REGEX REPLACE "/$" "" to_prefix "${to_prefix}")
+  set(TARN_PC_PREFIX "\${pcfiledir}/${to_prefix}")
+endif()
+foreach(dir LIBDIR INCLUDEDIR)
+  if(IS_ABSOLUTE ${CMAKE_INSTALL_${dir}})
+    set(TARN_PC_${dir} ${CMAKE_INSTALL_${dir}})
+  else()
+    set(TARN_PC_${dir} "\${prefix}/${CMAKE_INSTALL_${dir}}")
+  endif()
+endforeach()
 configure_file(cmake/ocl_tarn_k1.pc.in ocl_tarn_k1.pc @ONLY)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/ocl_tarn_k1.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

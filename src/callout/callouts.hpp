@@ -62,7 +62,6 @@ template <class Real> int fmax(const Real* x, const Real* y, Real* result);
 template <class Real> int maxmag(const Real* x, const Real* y, Real* result);
 template <class Real> int minmag(const Real* x, const Real* y, Real* result);
 template <class Real> int fdim(const Real* x, const Real* y, Real* result);
-template <class Real> int nextafter(const Real* x, const Real* y, Real* result);
 template <class Real> int frexp(const Real* x, Real* significand, int* exponent);
 template <class Real> int ilogb(const Real* x, int* result);
 template <class Real> int logb(const Real* x, Real* result);

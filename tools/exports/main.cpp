@@ -1,8 +1,9 @@
 // Writes what follows from the table of families: the public header, the version script, the page of
-// measured errors.
-//   tarn-exports header|map|names|accuracy > FILE
+// measured errors, the calls of the C callers' test.
+//   tarn-exports header|map|names|accuracy|calls > FILE
 #include <cstdio>
 #include <cstring>
+#include <set>
 #include <string>
 
 #include "frame/families.hpp"
@@ -41,10 +42,13 @@ std::string vector_type(Lane t, int width) {
     return width == 1 ? c_type(t) : "tarn_" + std::string(stem(t)) + std::to_string(width);
 }
 
+std::string result_type(const Shape& s, int width) {
+    return s.pair ? "tarn_sincos_" + std::string(stem(s.result)) + std::to_string(width) : vector_type(s.result, width);
+}
+
 std::string declaration(const Family& f, int width, Variant v) {
     const Shape& s = f.shape;
-    std::string text = s.pair ? "tarn_sincos_" + std::string(stem(s.result)) + std::to_string(width)
-                              : vector_type(s.result, width);
+    std::string text = result_type(s, width);
     text += ' ' + export_name(f.base, width, v) + '(';
     static const char* const names[] = {"x", "y", "z"};
     for (std::size_t i = 0; i < s.args.size(); i++) {
@@ -184,6 +188,51 @@ void names(const char* indent, const char* end) {
                 for (const int width : widths) std::printf("%s%s%s\n", indent, export_name(f.base, width, v).c_str(), end);
 }
 
+// f and d for floating point, i and l for integers: what a C program needs to know of a lane.
+std::string lane_letters(const std::vector<Lane>& lanes) {
+    std::string text;
+    for (const Lane t : lanes) text += is_float(t) ? (bytes(t) == 8 ? 'd' : 'f') : (bytes(t) == 8 ? 'l' : 'i');
+    return text;
+}
+
+// A signature and its calls for a C program, which defines SIGNATURE_<arguments>[_SECOND] and FUNCTION. The widths
+// of a form follow one another, width 1 first.
+std::string signature(const Shape& s, int width) {
+    std::string text = std::string(stem(s.result)) + (s.pair ? "_pair" : "");
+    for (const Lane a : s.args) text += '_' + std::string(stem(a));
+    if (s.second != Lane::none && !s.pair) text += "_to_" + std::string(stem(s.second));
+    return text + "_x" + std::to_string(width);
+}
+
+void calls() {
+    std::set<std::string> seen;
+    for (const Family& f : families()) {
+        const Shape& s = f.shape;
+        const bool pointer = s.second != Lane::none && !s.pair;
+        for (const int width : widths) {
+            const std::string id = signature(s, width);
+            if (!seen.insert(id).second) continue;
+            std::printf("SIGNATURE_%zu%s(%s, %d, %s", s.args.size(), pointer ? "_SECOND" : "", id.c_str(), width,
+                        result_type(s, width).c_str());
+            for (const Lane a : s.args) std::printf(", %s", vector_type(a, width).c_str());
+            if (pointer) std::printf(", %s", c_type(s.second));
+            std::printf(", \"%s\", \"%s\", \"%s\", %d)\n", lane_letters(s.args).c_str(), lane_letters({s.result}).c_str(),
+                        lane_letters(s.second == Lane::none ? std::vector<Lane>{} : std::vector{s.second}).c_str(), s.pair);
+        }
+    }
+    for (const Family& f : families())
+        for (const Variant v : all_variants)
+            if (f.has(v))
+                for (const int width : widths) {
+                    std::printf("FUNCTION(%s, %s", export_name(f.base, width, v).c_str(), signature(f.shape, width).c_str());
+                    for (std::size_t a = 0; a < 3; a++) {
+                        const Interval usual = a < f.usual.size() ? f.usual[a] : Interval{-10, 10};
+                        std::printf(", %.17g, %.17g", usual.low, usual.high);
+                    }
+                    std::puts(")");
+                }
+}
+
 std::string places(const Worst& worst, const Shape& shape) {
     std::string text;
     for (std::size_t a = 0; a < worst.at.size(); a++) {
@@ -234,12 +283,13 @@ int main(int argc, char** argv) {
     if (argc == 2 && !std::strcmp(argv[1], "header")) header();
     else if (argc == 2 && !std::strcmp(argv[1], "names")) names("", "");
     else if (argc == 2 && !std::strcmp(argv[1], "accuracy")) accuracy();
+    else if (argc == 2 && !std::strcmp(argv[1], "calls")) calls();
     else if (argc == 2 && !std::strcmp(argv[1], "map")) {
         std::puts("/* Generated from the table of families by tarn-exports. */\n{\nglobal:");
         names("    ", ";");
         std::puts("local:\n    *;\n};");
     } else {
-        std::fputs("usage: tarn-exports header|map|names|accuracy\n", stderr);
+        std::fputs("usage: tarn-exports header|map|names|accuracy|calls\n", stderr);
         return 2;
     }
 }

@@ -9,7 +9,9 @@
 namespace tarn {
 namespace {
 
-using Atan2pif = Atan2<arctangent::HalfTurns, callout::atan2pif>;
+struct Atan2pif : Atan2<arctangent::HalfTurns> {
+    static constexpr auto callout = callout::atan2pif;
+};
 using Atan2pifNative = Atan2Native<arctangent::HalfTurnsNative, callout::atan2pif>;
 
 }  // namespace

@@ -25,9 +25,8 @@ template <class Unit, class V> TARN_INLINE V angle_of(V y, V x, const Ordered<V>
     return xor_bits(upper, sign_bit(y));
 }
 
-// By division. Where y is not finite, or x is zero or not finite, the scalar function gives the value,
-// and not of that lane alone: every lane of the block is its own, more exact than beside ordinary lanes.
-template <class Unit, callout::BinaryFloat scalar> struct Atan2 : Kernel<float(float, float)> {
+// By division. Where y is not finite, or x is zero or not finite, the angle is the scalar function's.
+template <class Unit> struct Atan2 : Kernel<float(float, float)> {
     template <class V> static TARN_INLINE auto fast(V y, V x) {
         const V ay = abs(y), ax = abs(x);
         const Ordered<V> o = ordered(ax < ay, ay, ax);
@@ -35,16 +34,6 @@ template <class Unit, callout::BinaryFloat scalar> struct Atan2 : Kernel<float(f
         // Infinities and NaNs become negative integers, zero the least that is not.
         const BitsOf<V> x_class = wrapping_sum(bits(ax), 0x00800000);
         return Flagged{value, not_finite(y) | (x_class <= 0x00800000)};
-    }
-
-    static f32x4 finish(f32x4 y, f32x4 x, f32x4 result, unsigned) {
-        for (int i = 0; i < 4; i++) {
-            const float y_lane = y[i], x_lane = x[i];
-            float lane;
-            scalar(&y_lane, &x_lane, &lane);
-            result[i] = lane;
-        }
-        return result;
     }
 };
 
