@@ -95,39 +95,6 @@ template <Vectors I, class F> TARN_INLINE auto for_each_lane(I index, F f) {
     }(std::make_integer_sequence<int, lane_count<I>>{});
 }
 
-// Two neighbouring columns of rows of doubles, from `column` on, a vector each; the rows in 64-bit lanes.
-template <int column = 0, class Entry, std::size_t count, LongWords I>
-TARN_INLINE auto gather_columns(const Entry (*table)[count], I index) {
-    static_assert(sizeof(Entry) == 8);
-    return gather_two_columns(reinterpret_cast<const double*>(table) + column, count, index);
-}
-
-// The same with the rows in 32-bit lanes, for the lower and the upper half of them.
-template <int column = 0, class Entry, std::size_t count, Words I>
-TARN_INLINE auto gather_columns_low(const Entry (*table)[count], I index) {
-    static_assert(sizeof(Entry) == 8);
-    return gather_two_columns_low(reinterpret_cast<const double*>(table) + column, count, index);
-}
-template <int column = 0, class Entry, std::size_t count, Words I>
-TARN_INLINE auto gather_columns_high(const Entry (*table)[count], I index) {
-    static_assert(sizeof(Entry) == 8);
-    return gather_two_columns_high(reinterpret_cast<const double*>(table) + column, count, index);
-}
-
-// Two neighbouring columns of rows of floats, from `column` on.
-template <int column = 0, class Entry, std::size_t count, Words I>
-TARN_INLINE auto gather_pairs(const Entry (*table)[count], I index) {
-    static_assert(sizeof(Entry) == 4);
-    return gather_two_columns(reinterpret_cast<const float*>(table) + column, count, index);
-}
-
-// Four.
-template <int column = 0, class Entry, std::size_t count, Words I>
-TARN_INLINE auto gather_quads(const Entry (*table)[count], I index) {
-    static_assert(sizeof(Entry) == 4);
-    return gather_four_columns(reinterpret_cast<const float*>(table) + column, count, index);
-}
-
 // Special-lane tests -----------------------------------------------------------------------------
 // A mask lane of a double counts by its sign, so that tests of the upper word alone serve; the lower words of
 // such a mask mean nothing.

@@ -91,6 +91,20 @@ TARN_INLINE Rows rows(i32x4 index) {
     return {{low & 0xFFFFFFFF, low >> 32, high & 0xFFFFFFFF, high >> 32}};
 }
 
+// Entries of a table of doubles, of two floats as one double, and of four floats; tables may hold their patterns.
+template <class Entry> TARN_INLINE const double* doubles_at(const Entry* entry) {
+    static_assert(sizeof(Entry) == 8);
+    return reinterpret_cast<const double*>(entry);
+}
+template <class Entry> TARN_INLINE const double* pair_at(const Entry* entry) {
+    static_assert(sizeof(Entry) == 4);
+    return reinterpret_cast<const double*>(entry);
+}
+template <class Entry> TARN_INLINE f32x4 quad_at(const Entry* entry) {
+    static_assert(sizeof(Entry) == 4);
+    return _mm_loadu_ps(reinterpret_cast<const float*>(entry));
+}
+
 // table[index] in each lane.
 TARN_INLINE f32x4 gather(const float* table, i32x4 index) {
     const auto [a, b, c, d] = rows(index).row;
@@ -113,34 +127,40 @@ TARN_INLINE i64x2 gather(const std::uint64_t* table, i64x2 index) {
     return i64x2{static_cast<std::int64_t>(table[index[0]]), static_cast<std::int64_t>(table[index[1]])};
 }
 
-// The first columns of the rows, `stride` apart, that the lanes number.
+// Neighbouring columns of a table's rows, from `column` on, a vector each.
 TARN_INLINE Columns2<f64x2> two_columns(const double* row0, const double* row1) {
     const __m128d a = _mm_loadu_pd(row0), b = _mm_loadu_pd(row1);
     return {_mm_unpacklo_pd(a, b), _mm_unpackhi_pd(a, b)};
 }
-TARN_INLINE Columns2<f64x2> gather_two_columns(const double* table, std::size_t stride, i64x2 index) {
-    return two_columns(table + static_cast<std::size_t>(index[0]) * stride, table + static_cast<std::size_t>(index[1]) * stride);
+template <int column = 0, class Entry, std::size_t count>
+TARN_INLINE Columns2<f64x2> gather_columns(const Entry (*table)[count], i64x2 index) {
+    return two_columns(doubles_at(table[index[0]] + column), doubles_at(table[index[1]] + column));
 }
-TARN_INLINE Columns2<f64x2> gather_two_columns_low(const double* table, std::size_t stride, i32x4 index) {
+// The same with the rows in 32-bit lanes, for the lower and the upper half of them.
+template <int column = 0, class Entry, std::size_t count>
+TARN_INLINE Columns2<f64x2> gather_columns_low(const Entry (*table)[count], i32x4 index) {
     const auto [a, b, c, d] = rows(index).row;
-    return two_columns(table + a * stride, table + b * stride);
+    return two_columns(doubles_at(table[a] + column), doubles_at(table[b] + column));
 }
-TARN_INLINE Columns2<f64x2> gather_two_columns_high(const double* table, std::size_t stride, i32x4 index) {
+template <int column = 0, class Entry, std::size_t count>
+TARN_INLINE Columns2<f64x2> gather_columns_high(const Entry (*table)[count], i32x4 index) {
     const auto [a, b, c, d] = rows(index).row;
-    return two_columns(table + c * stride, table + d * stride);
+    return two_columns(doubles_at(table[c] + column), doubles_at(table[d] + column));
 }
-TARN_INLINE Columns2<f32x4> gather_two_columns(const float* table, std::size_t stride, i32x4 index) {
+
+// Two and four columns of floats.
+template <int column = 0, class Entry, std::size_t count>
+TARN_INLINE Columns2<f32x4> gather_pairs(const Entry (*table)[count], i32x4 index) {
     const auto [a, b, c, d] = rows(index).row;
-    const auto at = [&](std::uint64_t row) __attribute__((always_inline)) {
-        return reinterpret_cast<const double*>(table + row * stride);
-    };
+    const auto at = [&](std::uint64_t row) __attribute__((always_inline)) { return pair_at(table[row] + column); };
     const __m128 low = (__m128)_mm_loadh_pd(_mm_load_sd(at(a)), at(b));
     const __m128 high = (__m128)_mm_loadh_pd(_mm_load_sd(at(c)), at(d));
     return {_mm_shuffle_ps(low, high, _MM_SHUFFLE(2, 0, 2, 0)), _mm_shuffle_ps(low, high, _MM_SHUFFLE(3, 1, 3, 1))};
 }
-TARN_INLINE Columns4<f32x4> gather_four_columns(const float* table, std::size_t stride, i32x4 index) {
+template <int column = 0, class Entry, std::size_t count>
+TARN_INLINE Columns4<f32x4> gather_quads(const Entry (*table)[count], i32x4 index) {
     const auto [i, j, k, l] = rows(index).row;
-    const auto at = [&](std::uint64_t row) __attribute__((always_inline)) { return _mm_loadu_ps(table + row * stride); };
+    const auto at = [&](std::uint64_t row) __attribute__((always_inline)) { return quad_at(table[row] + column); };
     __m128 a = at(i), b = at(j), c = at(k), d = at(l);
     _MM_TRANSPOSE4_PS(a, b, c, d);
     return {a, b, c, d};

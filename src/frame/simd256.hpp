@@ -129,43 +129,52 @@ TARN_INLINE Columns2<f64x4> two_columns(const double* row0, const double* row1, 
     const f64x4 a = join(at(row0), at(row2)), b = join(at(row1), at(row3));
     return {_mm256_unpacklo_pd(a, b), _mm256_unpackhi_pd(a, b)};
 }
-TARN_INLINE Columns2<f64x4> gather_two_columns(const double* table, std::size_t stride, i64x4 index) {
-    const auto at = [&](std::int64_t row) __attribute__((always_inline)) { return table + static_cast<std::size_t>(row) * stride; };
+template <int column = 0, class Entry, std::size_t count>
+TARN_INLINE Columns2<f64x4> gather_columns(const Entry (*table)[count], i64x4 index) {
+    const auto at = [&](std::int64_t row) __attribute__((always_inline)) { return doubles_at(table[row] + column); };
     const i64x2 low = low_half(index), high = high_half(index);
     return two_columns(at(low[0]), at(low[1]), at(high[0]), at(high[1]));
 }
-TARN_INLINE Columns2<f64x4> gather_four_rows(const double* table, std::size_t stride, i32x4 index) {
+template <int column, class Entry, std::size_t count>
+TARN_INLINE Columns2<f64x4> gather_columns_of_four(const Entry (*table)[count], i32x4 index) {
     const auto [a, b, c, d] = rows(index).row;
-    return two_columns(table + a * stride, table + b * stride, table + c * stride, table + d * stride);
+    const auto at = [&](std::uint64_t row) __attribute__((always_inline)) { return doubles_at(table[row] + column); };
+    return two_columns(at(a), at(b), at(c), at(d));
 }
-TARN_INLINE Columns2<f64x4> gather_two_columns_low(const double* table, std::size_t stride, i32x8 index) {
-    return gather_four_rows(table, stride, low_half(index));
+template <int column = 0, class Entry, std::size_t count>
+TARN_INLINE Columns2<f64x4> gather_columns_low(const Entry (*table)[count], i32x8 index) {
+    return gather_columns_of_four<column>(table, low_half(index));
 }
-TARN_INLINE Columns2<f64x4> gather_two_columns_high(const double* table, std::size_t stride, i32x8 index) {
-    return gather_four_rows(table, stride, high_half(index));
+template <int column = 0, class Entry, std::size_t count>
+TARN_INLINE Columns2<f64x4> gather_columns_high(const Entry (*table)[count], i32x8 index) {
+    return gather_columns_of_four<column>(table, high_half(index));
 }
-TARN_INLINE Columns2<f32x8> gather_two_columns(const float* table, std::size_t stride, i32x8 index) {
+
+template <int column = 0, class Entry, std::size_t count>
+TARN_INLINE Columns2<f32x8> gather_pairs(const Entry (*table)[count], i32x8 index) {
     const auto [a, b, c, d] = rows(low_half(index)).row;
     const auto [e, f, g, h] = rows(high_half(index)).row;
     const auto two = [&](std::uint64_t row, std::uint64_t next) __attribute__((always_inline)) {
-        return (f64x2)_mm_loadh_pd(_mm_load_sd(reinterpret_cast<const double*>(table + row * stride)),
-                                   reinterpret_cast<const double*>(table + next * stride));
+        return (f64x2)_mm_loadh_pd(_mm_load_sd(pair_at(table[row] + column)), pair_at(table[next] + column));
     };
     const __m256 first = (__m256)join(two(a, b), two(e, f)), second = (__m256)join(two(c, d), two(g, h));
     return {_mm256_shuffle_ps(first, second, _MM_SHUFFLE(2, 0, 2, 0)),
             _mm256_shuffle_ps(first, second, _MM_SHUFFLE(3, 1, 3, 1))};
 }
-TARN_INLINE Columns4<f32x8> gather_four_columns(const float* table, std::size_t stride, i32x8 index) {
+template <int column = 0, class Entry, std::size_t count>
+TARN_INLINE Columns4<f32x8> gather_quads(const Entry (*table)[count], i32x8 index) {
     const auto [a, b, c, d] = rows(low_half(index)).row;
     const auto [e, f, g, h] = rows(high_half(index)).row;
     const auto two = [&](std::uint64_t row, std::uint64_t other) __attribute__((always_inline)) {
-        return join((f32x4)_mm_loadu_ps(table + row * stride), (f32x4)_mm_loadu_ps(table + other * stride));
+        return join(quad_at(table[row] + column), quad_at(table[other] + column));
     };
     const __m256 ae = two(a, e), bf = two(b, f), cg = two(c, g), dh = two(d, h);
     const __m256 low_ab = _mm256_unpacklo_ps(ae, bf), high_ab = _mm256_unpackhi_ps(ae, bf);
     const __m256 low_cd = _mm256_unpacklo_ps(cg, dh), high_cd = _mm256_unpackhi_ps(cg, dh);
-    return {_mm256_shuffle_ps(low_ab, low_cd, _MM_SHUFFLE(1, 0, 1, 0)), _mm256_shuffle_ps(low_ab, low_cd, _MM_SHUFFLE(3, 2, 3, 2)),
-            _mm256_shuffle_ps(high_ab, high_cd, _MM_SHUFFLE(1, 0, 1, 0)), _mm256_shuffle_ps(high_ab, high_cd, _MM_SHUFFLE(3, 2, 3, 2))};
+    return {_mm256_shuffle_ps(low_ab, low_cd, _MM_SHUFFLE(1, 0, 1, 0)),
+            _mm256_shuffle_ps(low_ab, low_cd, _MM_SHUFFLE(3, 2, 3, 2)),
+            _mm256_shuffle_ps(high_ab, high_cd, _MM_SHUFFLE(1, 0, 1, 0)),
+            _mm256_shuffle_ps(high_ab, high_cd, _MM_SHUFFLE(3, 2, 3, 2))};
 }
 
 // Masks --------------------------------------------------------------------------------------------
