@@ -229,7 +229,7 @@ private:
                                      S*... second) {
         const auto run_group = [&](int g) __attribute__((always_inline)) { return K::fast(argument<A>(x, g)...); };
         const decltype(run_group(0)) groups[] = {run_group(i)...};
-        const Group<R, lanes, bytes> values[] = {value_of(groups[i])...};
+        const Group<R, lanes, bytes> values[] = {all_lanes(value_of(groups[i]))...};
         result = vector_of<lanes, bytes, R, width>(values);
         (store(second, groups), ...);
         if constexpr (requires { groups[0].special; }) {
@@ -265,6 +265,14 @@ private:
         else return result;
     }
 
+    // Lanes beyond those of a short vector are computed like the others, to the last operation: the compiler would
+    // take anything for a lane that does not count, and what it takes may raise flags.
+    template <class G> static TARN_INLINE G all_lanes(G g) {
+        if constexpr (Floats<G>)
+            if constexpr (lane_count<G> > stored_lanes(width)) return opaque(g);
+        return g;
+    }
+
     template <class G> static TARN_INLINE auto value_of(const G& g) {
         if constexpr (requires { g.value; }) return g.value;
         else return g;
@@ -273,7 +281,7 @@ private:
     // The second results, block by block, wherever the pointer points.
     template <class Lane, class G> static TARN_INLINE void store(Lane* to, const G (&groups)[count]) {
         Group<Lane, lanes, bytes> seconds[count];
-        for (int g = 0; g < count; g++) seconds[g] = groups[g].second;
+        for (int g = 0; g < count; g++) seconds[g] = all_lanes(groups[g].second);
         const auto v = vector_of<lanes, bytes, Lane, width>(seconds);
         if constexpr (in_memory<Lane, width>) {
             for (const auto& block : v.block) {

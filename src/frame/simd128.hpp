@@ -2,7 +2,7 @@
 // Where 64-bit lanes meet as many 32-bit lanes, those are in the low half of their vector.
 #pragma once
 
-#include <smmintrin.h>
+#include <immintrin.h>
 
 #include "frame/vectors.hpp"
 
@@ -31,6 +31,16 @@ TARN_INLINE f32x4 sqrt(f32x4 x) { return _mm_sqrt_ps(x); }
 TARN_INLINE f64x2 sqrt(f64x2 x) { return _mm_sqrt_pd(x); }
 TARN_INLINE f32x4 reciprocal_estimate(f32x4 x) { return _mm_rcp_ps(x); }
 TARN_INLINE f32x4 rsqrt_estimate(f32x4 x) { return _mm_rsqrt_ps(x); }
+
+// One rounding for a product and a sum, where the processor has it.
+#ifdef __FMA__
+inline constexpr bool fuses = true;
+TARN_INLINE f32x4 fused_multiply_add(f32x4 x, f32x4 y, f32x4 z) { return _mm_fmadd_ps(x, y, z); }
+TARN_INLINE f64x2 fused_multiply_add(f64x2 x, f64x2 y, f64x2 z) { return _mm_fmadd_pd(x, y, z); }
+#else
+inline constexpr bool fuses = false;
+template <class V> V fused_multiply_add(V, V, V) = delete;
+#endif
 
 // Between precisions -----------------------------------------------------------------------------
 

@@ -51,6 +51,9 @@ TARN_INLINE f64x4 sqrt(f64x4 x) { return _mm256_sqrt_pd(x); }
 TARN_INLINE f32x8 reciprocal_estimate(f32x8 x) { return _mm256_rcp_ps(x); }
 TARN_INLINE f32x8 rsqrt_estimate(f32x8 x) { return _mm256_rsqrt_ps(x); }
 
+TARN_INLINE f32x8 fused_multiply_add(f32x8 x, f32x8 y, f32x8 z) { return _mm256_fmadd_ps(x, y, z); }
+TARN_INLINE f64x4 fused_multiply_add(f64x4 x, f64x4 y, f64x4 z) { return _mm256_fmadd_pd(x, y, z); }
+
 // Between precisions -----------------------------------------------------------------------------
 
 TARN_INLINE f64x4 widen_low(f32x8 x) { return _mm256_cvtps_pd(low_half(x)); }

@@ -3,7 +3,8 @@
 //
 // While that direction and the one in force are both to nearest, fma computes all lanes together from
 // error-free transformations and hands over to the callout the lanes whose rounding a rounded tail cannot
-// decide: those within a rounding of a boundary. In any other direction every lane goes to the callout.
+// decide: those within a rounding of a boundary. Where the processor fuses, its instruction has the same value and
+// no flag too many. In any other direction every lane goes to the callout.
 #include "callout/callouts.hpp"
 #include "frame/directions.hpp"
 #include "frame/double_word.hpp"
@@ -28,18 +29,22 @@ template <class Lane> struct Fma;
 template <> struct Fma<float> : FmaFrame<float> {
     template <class W> struct Sum {
         W value;
-        WordsOf<W> undecided;
+        BitsOf<W> undecided;  // in the lower words
     };
     template <class W> static TARN_INLINE Sum<W> sum_of(W x, W y, W z) {
         const W product = x * y, sum = product + z;
         const auto boundary = (words(sum) & 0x0FFFFFFF) == 0;
-        return {sum, boundary & was_rounded(sum, product, z)};
+        return {sum, (BitsOf<W>)(boundary & was_rounded(sum, product, z))};
     }
 
     template <class V> static TARN_INLINE auto fast(V x, V y, V z) {
-        const auto low = sum_of(widen_low(x), widen_low(y), widen_low(z));
-        const auto high = sum_of(widen_high(x), widen_high(y), widen_high(z));
-        return Flagged{narrow(low.value, high.value), lower_words((BitsOf<decltype(low.value)>)low.undecided, (BitsOf<decltype(low.value)>)high.undecided)};
+        if constexpr (fuses) {
+            return Flagged{fused_multiply_add(x, y, z), BitsOf<V>{}};
+        } else {
+            const auto low = sum_of(widen_low(x), widen_low(y), widen_low(z));
+            const auto high = sum_of(widen_high(x), widen_high(y), widen_high(z));
+            return Flagged{narrow(low.value, high.value), lower_words(low.undecided, high.undecided)};
+        }
     }
 };
 
@@ -52,6 +57,11 @@ template <> struct Fma<double> : FmaFrame<double> {
     static constexpr std::uint32_t highest = 0x7E700000;  // of 2^1000
 
     template <class V> static TARN_INLINE auto fast(V x, V y, V z) {
+        if constexpr (fuses) return Flagged{fused_multiply_add(x, y, z), WordsOf<V>{}};
+        else return by_parts(x, y, z);
+    }
+
+    template <class V> static TARN_INLINE auto by_parts(V x, V y, V z) {
         const auto product = two_product(x, y);
         const auto low = two_sum(z, product.tail);
         const auto high = two_sum(product.head, low.head);

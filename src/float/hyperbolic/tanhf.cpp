@@ -12,7 +12,9 @@ namespace {
 
 #include "tables/tanhf_cubics.inc"
 
-struct Tanhf : Kernel<float(float)> {
+// In two halves, or, for the widths that have no more lanes, the lower one.
+template <bool two_halves> struct Tanhf : Kernel<float(float)> {
+    static constexpr int lanes = two_halves ? 4 : 2;
     static constexpr auto callout = callout::tanhf;
     static constexpr int blocks_at_a_time = 2;
 
@@ -30,14 +32,21 @@ struct Tanhf : Kernel<float(float)> {
         const BitsOf<V> part = min(difference_from_zero(top, filled<BitsOf<V>>(first)), last);
         const BitsOf<V> row = part >> 19;
         const V a = abs(x);
-        const V y = narrow(cubic(widen_low(a), gather_columns_low<0>(tanhf_cubics, row), gather_columns_low<2>(tanhf_cubics, row)),
-                           cubic(widen_high(a), gather_columns_high<0>(tanhf_cubics, row), gather_columns_high<2>(tanhf_cubics, row)));
-        return Flagged{or_bits(y, sign_bit(x)), top > 0x7F000000};
+        const auto low = cubic(widen_low(a), gather_columns_low<0>(tanhf_cubics, row), gather_columns_low<2>(tanhf_cubics, row));
+        const BitsOf<V> special = top > 0x7F000000;
+        if constexpr (two_halves) {
+            const auto high = cubic(widen_high(a), gather_columns_high<0>(tanhf_cubics, row), gather_columns_high<2>(tanhf_cubics, row));
+            return Flagged{or_bits(narrow(low, high), sign_bit(x)), special};
+        } else {
+            return Flagged{or_bits(narrow(low), sign_bit(x)), to_i64(special)};
+        }
     }
 };
+
+using TanhfByWidth = ExceptAt<ExceptAt<Tanhf<true>, 1, Tanhf<false>>, 2, Tanhf<false>>;
 
 }  // namespace
 }  // namespace tarn
 
-TARN_EXPORT(unary, tanhf, full, tarn::Tanhf)
+TARN_EXPORT(unary, tanhf, full, tarn::TanhfByWidth)
 TARN_EXPORT_SAME(tanhf, native, full)

@@ -16,10 +16,9 @@ namespace {
 #include "tables/powf_exp2.inc"
 #include "tables/powf_logs.inc"
 
-// Four lanes at a time as two halves, or, for the widths that have no more, two lanes.
-template <int group_lanes> struct Powf : Kernel<float(float, float)> {
-    static constexpr int lanes = group_lanes;
-    static constexpr bool two_halves = lanes == 4;
+// In two halves, or, for the widths that have no more lanes, the lower one.
+template <bool two_halves> struct Powf : Kernel<float(float, float)> {
+    static constexpr int lanes = two_halves ? 4 : 2;
     static constexpr auto callout = callout::powf;
 
     static constexpr double ln2 = f64(0x3FE62E42FEFA39EF);      // 0.6931471805599453
@@ -88,7 +87,7 @@ struct PowfNative : Kernel<float(float, float)> {
     template <class V> static TARN_INLINE auto fast(V x, V y) { return native_power<NativeExp>(x, y); }
 };
 
-using PowfByWidth = ExceptAt<ExceptAt<Powf<4>, 1, Powf<2>>, 2, Powf<2>>;
+using PowfByWidth = ExceptAt<ExceptAt<Powf<true>, 1, Powf<false>>, 2, Powf<false>>;
 
 }  // namespace
 }  // namespace tarn
