@@ -112,6 +112,16 @@ std::vector<std::string> exceptions(const Family& f) {
     if (f.shares_blocks) all.push_back("A special lane makes its 16-byte block more exact (full).");
     if (!f.estimates.empty())
         all.push_back("Last bits may differ between processor makers (" + forms(f.estimates) + ").");
+    if (!f.native_domain.empty()) {
+        static const char* const names[] = {"x", "y"};
+        std::vector<std::string> parts;
+        for (std::size_t a = 0; a < f.native_domain.size(); a++) {
+            char text[64];
+            std::snprintf(text, sizeof text, "%s from %g to %g", names[a], f.native_domain[a].low, f.native_domain[a].high);
+            parts.push_back(text);
+        }
+        all.push_back("Native keeps its error for " + listed(parts) + ".");
+    }
     if (!f.also.empty()) all.push_back(f.also);
     return all;
 }
@@ -170,11 +180,11 @@ void header() {
  *
  * A lane has the same bits at every width and beside any neighbours, but where a function's comment says
  * otherwise. Errors and special values hold while the processor rounds to nearest and subnormals are on. In
- * other rounding modes errors grow (docs/contract.md has the figures, up to percents); with FTZ subnormal results are
- * zeros, with DAZ subnormal arguments are (logf(1e-40) is -inf). Conversions named rte round as the processor
- * does. Overflow, underflow, invalid and division by zero are raised where they occur; any flag may be raised
- * besides. Functions are declared const, so that a compiler may merge, move and drop their calls: define
- * TARN_FENV_ACCESS before the header if you change the rounding mode or look at flags.
+ * other rounding modes errors grow, some to percents (docs/contract.md has the figures); with FTZ subnormal
+ * results are zeros, with DAZ subnormal arguments are (logf(1e-40) is -inf). Conversions to floating point named rte
+ * round as the processor does. Overflow, underflow, invalid and division by zero are raised where they occur;
+ * others may be raised besides. Functions are declared const, so that a compiler may merge, move and drop their
+ * calls: define TARN_FENV_ACCESS before the header if you change the rounding mode or look at flags.
  *
  * Vectors travel as in the System V ABI: up to 16 bytes in one register, longer ones as a struct of 16-byte
  * blocks, lane 0 first. Width 3 is stored as width 4: what its lane 3 holds is ignored, and undefined in
