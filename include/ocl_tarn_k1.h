@@ -5,7 +5,15 @@
  *
  * A base that ends in f is single precision (but erf and modf are double). Without a suffix a function keeps
  * the OpenCL error bound; _native is fast and only as accurate as its comment says; _half lies between.
- * Functions hold no state, change no control register and may be called from any thread.
+ * Functions hold no state, change no control register and may be called from any thread and signal handler.
+ *
+ * A lane has the same bits at every width and beside any neighbours, but where a function's comment says
+ * otherwise. Errors and special values hold while the processor rounds to nearest and subnormals are on. In
+ * other rounding modes errors grow, some to percents (docs/contract.md has the figures); with FTZ subnormal
+ * results are zeros, with DAZ subnormal arguments are (logf(1e-40) is -inf). Conversions to floating point named rte
+ * round as the processor does. Overflow, underflow, invalid and division by zero are raised where they occur;
+ * others may be raised besides. Functions are declared const, so that a compiler may merge, move and drop their
+ * calls: define TARN_FENV_ACCESS before the header if you change the rounding mode or look at flags.
  *
  * Vectors travel as in the System V ABI: up to 16 bytes in one register, longer ones as a struct of 16-byte
  * blocks, lane 0 first. Width 3 is stored as width 4: what its lane 3 holds is ignored, and undefined in
@@ -24,7 +32,11 @@
 #error "this library is for x86-64, and its vector types are those of GCC and Clang"
 #endif
 
+#ifdef TARN_FENV_ACCESS
+#define TARN_CONST /* calls stay where they are between changes of the floating-point environment */
+#else
 #define TARN_CONST __attribute__((const)) /* the result depends on nothing but the arguments */
+#endif
 
 #ifdef __cplusplus
 extern "C" {
@@ -108,8 +120,10 @@ tarn_float8 __ocl_tarn_k1_expf8_half(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_expf16_half(tarn_float16 x) TARN_CONST;
 
 /* exp: e^x. Domain: every x. Special values: +inf gives +inf, -inf +0; overflow gives +inf, underflow a
-   subnormal or +0. Worst error 2.631 ulp, width 2 2.893 (OpenCL allows 3); native 5.944e+07; measured over
-   16 million samples where the error is largest, and the ends of the range (native: 1.5 million). */
+   subnormal or +0. Worst error 2.631 ulp, width 2 2.893 (OpenCL allows 3, which width 2 exceeds); native
+   5.944e+07; measured over 16 million samples where the error is largest, and the ends of the range
+   (native: 1.5 million). Width 2 has a kernel of its own (full). exp(+-0) is one unit below 1, but at width
+   2. */
 double __ocl_tarn_k1_exp1(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_exp2(tarn_double2 x) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_exp3(tarn_double3 x) TARN_CONST;
@@ -125,7 +139,7 @@ tarn_double16 __ocl_tarn_k1_exp16_native(tarn_double16 x) TARN_CONST;
 
 /* exp2f: 2^x. Domain: every x. Special values: +inf gives +inf, -inf +0; overflow gives +inf, underflow a
    subnormal or +0. Worst error 1.102 ulp, width 1 0.5069, width 4 2.555 (OpenCL allows 3); native and half
-   1230; measured over all 2^32 inputs. */
+   1230; measured over all 2^32 inputs. Widths 1 and 4 have kernels of their own (full). */
 float __ocl_tarn_k1_exp2f1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_exp2f2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_exp2f3(tarn_float3 x) TARN_CONST;
@@ -163,7 +177,7 @@ tarn_double16 __ocl_tarn_k1_exp216_native(tarn_double16 x) TARN_CONST;
 
 /* exp10f: 10^x. Domain: every x. Special values: +inf gives +inf, -inf +0; overflow gives +inf, underflow a
    subnormal or +0. Worst error 2.922 ulp (OpenCL allows 3); native and half 1304; measured over all 2^32
-   inputs. */
+   inputs. exp10f(+-0) is one unit above 1. */
 float __ocl_tarn_k1_exp10f1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_exp10f2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_exp10f3(tarn_float3 x) TARN_CONST;
@@ -255,7 +269,8 @@ tarn_float16 __ocl_tarn_k1_logf16_half(tarn_float16 x) TARN_CONST;
 
 /* log: ln x. Domain: x >= 0. Special values: zeros give -inf, +inf +inf, negative x NaN. Worst error 1.568
    ulp (OpenCL allows 3); native 2.095e+06; measured over 16 million samples where the error is largest, and
-   the ends of the range (native: 1.5 million). */
+   the ends of the range (native: 1.5 million). Last bits may differ between processor makers (full and
+   native). */
 double __ocl_tarn_k1_log1(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_log2(tarn_double2 x) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_log3(tarn_double3 x) TARN_CONST;
@@ -293,7 +308,8 @@ tarn_float16 __ocl_tarn_k1_log2f16_half(tarn_float16 x) TARN_CONST;
 
 /* log2: log2 x. Domain: x >= 0. Special values: zeros give -inf, +inf +inf, negative x NaN; exact at powers
    of two. Worst error 2.081 ulp (OpenCL allows 3); native 2.426e+06; measured over 16 million samples where
-   the error is largest, and the ends of the range (native: 1.5 million). */
+   the error is largest, and the ends of the range (native: 1.5 million). Last bits may differ between
+   processor makers (full and native). */
 double __ocl_tarn_k1_log21(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_log22(tarn_double2 x) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_log23(tarn_double3 x) TARN_CONST;
@@ -330,7 +346,8 @@ tarn_float16 __ocl_tarn_k1_log10f16_half(tarn_float16 x) TARN_CONST;
 
 /* log10: log10 x. Domain: x >= 0. Special values: zeros give -inf, +inf +inf, negative x NaN. Worst error
    2.079 ulp (OpenCL allows 3); native 2.921e+06; measured over 16 million samples where the error is
-   largest, and the ends of the range (native: 1.5 million). */
+   largest, and the ends of the range (native: 1.5 million). Last bits may differ between processor makers
+   (full and native). */
 double __ocl_tarn_k1_log101(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_log102(tarn_double2 x) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_log103(tarn_double3 x) TARN_CONST;
@@ -345,7 +362,8 @@ tarn_double8 __ocl_tarn_k1_log108_native(tarn_double8 x) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_log1016_native(tarn_double16 x) TARN_CONST;
 
 /* log1pf: ln(1 + x). Domain: x >= -1. Special values: -1 gives -inf, +inf +inf, x < -1 NaN; zeros keep
-   their sign. Worst error 0.622 ulp (OpenCL allows 2); native 1568; measured over every x >= -1. */
+   their sign. Worst error 0.622 ulp (OpenCL allows 2); native 1568; measured over every x >= -1. Last bits
+   may differ between processor makers (full). */
 float __ocl_tarn_k1_log1pf1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_log1pf2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_log1pf3(tarn_float3 x) TARN_CONST;
@@ -361,7 +379,8 @@ tarn_float16 __ocl_tarn_k1_log1pf16_native(tarn_float16 x) TARN_CONST;
 
 /* log1p: ln(1 + x). Domain: x >= -1. Special values: -1 gives -inf, +inf +inf, x < -1 NaN; zeros keep their
    sign. Worst error 0.743 ulp (OpenCL allows 2); native 2.095e+06; measured over 6.5 million samples, two
-   million of them where the error is largest. */
+   million of them where the error is largest. Last bits may differ between processor makers (full and
+   native). */
 double __ocl_tarn_k1_log1p1(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_log1p2(tarn_double2 x) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_log1p3(tarn_double3 x) TARN_CONST;
@@ -378,7 +397,8 @@ tarn_double16 __ocl_tarn_k1_log1p16_native(tarn_double16 x) TARN_CONST;
 /* Powers ------------------------------------------------------------------------------------------ */
 
 /* powf: x^y. Domain: x >= 0, or y an integer. Special values: C99 Annex F. Worst error 1.099 ulp (OpenCL
-   allows 16); native 4466; measured over 190 million samples, most of them near 1. */
+   allows 16); native 4466; measured over 190 million samples, most of them near 1. Last bits may differ
+   between processor makers (full). */
 float __ocl_tarn_k1_powf1(float x, float y) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_powf2(tarn_float2 x, tarn_float2 y) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_powf3(tarn_float3 x, tarn_float3 y) TARN_CONST;
@@ -508,7 +528,8 @@ tarn_double16 __ocl_tarn_k1_rootn16_native(tarn_double16 x, tarn_int16 n) TARN_C
 
 /* divf: x / y. Domain: every x and y. Special values: IEEE division; the native and half forms may give a
    zero for y = +-2^126. Worst error 0.5 ulp (OpenCL allows 2.5); native and half 5238; measured over 30
-   million samples. */
+   million samples. Last bits may differ between processor makers (native and half). Native keeps its error
+   for x from -3 to 3 and y from -8.5e+37 to 8.5e+37. */
 float __ocl_tarn_k1_divf1(float x, float y) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_divf2(tarn_float2 x, tarn_float2 y) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_divf3(tarn_float3 x, tarn_float3 y) TARN_CONST;
@@ -544,7 +565,8 @@ tarn_double8 __ocl_tarn_k1_div8_native(tarn_double8 x, tarn_double8 y) TARN_CONS
 tarn_double16 __ocl_tarn_k1_div16_native(tarn_double16 x, tarn_double16 y) TARN_CONST;
 
 /* invf: 1 / x. Domain: every x. Special values: IEEE division. Worst error 0.5 ulp (OpenCL allows 2.5);
-   native and half 4762; measured over every significand. */
+   native and half 4762; measured over every significand. Last bits may differ between processor makers
+   (native and half). */
 float __ocl_tarn_k1_invf1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_invf2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_invf3(tarn_float3 x) TARN_CONST;
@@ -581,7 +603,8 @@ tarn_double16 __ocl_tarn_k1_inv16_native(tarn_double16 x) TARN_CONST;
 
 /* sqrtf: x^(1/2). Domain: x >= 0. Special values: -0 gives -0, x < 0 NaN; in the native and half forms
    zeros and +inf give NaN, subnormals +inf. Worst error 0.7499 ulp (OpenCL allows 3); native and half 4156;
-   measured over every x >= 0. */
+   measured over every x >= 0. Last bits may differ between processor makers (full, native and half). Native
+   keeps its error for x from 1.2e-38 to 3.4e+38. */
 float __ocl_tarn_k1_sqrtf1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_sqrtf2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_sqrtf3(tarn_float3 x) TARN_CONST;
@@ -617,7 +640,8 @@ tarn_double8 __ocl_tarn_k1_sqrt8_native(tarn_double8 x) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_sqrt16_native(tarn_double16 x) TARN_CONST;
 
 /* rsqrtf: x^(-1/2). Domain: x > 0. Special values: zeros give an infinity of their sign, +inf +0, x < 0
-   NaN. Worst error 0.9784 ulp (OpenCL allows 2); native and half 2940; measured over every x >= 0. */
+   NaN. Worst error 0.9784 ulp (OpenCL allows 2); native and half 2940; measured over every x >= 0. Last
+   bits may differ between processor makers (full, native and half). */
 float __ocl_tarn_k1_rsqrtf1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_rsqrtf2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_rsqrtf3(tarn_float3 x) TARN_CONST;
@@ -715,7 +739,8 @@ tarn_double16 __ocl_tarn_k1_rcbrt16_native(tarn_double16 x) TARN_CONST;
 
 /* hypotf: (x^2 + y^2)^(1/2). Domain: every x and y. Special values: an infinity gives +inf, also beside a
    NaN; in the native form infinities, and sums of squares beyond the range, give NaN. Worst error 1.408 ulp
-   (OpenCL allows 4); native 4156; measured over 60 million samples. */
+   (OpenCL allows 4); native 4156; measured over 60 million samples. Last bits may differ between processor
+   makers (full and native). Native keeps its error for x from 1e-15 to 1e+18 and y from 1e-15 to 1e+18. */
 float __ocl_tarn_k1_hypotf1(float x, float y) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_hypotf2(tarn_float2 x, tarn_float2 y) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_hypotf3(tarn_float3 x, tarn_float3 y) TARN_CONST;
@@ -731,7 +756,8 @@ tarn_float16 __ocl_tarn_k1_hypotf16_native(tarn_float16 x, tarn_float16 y) TARN_
 
 /* hypot: (x^2 + y^2)^(1/2). Domain: every x and y. Special values: an infinity gives +inf, also beside a
    NaN; in the native form sums of squares beyond the range are lost, and a NaN gives NaN. Worst error 1.174
-   ulp (OpenCL allows 4); native 1.174; measured over 6 million samples. */
+   ulp (OpenCL allows 4); native 1.174; measured over 6 million samples. Native keeps its error for x from
+   1e-130 to 1e+150 and y from 1e-130 to 1e+150. */
 double __ocl_tarn_k1_hypot1(double x, double y) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_hypot2(tarn_double2 x, tarn_double2 y) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_hypot3(tarn_double3 x, tarn_double3 y) TARN_CONST;
@@ -749,7 +775,8 @@ tarn_double16 __ocl_tarn_k1_hypot16_native(tarn_double16 x, tarn_double16 y) TAR
 
 /* sinf: sin x. Domain: radians, every finite x. Special values: infinities give NaN; zeros keep their sign.
    Worst error 2.474 ulp (OpenCL allows 4); native and half 2321; measured over all inputs, above 10000 of
-   one sign. */
+   one sign. One lane beyond |x| = 10000 sends the whole call down another path. The sine of -0 beside a
+   lane above the limit is +0. */
 float __ocl_tarn_k1_sinf1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_sinf2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_sinf3(tarn_float3 x) TARN_CONST;
@@ -771,7 +798,8 @@ tarn_float16 __ocl_tarn_k1_sinf16_half(tarn_float16 x) TARN_CONST;
 
 /* sin: sin x. Domain: radians, every finite x. Special values: infinities give NaN; zeros keep their sign.
    Worst error 3.744 ulp (OpenCL allows 4); native 5.453e+07; measured over 18 million samples, and the
-   hardest to reduce of every exponent (native: about 1 million). */
+   hardest to reduce of every exponent (native: about 1 million). One lane beyond |x| = 16777216 sends the
+   whole call down another path. */
 double __ocl_tarn_k1_sin1(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_sin2(tarn_double2 x) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_sin3(tarn_double3 x) TARN_CONST;
@@ -786,7 +814,8 @@ tarn_double8 __ocl_tarn_k1_sin8_native(tarn_double8 x) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_sin16_native(tarn_double16 x) TARN_CONST;
 
 /* cosf: cos x. Domain: radians, every finite x. Special values: infinities give NaN. Worst error 2.387 ulp
-   (OpenCL allows 4); native and half 2349; measured over all inputs, above 10000 of one sign. */
+   (OpenCL allows 4); native and half 2349; measured over all inputs, above 10000 of one sign. One lane
+   beyond |x| = 10000 sends the whole call down another path. */
 float __ocl_tarn_k1_cosf1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_cosf2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_cosf3(tarn_float3 x) TARN_CONST;
@@ -808,7 +837,7 @@ tarn_float16 __ocl_tarn_k1_cosf16_half(tarn_float16 x) TARN_CONST;
 
 /* cos: cos x. Domain: radians, every finite x. Special values: infinities give NaN. Worst error 3.721 ulp
    (OpenCL allows 4); native 5.453e+07; measured over 18 million samples, and the hardest to reduce of every
-   exponent (native: about 1 million). */
+   exponent (native: about 1 million). One lane beyond |x| = 8388608 sends the whole call down another path. */
 double __ocl_tarn_k1_cos1(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_cos2(tarn_double2 x) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_cos3(tarn_double3 x) TARN_CONST;
@@ -824,7 +853,8 @@ tarn_double16 __ocl_tarn_k1_cos16_native(tarn_double16 x) TARN_CONST;
 
 /* sincosf: sin x, and cos x through the pointer. Domain: radians, every finite x. Special values: as sin
    and cos. Worst error 2.474 ulp (OpenCL allows 4); native 2321; measured over all inputs, above 10000 of
-   one sign. */
+   one sign. One lane beyond |x| = 10000 sends the whole call down another path. The sine of -0 beside a
+   lane above the limit is +0. */
 float __ocl_tarn_k1_sincosf1(float x, float* second);
 tarn_float2 __ocl_tarn_k1_sincosf2(tarn_float2 x, float* second);
 tarn_float3 __ocl_tarn_k1_sincosf3(tarn_float3 x, float* second);
@@ -840,7 +870,8 @@ tarn_float16 __ocl_tarn_k1_sincosf16_native(tarn_float16 x, float* second);
 
 /* sincos: sin x, and cos x through the pointer. Domain: radians, every finite x. Special values: as sin and
    cos. Worst error 3.693 ulp (OpenCL allows 4); native 5.453e+07; measured over 10 million samples, and the
-   hardest to reduce of every exponent (native: about 1 million). */
+   hardest to reduce of every exponent (native: about 1 million). One lane beyond |x| = 8388608 sends the
+   whole call down another path. */
 double __ocl_tarn_k1_sincos1(double x, double* second);
 tarn_double2 __ocl_tarn_k1_sincos2(tarn_double2 x, double* second);
 tarn_double3 __ocl_tarn_k1_sincos3(tarn_double3 x, double* second);
@@ -855,7 +886,9 @@ tarn_double8 __ocl_tarn_k1_sincos8_native(tarn_double8 x, double* second);
 tarn_double16 __ocl_tarn_k1_sincos16_native(tarn_double16 x, double* second);
 
 /* sincosregf: sin x and cos x. Domain: radians, every finite x. Special values: as sin and cos. Worst error
-   2.474 ulp (OpenCL allows 4); native 2321; measured over all inputs, above 10000 of one sign. */
+   2.474 ulp (OpenCL allows 4); native 2321; measured over all inputs, above 10000 of one sign. One lane
+   beyond |x| = 10000 sends the whole call down another path. The sine of -0 beside a lane above the limit
+   is +0. */
 tarn_sincos_float1 __ocl_tarn_k1_sincosregf1(float x) TARN_CONST;
 tarn_sincos_float2 __ocl_tarn_k1_sincosregf2(tarn_float2 x) TARN_CONST;
 tarn_sincos_float3 __ocl_tarn_k1_sincosregf3(tarn_float3 x) TARN_CONST;
@@ -871,7 +904,8 @@ tarn_sincos_float16 __ocl_tarn_k1_sincosregf16_native(tarn_float16 x) TARN_CONST
 
 /* sincosreg: sin x and cos x. Domain: radians, every finite x. Special values: as sin and cos. Worst error
    3.693 ulp (OpenCL allows 4); native 5.453e+07; measured over 10 million samples, and the hardest to
-   reduce of every exponent (native: about 1 million). */
+   reduce of every exponent (native: about 1 million). One lane beyond |x| = 8388608 sends the whole call
+   down another path. */
 tarn_sincos_double1 __ocl_tarn_k1_sincosreg1(double x) TARN_CONST;
 tarn_sincos_double2 __ocl_tarn_k1_sincosreg2(tarn_double2 x) TARN_CONST;
 tarn_sincos_double3 __ocl_tarn_k1_sincosreg3(tarn_double3 x) TARN_CONST;
@@ -887,7 +921,8 @@ tarn_sincos_double16 __ocl_tarn_k1_sincosreg16_native(tarn_double16 x) TARN_CONS
 
 /* tanf: tan x. Domain: radians, every finite x. Special values: infinities give NaN; zeros keep their sign.
    Worst error 4.556 ulp (OpenCL allows 5); native and half 5203; measured over all inputs, above 8256 of
-   one sign. */
+   one sign. One lane beyond |x| = 8256 sends the whole call down another path. Last bits may differ between
+   processor makers (full, native and half). */
 float __ocl_tarn_k1_tanf1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_tanf2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_tanf3(tarn_float3 x) TARN_CONST;
@@ -909,7 +944,8 @@ tarn_float16 __ocl_tarn_k1_tanf16_half(tarn_float16 x) TARN_CONST;
 
 /* tan: tan x. Domain: radians, every finite x. Special values: infinities give NaN; zeros keep their sign.
    Worst error 4.225 ulp (OpenCL allows 5); native 2.261e+05; measured over 13 million samples, and the
-   hardest to reduce of every exponent (native: about 1 million). */
+   hardest to reduce of every exponent (native: about 1 million). One lane beyond |x| = 128000 sends the
+   whole call down another path. */
 double __ocl_tarn_k1_tan1(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_tan2(tarn_double2 x) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_tan3(tarn_double3 x) TARN_CONST;
@@ -989,7 +1025,8 @@ tarn_double16 __ocl_tarn_k1_cospi16_native(tarn_double16 x) TARN_CONST;
 
 /* tanpif: tan(pi x). Domain: half turns, every finite x. Special values: infinities give NaN; tanpi(n) is
    copysign(0, n) for even n, copysign(0, -n) for odd n. Worst error 1.908 ulp (OpenCL allows 6); native
-   5197; measured over all inputs up to 2^24; integers beyond. */
+   5197; measured over all inputs up to 2^24; integers beyond. Last bits may differ between processor makers
+   (full and native). */
 float __ocl_tarn_k1_tanpif1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_tanpif2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_tanpif3(tarn_float3 x) TARN_CONST;
@@ -1022,7 +1059,8 @@ tarn_double16 __ocl_tarn_k1_tanpi16_native(tarn_double16 x) TARN_CONST;
 /* Inverse trigonometry ---------------------------------------------------------------------------- */
 
 /* asinf: arcsin x. Domain: |x| <= 1; radians. Special values: beyond 1 NaN; zeros keep their sign. Worst
-   error 2.274 ulp (OpenCL allows 4); native 4541; measured over all inputs (native: from 0.2 on). */
+   error 2.274 ulp (OpenCL allows 4); native 4541; measured over all inputs (native: from 0.2 on). Last bits
+   may differ between processor makers (native). */
 float __ocl_tarn_k1_asinf1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_asinf2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_asinf3(tarn_float3 x) TARN_CONST;
@@ -1053,7 +1091,8 @@ tarn_double8 __ocl_tarn_k1_asin8_native(tarn_double8 x) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_asin16_native(tarn_double16 x) TARN_CONST;
 
 /* acosf: arccos x. Domain: |x| <= 1; radians. Special values: beyond 1 NaN; acos(1) is +0. Worst error
-   1.238 ulp (OpenCL allows 4); native 4685; measured over all inputs. */
+   1.238 ulp (OpenCL allows 4); native 4685; measured over all inputs. Last bits may differ between
+   processor makers (native). */
 float __ocl_tarn_k1_acosf1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_acosf2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_acosf3(tarn_float3 x) TARN_CONST;
@@ -1084,7 +1123,7 @@ tarn_double16 __ocl_tarn_k1_acos16_native(tarn_double16 x) TARN_CONST;
 
 /* atanf: arctan x. Domain: every x; radians. Special values: infinities give +-pi/2; zeros keep their sign.
    Worst error 3.752 ulp (OpenCL allows 5); native 2912; measured over all inputs (native: of one sign, from
-   0.1 to 10000). */
+   0.1 to 10000). Last bits may differ between processor makers (native). */
 float __ocl_tarn_k1_atanf1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_atanf2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_atanf3(tarn_float3 x) TARN_CONST;
@@ -1099,8 +1138,8 @@ tarn_float8 __ocl_tarn_k1_atanf8_native(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_atanf16_native(tarn_float16 x) TARN_CONST;
 
 /* atan: arctan x. Domain: every x; radians. Special values: infinities give +-pi/2; zeros keep their sign.
-   Worst error 1.852 ulp, width 2 4.508 (OpenCL allows 5); native 2.3e+07; measured over 5 million random
-   inputs. */
+   Worst error 1.852 ulp, width 2 4.508 (OpenCL allows 5, which width 2 exceeds); native 2.3e+07; measured
+   over 5 million random inputs. Width 2 has a kernel of its own (full). */
 double __ocl_tarn_k1_atan1(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_atan2(tarn_double2 x) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_atan3(tarn_double3 x) TARN_CONST;
@@ -1115,7 +1154,9 @@ tarn_double8 __ocl_tarn_k1_atan8_native(tarn_double8 x) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_atan16_native(tarn_double16 x) TARN_CONST;
 
 /* atan2f: the angle of the point (y, x); first argument y. Domain: every y and x; radians. Special values:
-   C99 Annex F. Worst error 3.908 ulp (OpenCL allows 6); native 5585; measured over 2 * 10^8 random pairs. */
+   C99 Annex F. Worst error 3.908 ulp (OpenCL allows 6); native 5585; measured over 2 * 10^8 random pairs. A
+   special lane makes its 16-byte block more exact (full). Last bits may differ between processor makers
+   (native). */
 float __ocl_tarn_k1_atan2f1(float x, float y) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_atan2f2(tarn_float2 x, tarn_float2 y) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_atan2f3(tarn_float3 x, tarn_float3 y) TARN_CONST;
@@ -1131,7 +1172,8 @@ tarn_float16 __ocl_tarn_k1_atan2f16_native(tarn_float16 x, tarn_float16 y) TARN_
 
 /* atan2: the angle of the point (y, x); first argument y. Domain: every y and x; radians. Special values:
    C99 Annex F. Worst error 1.986 ulp, width 2 4.899 (OpenCL allows 6); native 2.013e+07; measured over 3.5
-   million random pairs, most of them in narrow sectors; width 2 6.5 million, near the diagonals. */
+   million random pairs, most of them in narrow sectors; width 2 6.5 million, near the diagonals. Width 2
+   has a kernel of its own (full). */
 double __ocl_tarn_k1_atan21(double x, double y) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_atan22(tarn_double2 x, tarn_double2 y) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_atan23(tarn_double3 x, tarn_double3 y) TARN_CONST;
@@ -1178,7 +1220,8 @@ tarn_double8 __ocl_tarn_k1_asinpi8_native(tarn_double8 x) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_asinpi16_native(tarn_double16 x) TARN_CONST;
 
 /* acospif: arccos(x) / pi. Domain: |x| <= 1; half turns. Special values: beyond 1 NaN; acospi(1) is +0.
-   Worst error 2.457 ulp (OpenCL allows 5); native 4331; measured over all inputs (native: from 0.2 on). */
+   Worst error 2.457 ulp (OpenCL allows 5); native 4331; measured over all inputs (native: from 0.2 on).
+   Last bits may differ between processor makers (native). */
 float __ocl_tarn_k1_acospif1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_acospif2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_acospif3(tarn_float3 x) TARN_CONST;
@@ -1210,7 +1253,7 @@ tarn_double16 __ocl_tarn_k1_acospi16_native(tarn_double16 x) TARN_CONST;
 
 /* atanpif: arctan(x) / pi. Domain: every x; half turns. Special values: infinities give +-0.5; zeros keep
    their sign. Worst error 3.607 ulp (OpenCL allows 5); native 1854; measured over all inputs (native: every
-   third from 0.1 to 10000). */
+   third from 0.1 to 10000). Last bits may differ between processor makers (full and native). */
 float __ocl_tarn_k1_atanpif1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_atanpif2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_atanpif3(tarn_float3 x) TARN_CONST;
@@ -1242,7 +1285,7 @@ tarn_double16 __ocl_tarn_k1_atanpi16_native(tarn_double16 x) TARN_CONST;
 
 /* atan2pif: the angle of the point (y, x) over pi; first argument y. Domain: every y and x; half turns.
    Special values: as atan2, divided by pi. Worst error 3.14 ulp (OpenCL allows 6); native 5578; measured
-   over 2 * 10^8 random pairs. */
+   over 2 * 10^8 random pairs. Last bits may differ between processor makers (native). */
 float __ocl_tarn_k1_atan2pif1(float x, float y) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_atan2pif2(tarn_float2 x, tarn_float2 y) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_atan2pif3(tarn_float3 x, tarn_float3 y) TARN_CONST;
@@ -1368,7 +1411,8 @@ tarn_double16 __ocl_tarn_k1_tanh16_native(tarn_double16 x) TARN_CONST;
 
 /* asinhf: ln(x + (x^2 + 1)^(1/2)). Domain: every x. Special values: infinities and zeros come back. Worst
    error 1.886 ulp (OpenCL allows 4); native 1238; measured over all inputs of one sign on which the
-   function is neither constant nor the argument (native: of one sign, from 0.0001 on). */
+   function is neither constant nor the argument (native: of one sign, from 0.0001 on). Last bits may differ
+   between processor makers (native). */
 float __ocl_tarn_k1_asinhf1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_asinhf2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_asinhf3(tarn_float3 x) TARN_CONST;
@@ -1398,7 +1442,8 @@ tarn_double8 __ocl_tarn_k1_asinh8_native(tarn_double8 x) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_asinh16_native(tarn_double16 x) TARN_CONST;
 
 /* acoshf: ln(x + (x^2 - 1)^(1/2)). Domain: x >= 1. Special values: below 1 NaN; +inf gives +inf. Worst
-   error 2.085 ulp (OpenCL allows 4); native 3878; measured over all inputs. */
+   error 2.085 ulp (OpenCL allows 4); native 3878; measured over all inputs. Last bits may differ between
+   processor makers (native). */
 float __ocl_tarn_k1_acoshf1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_acoshf2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_acoshf3(tarn_float3 x) TARN_CONST;
@@ -1429,7 +1474,8 @@ tarn_double16 __ocl_tarn_k1_acosh16_native(tarn_double16 x) TARN_CONST;
 
 /* atanhf: ln((1 + x) / (1 - x)) / 2. Domain: |x| <= 1. Special values: +-1 gives +-inf, beyond NaN; zeros
    keep their sign. Worst error 2.093 ulp (OpenCL allows 5); native 1470; measured over all inputs of one
-   sign on which the function is neither constant nor the argument (native: of one sign, from 0.0001 on). */
+   sign on which the function is neither constant nor the argument (native: of one sign, from 0.0001 on).
+   Last bits may differ between processor makers (full and native). */
 float __ocl_tarn_k1_atanhf1(float x) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_atanhf2(tarn_float2 x) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_atanhf3(tarn_float3 x) TARN_CONST;
@@ -2013,8 +2059,7 @@ tarn_double4 __ocl_tarn_k1_remquo4(tarn_double4 x, tarn_double4 y, int32_t* seco
 tarn_double8 __ocl_tarn_k1_remquo8(tarn_double8 x, tarn_double8 y, int32_t* second);
 tarn_double16 __ocl_tarn_k1_remquo16(tarn_double16 x, tarn_double16 y, int32_t* second);
 
-/* madf: (x y) + z, rounded twice. Domain: every x, y and z. Special values: IEEE product and sum. Exact, or
-   rounded once. */
+/* madf: (x y) + z, rounded twice. Domain: every x, y and z. Special values: IEEE product and sum. */
 float __ocl_tarn_k1_madf1(float x, float y, float z) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_madf2(tarn_float2 x, tarn_float2 y, tarn_float2 z) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_madf3(tarn_float3 x, tarn_float3 y, tarn_float3 z) TARN_CONST;
@@ -2022,8 +2067,7 @@ tarn_float4 __ocl_tarn_k1_madf4(tarn_float4 x, tarn_float4 y, tarn_float4 z) TAR
 tarn_float8 __ocl_tarn_k1_madf8(tarn_float8 x, tarn_float8 y, tarn_float8 z) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_madf16(tarn_float16 x, tarn_float16 y, tarn_float16 z) TARN_CONST;
 
-/* mad: (x y) + z, rounded twice. Domain: every x, y and z. Special values: IEEE product and sum. Exact, or
-   rounded once. */
+/* mad: (x y) + z, rounded twice. Domain: every x, y and z. Special values: IEEE product and sum. */
 double __ocl_tarn_k1_mad1(double x, double y, double z) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_mad2(tarn_double2 x, tarn_double2 y, tarn_double2 z) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_mad3(tarn_double3 x, tarn_double3 y, tarn_double3 z) TARN_CONST;

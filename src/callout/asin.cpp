@@ -2,8 +2,6 @@
 // the end: v + v^3/6 and a polynomial up to 1/2; from there on the doubled arcsine of ((1 - |x|)/2)^(1/2), whose rounding
 // error is kept, away from the end of the range. The angle of a point takes the kernels' steps, but for zero and
 // infinite coordinates, whose half turns are known.
-//
-// Worst error of arcsine and arccosine in 300 thousand inputs: 0.53 ulp, and 0.75 where asinpi is subnormal.
 #include "callout/format.hpp"
 #include "double/trig/arctangent_nodes.hpp"
 

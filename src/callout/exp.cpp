@@ -1,6 +1,6 @@
-// The double-precision exponentials of special lanes: 2^(n/64) from a table of pairs times e^r or 2^r of
-// degree 6; subnormal results are split so that they are rounded once, but for those of exp2, whose sum is rounded
-// before. Worst error 0.51 ulp, of subnormal exp2 0.76 ulp.
+// The double-precision exponentials of special lanes: 2^(n/64) from a table of pairs times e^r or 2^r of degree
+// 6; subnormal results are split so that they are rounded once, but for those of exp2, whose sum is rounded
+// before.
 #include "callout/exp_family.hpp"
 
 namespace tarn::callout {

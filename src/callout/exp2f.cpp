@@ -1,5 +1,5 @@
-// 2^x and 10^x in double precision, rounded once: 2^(n/64) from a table of pairs, times a polynomial
-// of degree 5 in the remainder. Worst error 0.50 ulp.
+// 2^x and 10^x in double precision, rounded once: 2^(n/64) from a table of pairs, times a polynomial of degree 5
+// in the remainder.
 #include "callout/exp_family.hpp"
 
 namespace tarn::callout {

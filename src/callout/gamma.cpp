@@ -5,8 +5,6 @@
 // one step up. From 8 on Stirling's formula: the large products of its exponent are exact, and so is what they
 // leave over a multiple of ln2/64; a row of 64 and a polynomial make the power. For negative x the reflection
 // by sin(pi x).
-//
-// Worst error in 1.9 million random inputs: 0.53 ulp at 8.56.
 #include "callout/exp_family.hpp"
 #include "callout/gamma_extended.hpp"
 

@@ -5,7 +5,6 @@
 // ln |gamma|: between 1/2 and 64 a row by the top bits of x has a polynomial for ln gamma(x) / ((x - 1)(x - 2)),
 // which keeps the zeros at 1 and 2; above, Stirling's formula; below, one step up. For negative x the
 // reflection by sin(pi x), but next to a zero a row for each, with the zero as head and tail.
-// Worst error 0.50 ulp.
 #include "callout/gamma_family.hpp"
 
 namespace tarn::callout {

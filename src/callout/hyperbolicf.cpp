@@ -1,6 +1,6 @@
 // The special lanes of the hyperbolic functions. sinh and cosh arrive above 87, where they are half an
-// exponential in every bit; that is taken in double precision and rounded once. The others are known
-// without arithmetic. Worst error 0.50 ulp.
+// exponential in every bit; that is taken in double precision and rounded once. The others are known without
+// arithmetic.
 #include "callout/exp_family.hpp"
 
 namespace tarn::callout {

@@ -5,8 +5,6 @@
 // the zeros at 1 and 2; above, Stirling's formula; below, one step up. For negative x the reflection by
 // sin(pi x); where it cancels, the large parts of both logarithms are exact and added first, and next to a zero
 // a row for each takes over, with the zero as head and tail: beyond -16 no double is so near to a zero.
-//
-// Worst error in 1.6 million random inputs: 0.69 ulp at -2.7393, just out of reach of a zero's row; 0.54 for positive x.
 #include "callout/gamma_extended.hpp"
 
 namespace tarn::callout {

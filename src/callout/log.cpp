@@ -1,4 +1,4 @@
-// The double-precision logarithms of special lanes. ln is a complete scalar function (0.51 ulp); to the other
+// The double-precision logarithms of special lanes. ln is a complete scalar function; to the other
 // bases a subnormal x is scaled by 2^60 and takes the vector path's own steps.
 #include "callout/log_family.hpp"
 #include "double/log/table_log.hpp"

@@ -1,7 +1,6 @@
-// Logarithms in double precision, rounded once. Near 1 a polynomial of degree 8 in x - 1; elsewhere
-// x = 2^k m, a row of 65 by the top bits of m gives the reciprocal R of 1 + i/64 and -ln R as head and
-// tail, and the same polynomial takes R m - 1. The other bases are multiples: powers of two come out
-// exact. Worst error 0.50 ulp.
+// Logarithms in double precision, rounded once. Near 1 a polynomial of degree 8 in x - 1; elsewhere x = 2^k m, a
+// row of 65 by the top bits of m gives the reciprocal R of 1 + i/64 and -ln R as head and tail, and the same
+// polynomial takes R m - 1. The other bases are multiples: powers of two come out exact.
 #include "callout/log_family.hpp"
 
 namespace tarn::callout {

@@ -1,5 +1,5 @@
 // Powers of one lane: |x|^y = e^(y ln |x|) in double precision, rounded once, after the special values
-// (power_rules.hpp). An integer exponent is exact. Worst error 0.50 ulp.
+// (power_rules.hpp). An integer exponent is exact.
 #include "callout/exp_family.hpp"
 #include "callout/log_family.hpp"
 #include "callout/power_rules.hpp"

@@ -1,6 +1,5 @@
-// Division and roots. The quotients are the processor's; the square roots are taken in double
-// precision, where every single is a normal number, and rounded once; a cube root is the kernels' own
-// after scaling. Worst error 0.50 ulp, the cube roots as their kernels.
+// Division and roots. The quotients are the processor's; the square roots are taken in double precision, where
+// every single is a normal number, and rounded once; a cube root is the kernels' own after scaling.
 #include "callout/scalar.hpp"
 #include "float/roots/cube_root.hpp"
 

@@ -1,5 +1,5 @@
-// Sine, cosine and tangent of any float, in double precision, rounded once. Worst error 0.50 ulp. The
-// kernels compute finite lanes themselves and send infinities and NaNs.
+// Sine, cosine and tangent of any float, in double precision, rounded once. The kernels compute finite lanes
+// themselves and send infinities and NaNs.
 #include "callout/angle.hpp"
 
 namespace tarn::callout {

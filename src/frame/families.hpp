@@ -2,6 +2,7 @@
 // benches and the documents. Nothing else lists the functions.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -59,6 +60,7 @@ struct Family {
     double allowed = 0;
     Worst full{}, native_worst{}, half_worst{};
     std::vector<std::pair<int, Worst>> width_full{};
+    std::vector<int> exceeds_bound{};  // widths whose kernel exceeds what OpenCL allows; their bits stay
     std::string measured{};  // over what
 
     // Where every library at hand is on its fast path, for each argument: benches and dense samples.
@@ -71,9 +73,18 @@ struct Family {
     double switches_above = 0;
     // A lane with a zero, an infinity or a NaN changes the way of the others in its 16-byte block.
     bool shares_blocks = false;
+    // Forms that start from the processor's estimate of a reciprocal or of its root.
+    std::vector<Variant> estimates{};
+    // What else a caller would not expect of equal widths and exact values, in a sentence.
+    std::string also{};
+    // The largest error of the full form found in the rounding modes that are not to nearest (directed_test).
+    double directed = 0;
 
     bool has(Variant v) const {
         return v == Variant::full || (variants & (v == Variant::native ? native : half)) != 0;
+    }
+    bool exceeds(int width) const {
+        return std::find(exceeds_bound.begin(), exceeds_bound.end(), width) != exceeds_bound.end();
     }
     const Worst& worst(Variant v, int width) const {
         if (v == Variant::half && half_worst.ulp != 0) return half_worst;

@@ -1,8 +1,12 @@
-// Writes what follows from the table of families: the public header, the version script, the page of
-// measured errors, the calls of the C callers' test.
+// Writes what follows from the table of families: the public header, the version script, the pages of measured
+// errors and of exceptions, the calls of the C callers' test; and a source file with its worst errors renewed.
 //   tarn-exports header|map|names|accuracy|calls > FILE
+//   tarn-exports contract docs/contract.md > FILE
+//   tarn-exports comments SOURCE > FILE
+#include <bit>
 #include <cstdio>
 #include <cstring>
+#include <fstream>
 #include <set>
 #include <string>
 
@@ -69,11 +73,77 @@ std::string ulps(double u) {
     return text;
 }
 
+// "a", "a and b", "a, b and c".
+std::string listed(const std::vector<std::string>& words) {
+    std::string text;
+    for (std::size_t i = 0; i < words.size(); i++) text += (i == 0 ? "" : i + 1 == words.size() ? " and " : ", ") + words[i];
+    return text;
+}
+
+std::string listed(const std::vector<int>& numbers) {
+    std::vector<std::string> words;
+    for (const int n : numbers) words.push_back(std::to_string(n));
+    return listed(words);
+}
+
+std::string forms(const std::vector<Variant>& variants) {
+    std::vector<std::string> words;
+    for (const Variant v : variants) words.push_back(v == Variant::full ? "full" : suffix(v) + 1);
+    return listed(words);
+}
+
+std::string magnitude(double limit) {
+    char text[32];
+    std::snprintf(text, sizeof text, "%.0f", limit);
+    return text;
+}
+
+// Where a result depends on more than its own lane, or surprises: a sentence each, of the header and the contract.
+std::vector<std::string> exceptions(const Family& f) {
+    std::vector<std::string> all;
+    if (!f.width_full.empty()) {
+        std::vector<int> own;
+        for (const auto& [width, worst] : f.width_full) own.push_back(width);
+        all.push_back((own.size() > 1 ? "Widths " : "Width ") + listed(own) + (own.size() > 1 ? " have kernels" : " has a kernel") +
+                      " of " + (own.size() > 1 ? "their" : "its") + " own (full).");
+    }
+    if (f.switches_above != 0)
+        all.push_back("One lane beyond |x| = " + magnitude(f.switches_above) + " sends the whole call down another path.");
+    if (f.shares_blocks) all.push_back("A special lane makes its 16-byte block more exact (full).");
+    if (!f.estimates.empty())
+        all.push_back("Last bits may differ between processor makers (" + forms(f.estimates) + ").");
+    if (!f.native_domain.empty()) {
+        static const char* const names[] = {"x", "y"};
+        std::vector<std::string> parts;
+        for (std::size_t a = 0; a < f.native_domain.size(); a++) {
+            char text[64];
+            std::snprintf(text, sizeof text, "%s from %g to %g", names[a], f.native_domain[a].low, f.native_domain[a].high);
+            parts.push_back(text);
+        }
+        all.push_back("Native keeps its error for " + listed(parts) + ".");
+    }
+    if (!f.also.empty()) all.push_back(f.also);
+    return all;
+}
+
+// An argument for people: a pattern as the number it is.
+std::string number(Lane type, std::uint64_t pattern) {
+    char text[32];
+    if (type == Lane::f32) std::snprintf(text, sizeof text, "%.9g", static_cast<double>(std::bit_cast<float>(static_cast<std::uint32_t>(pattern))));
+    else if (type == Lane::f64) std::snprintf(text, sizeof text, "%.17g", std::bit_cast<double>(pattern));
+    else std::snprintf(text, sizeof text, "%d", static_cast<std::int32_t>(pattern));
+    return text;
+}
+
 std::string error_line(const Family& f) {
-    if (f.full.ulp == 0) return f.allowed == 0 ? "Exact, or rounded once." : "";
+    if (f.full.ulp == 0) return f.allowed == 0 && f.formula.find("twice") == std::string::npos ? "Exact, or rounded once." : "";
     std::string text = "Worst error " + ulps(f.full.ulp) + " ulp";
     for (const auto& [width, own] : f.width_full) text += ", width " + std::to_string(width) + " " + ulps(own.ulp);
-    if (f.allowed > 0) text += " (OpenCL allows " + ulps(f.allowed) + ")";
+    if (f.allowed > 0) {
+        text += " (OpenCL allows " + ulps(f.allowed);
+        if (!f.exceeds_bound.empty()) text += ", which width " + listed(f.exceeds_bound) + " exceeds";
+        text += ')';
+    }
     if (f.native_worst.ulp != 0) text += f.half_worst.ulp != 0 ? "; native " : f.has(Variant::half) ? "; native and half " : "; native ";
     if (f.native_worst.ulp != 0) text += ulps(f.native_worst.ulp);
     if (f.half_worst.ulp != 0) text += ", half " + ulps(f.half_worst.ulp);
@@ -106,7 +176,15 @@ void header() {
  *
  * A base that ends in f is single precision (but erf and modf are double). Without a suffix a function keeps
  * the OpenCL error bound; _native is fast and only as accurate as its comment says; _half lies between.
- * Functions hold no state, change no control register and may be called from any thread.
+ * Functions hold no state, change no control register and may be called from any thread and signal handler.
+ *
+ * A lane has the same bits at every width and beside any neighbours, but where a function's comment says
+ * otherwise. Errors and special values hold while the processor rounds to nearest and subnormals are on. In
+ * other rounding modes errors grow, some to percents (docs/contract.md has the figures); with FTZ subnormal
+ * results are zeros, with DAZ subnormal arguments are (logf(1e-40) is -inf). Conversions to floating point named rte
+ * round as the processor does. Overflow, underflow, invalid and division by zero are raised where they occur;
+ * others may be raised besides. Functions are declared const, so that a compiler may merge, move and drop their
+ * calls: define TARN_FENV_ACCESS before the header if you change the rounding mode or look at flags.
  *
  * Vectors travel as in the System V ABI: up to 16 bytes in one register, longer ones as a struct of 16-byte
  * blocks, lane 0 first. Width 3 is stored as width 4: what its lane 3 holds is ignored, and undefined in
@@ -125,7 +203,11 @@ void header() {
 #error "this library is for x86-64, and its vector types are those of GCC and Clang"
 #endif
 
+#ifdef TARN_FENV_ACCESS
+#define TARN_CONST /* calls stay where they are between changes of the floating-point environment */
+#else
 #define TARN_CONST __attribute__((const)) /* the result depends on nothing but the arguments */
+#endif
 
 #ifdef __cplusplus
 extern "C" {
@@ -168,7 +250,9 @@ extern "C" {
         if (!f.domain.empty()) text += " Domain: " + f.domain + ".";
         if (!f.special.empty()) text += " Special values: " + f.special;
         const std::string error = error_line(f);
-        comment(error.empty() ? text : text + ' ' + error, 108);
+        if (!error.empty()) text += ' ' + error;
+        for (const auto& sentence : exceptions(f)) text += ' ' + sentence;
+        comment(text, 108);
         for (const Variant v : all_variants)
             if (f.has(v))
                 for (const int width : widths) std::puts(declaration(f, width, v).c_str());
@@ -253,7 +337,7 @@ compared with MPFR or with a double-precision value first and MPFR where that co
 are the worst of the samples named and of every threshold of the kernels. The tests hold every figure here
 as a limit. Families that are not here give exact or correctly rounded results.
 
-`half` is `native` where it has no line of its own. Written by `tarn-exports accuracy` from the table of
+A bound in brackets is exceeded: those kernels keep their bits. `half` is `native` where it has no line of its own. Written by `tarn-exports accuracy` from the table of
 families.
 )");
     std::string group;
@@ -271,10 +355,85 @@ families.
                             ulps(worst.ulp).c_str(), places(worst, f.shape).c_str(), f.measured.c_str());
         };
         line("full", allowed, f.full);
-        for (const auto& [width, worst] : f.width_full) line("full, width " + std::to_string(width), allowed, worst);
+        for (const auto& [width, worst] : f.width_full)
+            line("full, width " + std::to_string(width), f.exceeds(width) ? '(' + allowed + ')' : allowed, worst);
         line("native", "open", f.native_worst);
         line("half", "8192", f.half_worst);
     }
+}
+
+// One table of every exception, in the place of what the page holds between its two marks.
+constexpr const char* mark_begin = "<!-- generated: exceptions -->";
+constexpr const char* mark_end = "<!-- end -->";
+
+std::string exceptions_table() {
+    std::string text = "\n| function | what differs |\n|---|---|\n";
+    for (const Family& f : families()) {
+        std::string cell;
+        for (const auto& sentence : exceptions(f)) cell += (cell.empty() ? "" : " ") + sentence;
+        for (std::size_t i = 0; (i = cell.find('|', i)) != std::string::npos; i += 2) cell.insert(i, 1, '\\');
+        if (!cell.empty()) text += "| `" + f.base + "` | " + cell + " |\n";
+    }
+    text += "\nBeyond what OpenCL allows, on purpose, since their order of operations is part of their bits:";
+    const char* separator = " ";
+    for (const Family& f : families())
+        for (const int width : f.exceeds_bound) {
+            text += separator + ("`" + f.base + "` width " + std::to_string(width)) + " (" + ulps(f.worst(Variant::full, width).ulp) +
+                    " ulp of " + ulps(f.allowed) + ")";
+            separator = ", ";
+        }
+    text += ".\n\nThe largest error of a full form that 5000 arguments from its usual interval gave in each of the three\n"
+            "other rounding modes, in ulp:\n\n| function | largest found |\n|---|---|\n";
+    for (const Family& f : families())
+        if (f.directed != 0) text += "| `" + f.base + "` | " + ulps(f.directed) + " |\n";
+    return text + '\n';
+}
+
+std::string worst_in_words(const Family& f) {
+    std::string text = ulps(f.full.ulp) + " ulp";
+    if (!f.full.at.empty()) {
+        std::string at;
+        for (std::size_t a = 0; a < f.full.at.size(); a++) at += (a ? ", " : "") + number(f.shape.args[a], f.full.at[a]);
+        text += " at " + (f.full.at.size() > 1 ? '(' + at + ')' : at);
+    }
+    for (const auto& [width, own] : f.width_full) text += ", width " + std::to_string(width) + ' ' + ulps(own.ulp);
+    if (f.native_worst.ulp != 0) text += std::string("; native ") + (f.has(Variant::half) && f.half_worst.ulp == 0 ? "and half " : "") + ulps(f.native_worst.ulp);
+    if (f.half_worst.ulp != 0) text += ", half " + ulps(f.half_worst.ulp);
+    return text + '.';
+}
+
+// A line that begins "// Worst error of NAME: " says what the row of that family says.
+int comments(const char* file) {
+    std::ifstream in(file);
+    if (!in) return std::fprintf(stderr, "tarn-exports: cannot read %s\n", file), 2;
+    const std::string begin = "// Worst error of ";
+    for (std::string line; std::getline(in, line);) {
+        if (line.starts_with(begin)) {
+            const std::string base = line.substr(begin.size(), line.find(':') - begin.size());
+            const Family* f = find_family(base);
+            if (!f || f->full.ulp == 0)
+                return std::fprintf(stderr, "tarn-exports: %s: no family %s has a worst error\n", file, base.c_str()), 2;
+            line = begin + base + ": " + worst_in_words(*f);
+        }
+        std::puts(line.c_str());
+    }
+    return 0;
+}
+
+int contract(const char* file) {
+    std::ifstream in(file);
+    if (!in) return std::fprintf(stderr, "tarn-exports: cannot read %s\n", file), 2;
+    bool inside = false, seen = false;
+    for (std::string line; std::getline(in, line);) {
+        if (line == mark_end) inside = false;
+        if (!inside) std::puts(line.c_str());
+        if (line == mark_begin) {
+            inside = seen = true;
+            std::fputs(exceptions_table().c_str(), stdout);
+        }
+    }
+    if (!seen || inside) return std::fprintf(stderr, "tarn-exports: %s lacks its marks\n", file), 2;
+    return 0;
 }
 
 }  // namespace
@@ -284,12 +443,14 @@ int main(int argc, char** argv) {
     else if (argc == 2 && !std::strcmp(argv[1], "names")) names("", "");
     else if (argc == 2 && !std::strcmp(argv[1], "accuracy")) accuracy();
     else if (argc == 2 && !std::strcmp(argv[1], "calls")) calls();
+    else if (argc == 3 && !std::strcmp(argv[1], "comments")) return comments(argv[2]);
+    else if (argc == 3 && !std::strcmp(argv[1], "contract")) return contract(argv[2]);
     else if (argc == 2 && !std::strcmp(argv[1], "map")) {
         std::puts("/* Generated from the table of families by tarn-exports. */\n{\nglobal:");
         names("    ", ";");
         std::puts("local:\n    *;\n};");
     } else {
-        std::fputs("usage: tarn-exports header|map|names|accuracy|calls\n", stderr);
+        std::fputs("usage: tarn-exports header|map|names|accuracy|calls, or comments|contract FILE\n", stderr);
         return 2;
     }
 }

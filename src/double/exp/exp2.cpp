@@ -3,7 +3,8 @@
 // remainder in 128ths of the exponent and spend a quadratic on both. Width 2 of exp2 finishes its special
 // lanes in line.
 //
-// Worst error 1.64 ulp at 0.9797 (exp2) and 1.00 (exp10); native 3.0e7 (6.6e-9 relative).
+// Worst error of exp2: 1.636 ulp at 0.97973500790684498; native 2.976e+07.
+// Worst error of exp10: 1 ulp at 0.4854378366414096; native 2.974e+07.
 #include "callout/callouts.hpp"
 #include "double/exp/parts.hpp"
 #include "frame/exports.hpp"

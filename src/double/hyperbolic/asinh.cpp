@@ -2,8 +2,8 @@
 // the sum each as a number and what its rounding left, and the logarithm of such a sum (inverse.hpp). asinh x is x
 // below 2^-28. The native forms keep what the last sum left and nothing else; their logarithm is that of the powers.
 //
-// Worst error in 6 million random inputs: 0.505 ulp where the functions are small; native 6.7e7 ulp (7.5e-9) at
-// 1.49e-8 (asinh), 65585 at 1.00000003 (acosh).
+// Worst error of asinh: 0.5042 ulp at 0.0016152850855148824; native 6.711e+07.
+// Worst error of acosh: 0.5044 ulp at 1.000001878202551; native 6.558e+04.
 #include "callout/callouts.hpp"
 #include "double/hyperbolic/inverse.hpp"
 #include "frame/exports.hpp"

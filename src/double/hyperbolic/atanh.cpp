@@ -2,7 +2,7 @@
 // is left of it next to that row is a quotient of exact differences, a head and a tail (inverse.hpp). atanh x is x below
 // 2^-28. The native form takes the logarithm of the powers of 1 + 2a/(1 - a), keeping what the sum left.
 //
-// Worst error in 6 million random inputs: 0.504 ulp at 0.00097; native 65585 ulp at 0.00012.
+// Worst error of atanh: 0.5043 ulp at 0.00097190646137253927; native 6.559e+04.
 #include "callout/callouts.hpp"
 #include "double/hyperbolic/inverse.hpp"
 #include "frame/exports.hpp"

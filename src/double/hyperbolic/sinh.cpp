@@ -4,8 +4,8 @@
 // itself, so that nothing is lost where u is small; cosh u needs only powers, read at N and -N. The native
 // forms have ln 2 in one piece and a term less in each polynomial.
 //
-// Worst error in 9 million random inputs: sinh 2.09 ulp at 0.0035, cosh 1.14 ulp at 1.24; native 25166 and
-// 1545 ulp.
+// Worst error of sinh: 2.091 ulp at 0.0035005794279415192; native 2.517e+04.
+// Worst error of cosh: 1.138 ulp at 1.2387324920711453; native 1545.
 #include "callout/callouts.hpp"
 #include "double/exp/parts.hpp"
 #include "frame/exports.hpp"

@@ -3,7 +3,7 @@
 // above. No division. The row is the number of the part, from the upper word. The native form leaves out the
 // tail and five terms.
 //
-// Worst error in 9 million random inputs: 0.58 ulp at 0.50007; native 1.2e7 ulp (1.3e-9) next to 1/8.
+// Worst error of tanh: 0.5823 ulp at 0.50006803095421182; native 1.167e+07.
 #include "callout/callouts.hpp"
 #include "double/hyperbolic/tanh.hpp"
 #include "frame/exports.hpp"

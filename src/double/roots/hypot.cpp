@@ -1,7 +1,7 @@
 // (x^2 + y^2)^(1/2): the processor's square root of the rounded sum where neither square can have lost accuracy to
 // the ends of the range. The native form is the same without special lanes.
 //
-// Worst error 1.17 ulp at (1.4326, 0.32167).
+// Worst error of hypot: 1.174 ulp at (1.4326300075885885, 0.32167035933142119); native 1.174.
 #include "callout/callouts.hpp"
 #include "frame/exports.hpp"
 

@@ -1,7 +1,7 @@
 // x^(-1/2) as the reciprocal of the square root, corrected by what both roundings left (corrected_rsqrt.hpp). The
 // native form has no correction and no special lanes.
 //
-// Worst error 0.500 ulp; native 1.50 at 1.00207 times a power of four.
+// Worst error of rsqrt: 0.5 ulp at 5.6564302477225688e+100; native 1.496.
 #include "callout/callouts.hpp"
 #include "double/roots/corrected_rsqrt.hpp"
 #include "frame/exports.hpp"

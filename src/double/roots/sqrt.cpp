@@ -1,6 +1,8 @@
 // x^(1/2) by the processor's square root, which has no special lanes; the native form is the same.
 //
 // Correctly rounded.
+//
+// Worst error of sqrt: 0.5 ulp at 2.5155183177451399e-281; native 0.5.
 #include "frame/exports.hpp"
 
 namespace tarn {

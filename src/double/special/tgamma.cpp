@@ -1,6 +1,8 @@
 // gamma(x), ln |gamma(x)|, and the latter with the sign of gamma(x): the callouts compute every lane.
 //
-// Worst errors: gamma 0.53 ulp, ln gamma 0.54 for positive and 0.69 for negative x.
+// Worst error of tgamma: 0.5282 ulp at 8.5600958282042008.
+// Worst error of lgamma: 0.6883 ulp at -2.7393010955117831.
+// Worst error of lgammar: 0.6883 ulp at -2.7393010955117831.
 #include "callout/callouts.hpp"
 #include "frame/exports.hpp"
 

@@ -1,8 +1,8 @@
 // arctan x and arctan(x)/pi, of min(|x|, 1) / max(|x|, 1), measured from the quarter turn above 1, by nodes
 // (arctangent_nodes.hpp); radians at width 2 and the native forms by a polynomial (arctangent.hpp). No lane is special.
 //
-// Worst errors in 5 million random inputs, next to 1/64: atan 1.85 ulp, atanpi 1.86; width 2 of atan 4.51 next to 1;
-// native 2.4e7 ulp.
+// Worst error of atan: 1.852 ulp at 0.015625819646519247, width 2 4.508; native 2.3e+07.
+// Worst error of atanpi: 1.862 ulp at 0.017511270592070294; native 2.318e+07.
 #include "double/trig/arctangent.hpp"
 #include "double/trig/arctangent_nodes.hpp"
 #include "frame/exports.hpp"

@@ -2,8 +2,8 @@
 // quotient, in its octant, by nodes (arctangent_nodes.hpp); full radians at width 2 by a polynomial (arctangent.hpp).
 // Lanes with a zero, infinite or NaN coordinate are the callout's.
 //
-// Worst errors in 3.5 million random pairs, at angles next to 1/64: atan2 1.99 ulp, atan2pi 2.31; width 2 of atan2 4.90
-// near the diagonals; native 2.6e7 ulp.
+// Worst error of atan2: 1.986 ulp at (0.028248636617393231, 1.6707956756122533), width 2 4.899; native 2.013e+07.
+// Worst error of atan2pi: 2.313 ulp at (0.041669877435173232, 2.5049733171957049); native 2.542e+07.
 #include "callout/callouts.hpp"
 #include "double/trig/arctangent.hpp"
 #include "double/trig/arctangent_nodes.hpp"

@@ -4,7 +4,7 @@
 // One lane above 2^24 sends the whole call through the exact reduction in turns and the angle table;
 // infinities are then the callout's. A NaN goes through the arithmetic.
 //
-// Worst error 3.74 ulp at 8100232.48; native 5.5e7.
+// Worst error of sin: 3.744 ulp at 8100232.4845012575; native 5.453e+07.
 #include "callout/callouts.hpp"
 #include "double/trig/angle_table.hpp"
 #include "double/trig/sine.hpp"

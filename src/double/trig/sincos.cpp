@@ -3,9 +3,10 @@
 //
 // One lane above 2^23 sends the whole call through the exact reduction in turns and the angle table,
 // where both have the bits of sin and cos; infinities are then the callout's. A NaN goes through the
-// arithmetic. Up to 2^24, where the sine alone still holds, the cosine would lose 380 ulp at 14461176.67.
+// arithmetic. Up to 2^24, where the sine alone still holds, the cosine loses its bound near 14461176.67.
 //
-// Worst error 3.69 ulp at 7570927.53; native 5.5e7.
+// Worst error of sincos: 3.693 ulp at 7570927.5285257427; native 5.453e+07.
+// Worst error of sincosreg: 3.693 ulp at 7570927.5285257427; native 5.453e+07.
 #include "callout/callouts.hpp"
 #include "double/trig/angle_table.hpp"
 #include "double/trig/sine.hpp"

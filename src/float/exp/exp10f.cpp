@@ -2,7 +2,9 @@
 // from a table and r is so small that one linear term, with a small bias for the quadratic, does for
 // 10^r - 1. The native form is that of 2^t with t = x log2 10 rounded.
 //
-// Worst error 2.92 ulp next to 0; native and half 1304 at 37.92. The bias makes exp10(+-0) 1.0000001 on purpose.
+// The bias makes exp10(+-0) 1.0000001 on purpose.
+//
+// Worst error of exp10f: 2.922 ulp at -2.38619773e-08; native and half 1304.
 #include "callout/callouts.hpp"
 #include "frame/exports.hpp"
 

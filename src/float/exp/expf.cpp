@@ -2,8 +2,9 @@
 // a tail, e^r of degree 5, 2^n added to the exponent field. The native form reduces in base 2 without
 // a split and spends degree 3. No table.
 //
-// Worst error 2.93 ulp at -5.8916; native and half 2169 ulp at 79.37. Above |x| = 87.33, where the result may
-// be subnormal or overflow, the callout computes the lane.
+// Above |x| = 87.33, where the result may be subnormal or overflow, the callout computes the lane.
+//
+// Worst error of expf: 2.932 ulp at -5.89163828; native and half 2169.
 #include "callout/callouts.hpp"
 #include "frame/exports.hpp"
 

@@ -2,7 +2,9 @@
 // fraction bits, from which 1 is subtracted exactly, and a tail. e^r - 1 is of degree 3 (native: 2,
 // on 32 rows without tails).
 //
-// Worst error 1.79 ulp; native 228. Beyond |x| = 86.6 the callout gives -1 or e^x.
+// Beyond |x| = 86.6 the callout gives -1 or e^x.
+//
+// Worst error of expm1f: 1.802 ulp at 0.0272449907; native 283.7.
 #include "callout/callouts.hpp"
 #include "frame/exports.hpp"
 

@@ -3,7 +3,8 @@
 // field, sinh x = cosh(n ln 2) S + sinh(n ln 2) C + sinh(n ln 2), and cosh x with the two exchanged.
 // The native forms take both polynomials from one cubic exponential and ln 2 in one piece.
 //
-// Worst error 2.02 ulp at 0.3836 (sinhf) and 1.84 at 8.0082 (coshf); native 1079 and 427.
+// Worst error of sinhf: 2.024 ulp at -0.383589804; native 1079.
+// Worst error of coshf: 1.841 ulp at -8.00820446; native 427.3.
 #include "callout/callouts.hpp"
 #include "frame/exports.hpp"
 

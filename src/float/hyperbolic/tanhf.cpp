@@ -2,8 +2,9 @@
 // 1/32 to 10; one below and the constant 1 above. No division. The row is the number of the part, from
 // the exponent and the top four bits of the mantissa.
 //
-// Worst error 1.03 ulp at 2.1068.
 // A native form would save a term of the cubic at most: native is full.
+//
+// Worst error of tanhf: 1.026 ulp at -2.10680056; native 1.026.
 #include "callout/callouts.hpp"
 #include "frame/exports.hpp"
 

@@ -2,7 +2,7 @@
 // term, log10 2 as a head that makes k * head exact and a tail. Native and half: degree 5 and log10 2
 // in one piece. No table.
 //
-// Worst error 2.63 ulp at 1.33345; native and half 996 at 1.33334.
+// Worst error of log10f: 2.627 ulp at 1.33344579; native and half 995.7.
 #include "callout/callouts.hpp"
 #include "float/log/two_thirds.hpp"
 #include "frame/exports.hpp"

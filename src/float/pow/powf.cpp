@@ -4,8 +4,9 @@
 // 1 + f, the table's common factor and the fitted slope centring the error of the missing square.
 // No division, no long polynomial. The native form is in single precision (native_power.hpp).
 //
-// Worst error 1.10 ulp at (0.9989, 78888): of the logarithm where r is largest, times the largest exponent.
 // Native 4466 at 1.33339 to a large power.
+//
+// Worst error of powf: 1.099 ulp at (0.998902261, 78887.9531); native 4466.
 #include "callout/callouts.hpp"
 #include "float/pow/native_power.hpp"
 #include "frame/exports.hpp"

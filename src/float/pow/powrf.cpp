@@ -1,7 +1,7 @@
 // x^y for x >= 0 in split single precision (split_power.hpp). The native and half forms drop the
 // splitting (native_power.hpp).
 //
-// Worst error 3.01 ulp at (0.99692, -4838.1), most of it of e^r; native and half 4466.
+// Worst error of powrf: 3.001 ulp at (0.996924341, -4838.06299); native and half 4466.
 #include "callout/callouts.hpp"
 #include "float/pow/native_power.hpp"
 #include "float/pow/split_power.hpp"

@@ -1,7 +1,8 @@
 // x^(1/3) and x^(-1/3) for normal x of either sign by the steps of cube_root.hpp, a table pair times a series of
 // degree 4; the native forms keep the series' linear term.
 //
-// Worst errors 0.52 ulp, of cbrtf at 5.9977 and of rcbrtf at 1.12471 times a power of eight; native 356 and 889.
+// Worst error of cbrtf: 0.5118 ulp at 5.99771786; native 355.4.
+// Worst error of rcbrtf: 0.5143 ulp at 1.12471235; native 888.7.
 #include "callout/callouts.hpp"
 #include "float/roots/cube_root.hpp"
 #include "frame/exports.hpp"

@@ -1,8 +1,10 @@
 // x / y and 1 / x by the processor's division. The native and half forms use its estimate of the
 // reciprocal; where that would leave the normal range the callout divides.
 //
-// Worst error 0.50 ulp; native and half 4763 (1 / x) and 5238 (x / y) with the estimate of the processor they
-// were measured on. y = +-2^126 is not special, though the estimate of its reciprocal may be a zero.
+// y = +-2^126 is not special, though the estimate of its reciprocal may be a zero.
+//
+// Worst error of divf: 0.5 ulp at (-9.0168799e+18, -2.82940988e-07); native and half 5238.
+// Worst error of invf: 0.5 ulp at 2.31605587e-38; native and half 4762.
 #include "callout/callouts.hpp"
 #include "frame/exports.hpp"
 

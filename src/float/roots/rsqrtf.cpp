@@ -2,8 +2,7 @@
 // exact, and t = y^2 x - 1: three terms of the binomial series. The native and half forms are the
 // estimate itself.
 //
-// Worst error 0.98 ulp at 1.27314e-38; native and half 2940 with the estimate of the processor they were
-// measured on.
+// Worst error of rsqrtf: 0.9784 ulp at 1.27313543e-38; native and half 2940.
 #include "callout/callouts.hpp"
 #include "frame/exports.hpp"
 

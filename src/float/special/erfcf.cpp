@@ -3,7 +3,7 @@
 // computed far above the subnormals, and the last multiplication is the only rounding into them. For
 // negative x the same sum is turned into 2 - erfc |x| before that.
 //
-// Worst error 1.76 ulp at 8.9296; native 1250.
+// Worst error of erfcf: 1.763 ulp at 8.92956543; native 1250.
 #include "callout/callouts.hpp"
 #include "frame/exports.hpp"
 

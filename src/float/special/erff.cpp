@@ -2,7 +2,7 @@
 // erf(d) + D(d) (h - d h^2 - h^3/3), where D is the derivative; both come from a table. Above 3.93 the
 // last row gives exactly 1. No lane is special.
 //
-// Worst error 1.93 ulp at 0.00344; native 68.5.
+// Worst error of erff: 1.929 ulp at -0.00344431098; native 68.87.
 #include "frame/exports.hpp"
 
 namespace tarn {

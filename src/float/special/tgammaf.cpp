@@ -1,6 +1,8 @@
 // gamma(x), ln |gamma(x)|, and the latter with the sign of gamma(x): the callouts compute every lane.
 //
-// Worst error 0.50 ulp.
+// Worst error of tgammaf: 0.5 ulp at -7.60884523.
+// Worst error of lgammaf: 0.5 ulp at -26.1151505.
+// Worst error of lgammarf: 0.5 ulp at -26.1151505.
 #include "callout/callouts.hpp"
 #include "frame/exports.hpp"
 

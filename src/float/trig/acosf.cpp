@@ -2,7 +2,7 @@
 // a negative x, with the arcsine's polynomial of degree 11 (native: degree 5 and an estimated root).
 // Magnitudes from 1 on are the callout's.
 //
-// Worst error 1.24 ulp at -0.5008808; native 4685 at 0.8788757.
+// Worst error of acosf: 1.238 ulp at -0.500880778; native 4685.
 #include "callout/callouts.hpp"
 #include "float/trig/arcsine.hpp"
 #include "frame/exports.hpp"

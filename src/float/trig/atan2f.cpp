@@ -1,7 +1,7 @@
 // arctan(y/x) in the quadrant of the point (y, x), in radians, with the polynomial of the arctangent.
 // The native form estimates the reciprocal of the larger coordinate and has degree 9 instead of 17.
 //
-// Worst error seen in 2 * 10^8 pairs 3.91 ulp; native 5585.
+// Worst error of atan2f: 3.908 ulp at (-2.39491987, 2.52074885); native 5585.
 #include "float/trig/arctangent.hpp"
 #include "float/trig/quadrants.hpp"
 #include "frame/exports.hpp"

@@ -3,7 +3,7 @@
 // Below 2^-125, where the products would underflow, and from 2^123 on, where the reciprocal would,
 // the callout answers, as for NaN.
 //
-// Worst error 3.61 ulp at 0.9969794; native 1854 at 1.1950682.
+// Worst error of atanpif: 3.607 ulp at 0.996979356; native 1854.
 #include "callout/callouts.hpp"
 #include "float/trig/arctangent.hpp"
 #include "frame/exports.hpp"

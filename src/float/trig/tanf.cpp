@@ -2,10 +2,10 @@
 // tangent of r as a quotient of polynomials, inverted where n is odd; pi/2 in four pieces. The native
 // form has three, and the processor's reciprocal estimate for the division.
 //
-// Worst error 4.56 ulp at 701.33435, on the long path 1.00; native and half 5203 at 441.642.
-//
 // One lane above 8256 sends the whole call through the exact reduction in half turns and the table of
 // the tangent; infinities and NaNs are then the callout's.
+//
+// Worst error of tanf: 4.556 ulp at 701.334351; native and half 5203.
 #include "callout/callouts.hpp"
 #include "float/trig/tangent_quotient.hpp"
 #include "float/trig/tangent_table.hpp"

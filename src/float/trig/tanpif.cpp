@@ -5,7 +5,7 @@
 // The native form takes r = x - n/2 to the nearest half, |r| <= 1/4, and the quotient of polynomials
 // of the tangent with the processor's reciprocal estimate.
 //
-// Worst error 1.91 ulp at 0.4974632; native 5197 at 0.4209858.
+// Worst error of tanpif: 1.908 ulp at 0.497463197; native 5197.
 #include "callout/callouts.hpp"
 #include "float/trig/period.hpp"
 #include "float/trig/tangent_quotient.hpp"
