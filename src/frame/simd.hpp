@@ -102,13 +102,10 @@ enum class Rounding {
 template <Rounding mode> TARN_INLINE f32x4 round(f32x4 x) { return _mm_round_ps(x, static_cast<int>(mode)); }
 template <Rounding mode> TARN_INLINE f64x2 round(f64x2 x) { return _mm_round_pd(x, static_cast<int>(mode)); }
 
-// Roots and the processor's own approximations (relative error 1.5 * 2^-12; the bits differ between
-// processors) ------------------------------------------------------------------------------------
+// Roots (the processor's approximations are in estimates.hpp) --------------------------------------
 
 TARN_INLINE f32x4 sqrt(f32x4 x) { return _mm_sqrt_ps(x); }
 TARN_INLINE f64x2 sqrt(f64x2 x) { return _mm_sqrt_pd(x); }
-TARN_INLINE f32x4 reciprocal_estimate(f32x4 x) { return _mm_rcp_ps(x); }
-TARN_INLINE f32x4 rsqrt_estimate(f32x4 x) { return _mm_rsqrt_ps(x); }
 
 // Between precisions -----------------------------------------------------------------------------
 
@@ -326,3 +323,5 @@ TARN_INLINE std::uint64_t opaque(std::uint64_t v) {
 }
 
 }  // namespace tarn
+
+#include "frame/estimates.hpp"
