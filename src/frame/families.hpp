@@ -59,6 +59,7 @@ struct Family {
     double allowed = 0;
     Worst full{}, native_worst{}, half_worst{};
     std::vector<std::pair<int, Worst>> width_full{};
+    std::vector<int> exceeds_bound{};  // widths whose kernel exceeds what OpenCL allows; their bits stay
     std::string measured{};  // over what
 
     // Where every library at hand is on its fast path, for each argument: benches and dense samples.
