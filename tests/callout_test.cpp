@@ -7,8 +7,7 @@
 #include <functional>
 #include <tuple>
 
-#include "common/truth.hpp"
-#include "samples.hpp"
+#include "expect_ulp.hpp"
 
 namespace tarn::test {
 namespace {
@@ -85,21 +84,10 @@ class Callout : public testing::TestWithParam<Scalar> {};
 TEST_P(Callout, IsCompleteAndRoundedOnce) {
     const Scalar& scalar = GetParam();
     const Family& family = *find_family(scalar.base);
-    const Truth& truth = *truth_of(family);
     const auto args = samples(family, bytes(family.shape.result) == 4 ? 40000 : 10000, 7);
-    std::vector<Real> x(args.size());
-    Real t;
-    int failures = 0;
-    for (std::size_t i = 0; i < args[0].size() && failures < 5; i++) {
-        for (std::size_t a = 0; a < args.size(); a++) x[a] = exact(family.shape.args[a], args[a].pattern(i));
-        truth.first(t.value, x.data());
-        const std::uint64_t result = scalar.call(args, i);
-        const Lane type = family.shape.result;
-        const double error = ulp_error(type, result, t);
-        const bool zero_sign = mpfr_zero_p(t.value) && !mpfr_signbit(t.value) != !std::signbit(value_of(type, result));
-        if (error > scalar.limit || zero_sign)
-            failures++, ADD_FAILURE() << lanes_text(args, i) << " gives " << hex(result) << ", error " << error << " ulp";
-    }
+    Lanes results(family.shape.result, args[0].size());
+    for (std::size_t i = 0; i < results.size(); i++) results.set(i, scalar.call(args, i));
+    expect_ulp(scalar.base, family, args, results, {}, scalar.limit);
 }
 
 INSTANTIATE_TEST_SUITE_P(Module, Callout, testing::ValuesIn(scalars), [](const auto& info) { return std::string(info.param.base); });

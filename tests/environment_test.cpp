@@ -5,8 +5,9 @@
 #include <pmmintrin.h>
 #include <xmmintrin.h>
 
-#include "common/truth.hpp"
-#include "samples.hpp"
+#include <sstream>
+
+#include "expect_ulp.hpp"
 
 namespace tarn::test {
 namespace {
@@ -100,6 +101,113 @@ TEST_P(Environment, NoNaNFromTheMode) {
             if (!normal || std::isnan(was)) continue;
             ASSERT_FALSE(std::isnan(got)) << f.name() << '(' << lanes_text(args, i) << ") in mode " << std::hex << mode;
         }
+    }
+}
+
+bool listed(const char* names, const std::string& base) {
+    std::istringstream list(names);
+    for (std::string name; list >> name;)
+        if (name == base) return true;
+    return false;
+}
+
+// What full forms keep of their accuracy in the other rounding modes, over the usual interval: largest errors found, in
+// ulp, rounded up. Reductions that add and take away a large constant lose the most.
+const struct {
+    const char* families;
+    double limit;
+} directed[] = {
+    {"tgamma tgammaf lgamma lgammaf lgammar lgammarf sqrt div invf inv rsqrt log1p acosh asinh atanh tanh log1pf divf", 1.0001},
+    {"cbrt cbrtf rcbrt rcbrtf log2 sqrtf rsqrtf", 1.1},
+    {"asinhf tanhf exp10 rootn pow powf pown powr acoshf logf hypotf hypot expm1 acos acosf log", 2.5},
+    {"asin log10f atanhf log10 erff expm1f sinh log2f acospi asinf acospif asinpif atanpif", 5},
+    {"atan2pif atanf atan2f asinpi", 7},
+    {"erf cosh erfcf exp10f", 20},
+    {"exp exp2 exp2f atan atan2 atanpi atan2pi sinhf coshf", 400},
+    {"expf powrf rootnf pownf", 2500},
+    {"erfc", 10000},
+    {"sinf cosf sincosf sincosregf tanf sinpif cospif tanpif", 1e8},
+    {"sin cos sincos sincosreg tan sinpi cospi tanpi", 5e12},
+};
+
+TEST_P(Environment, OtherRoundingModesKeepALimit) {
+    const Member& m = GetParam();
+    const Family& family = *m.family;
+    if (m.variant != Variant::full || !truth_of(family)) GTEST_SKIP() << "full forms with rounding errors";
+    double limit = 0;
+    for (const auto& group : directed)
+        if (listed(group.families, family.base)) limit = group.limit;
+    ASSERT_GT(limit, 0) << family.base << " has no limit";
+    std::mt19937_64 random(17);
+    std::vector<Lanes> args;
+    for (std::size_t a = 0; a < family.shape.args.size(); a++) {
+        args.emplace_back(family.shape.args[a], 500);
+        for (std::size_t i = 0; i < args[a].size(); i++) args[a].set(i, random_lane(family, a, true, random));
+    }
+    for (const unsigned mode : {_MM_ROUND_DOWN, _MM_ROUND_UP, _MM_ROUND_TOWARD_ZERO}) {
+        Lanes result, second;
+        const Function f = m.at(16);
+        {
+            const Controls restored;
+            _mm_setcsr((_mm_getcsr() & ~static_cast<unsigned>(_MM_ROUND_MASK)) | mode);
+            f(args, result, &second);
+        }
+        expect_ulp(f.name(), family, args, result, second, limit);
+    }
+}
+
+bool normal_or_not_finite(Lane type, std::uint64_t pattern) {
+    const double v = value_of(type, pattern);
+    return !is_float(type) || v == 0 || !std::isfinite(v) || (type == Lane::f32 ? std::isnormal(static_cast<float>(v)) : std::isnormal(v));
+}
+// Flushing to zero changes nothing where neither an argument nor the result is subnormal, but where a step between is.
+TEST_P(Environment, FlushingLeavesNormalNumbersAlone) {
+    const Member& m = GetParam();
+    const Family& family = *m.family;
+    if (m.variant != Variant::full) GTEST_SKIP() << "full forms";
+    // An intermediate number is subnormal, or the result is subnormal before it is rounded to the least normal one.
+    constexpr const char* between = "sqrtf rsqrtf divf atan2f asinpi atanpi atan2pi ldexpf fmodf remainderf remquof fmod remainder remquo mad madf fma fmaf";
+    if (listed(between, family.base)) GTEST_SKIP() << "subnormal steps";
+    const auto args = samples(family, 2000, 7);
+    const Function f = m.at(4);
+    Lanes usual, flushed, second;
+    f(args, usual, &second);
+    {
+        const Controls restored;
+        _mm_setcsr(_mm_getcsr() | _MM_FLUSH_ZERO_ON | _MM_DENORMALS_ZERO_ON);
+        f(args, flushed, &second);
+    }
+    for (std::size_t i = 0; i < usual.size(); i++) {
+        bool normal = normal_or_not_finite(usual.type(), usual.pattern(i));
+        for (const Lanes& arg : args) normal &= normal_or_not_finite(arg.type(), arg.pattern(i));
+        if (!normal) continue;
+        ASSERT_TRUE(same(usual.type(), flushed.pattern(i), usual.pattern(i)))
+            << f.name() << '(' << lanes_text(args, i) << ") = " << hex(flushed.pattern(i)) << ", not " << hex(usual.pattern(i));
+    }
+}
+
+// With DAZ a subnormal argument is a zero of its sign. A few give the argument itself back, as they do with a zero.
+TEST_P(Environment, SubnormalsAreZerosWithDaz) {
+    const Member& m = GetParam();
+    const Family& family = *m.family;
+    if (m.variant != Variant::full || !truth_of(family) || family.shape.args.size() != 1) GTEST_SKIP() << "full forms of one argument";
+    const bool comes_back = listed("asinh atanh atanhf cbrt cbrtf", family.base);
+    const Lane type = family.shape.args[0];
+    const std::uint64_t sign = type == Lane::f32 ? 0x80000000 : 0x8000000000000000, top = type == Lane::f32 ? 0x7FFFFF : 0xFFFFFFFFFFFFF;
+    Lanes subnormal(type, 16), zero(type, 16), got, wanted, second;
+    for (std::size_t i = 0; i < 16; i++) {
+        const std::uint64_t p[] = {1, top, top / 3, top - 5};
+        subnormal.set(i, p[i % 4] | (i & 4 ? sign : 0)), zero.set(i, i & 4 ? sign : 0);
+    }
+    for (const int width : widths) {
+        const Function f = m.at(width);
+        f({zero}, wanted, &second);
+        if (comes_back) wanted = subnormal;
+        const Controls restored;
+        _mm_setcsr(_mm_getcsr() | _MM_FLUSH_ZERO_ON | _MM_DENORMALS_ZERO_ON);
+        f({subnormal}, got, &second);
+        for (std::size_t i = 0; i < 16; i++)
+            EXPECT_TRUE(same(type, got.pattern(i), wanted.pattern(i))) << f.name() << '(' << hex(subnormal.pattern(i)) << ") = " << hex(got.pattern(i)) << ", not " << hex(wanted.pattern(i));
     }
 }
 

@@ -148,6 +148,40 @@ TEST_P(PathSwitch, AnyLargeLaneSwitchesTheWholeCall) {
     }
 }
 
+// The exact limit does not switch, its neighbour does, whatever lane it is in; a zero or a NaN beside it stays what it
+// is (of the zero's sign nothing is said there), and does not switch by itself.
+TEST_P(PathSwitch, TheNeighbourOfTheLimitSwitchesFromAnyLane) {
+    const Member& m = GetParam();
+    const Family& family = *m.family;
+    if (family.switches_above == 0) GTEST_SKIP() << "one path";
+    if (family.base == "cos") GTEST_SKIP() << "its limit is one of |x + pi/2|";
+    const Lane type = family.shape.args[0];
+    const std::uint64_t limit = pattern_of(type, family.switches_above), sign = type == Lane::f32 ? 0x80000000 : 0x8000000000000000;
+    const std::uint64_t nan = pattern_of(type, __builtin_nan("")), ordinary = pattern_of(type, 1.8125);
+    for (const int width : {2, 3, 4, 8, 16}) {
+        const Function f = m.at(width);
+        const auto lanes_with = [&](std::uint64_t fill, std::uint64_t one, int position) {
+            std::vector<Lanes> args = {Lanes(type, static_cast<std::size_t>(width))};
+            for (int l = 0; l < width; l++) args[0].set(static_cast<std::size_t>(l), l == position ? one : fill);
+            return args;
+        };
+        for (int position = 0; position < width; position++) {
+            const auto other = static_cast<std::size_t>(position == 0 ? 1 : 0), here = static_cast<std::size_t>(position);
+            for (const std::uint64_t s : {std::uint64_t{0}, sign}) {
+                const Results plain(f, lanes_with(ordinary, ordinary, 0));
+                EXPECT_EQ(Results(f, lanes_with(ordinary, limit | s, position)).difference(other, plain, other), "") << f.name() << " beside the limit in lane " << position;
+                const Results alone(f, lanes_with((limit + 1) | s, (limit + 1) | s, 0)), beside(f, lanes_with(ordinary, (limit + 1) | s, position));
+                EXPECT_EQ(beside.difference(here, alone, here), "") << f.name() << ": the neighbour of the limit in lane " << position;
+                const Results zero(f, lanes_with(s, limit + 1, position)), not_a_number(f, lanes_with(nan, limit + 1, position));
+                const Results zeros(f, lanes_with(s, s, 0));
+                if (value_of(type, zeros.first.pattern(0)) == 0) { EXPECT_EQ(value_of(type, zero.first.pattern(other)), 0) << f.name() << " of a zero beside a large lane " << position; }
+                EXPECT_TRUE(std::isnan(value_of(type, not_a_number.first.pattern(other)))) << f.name() << " of a NaN beside a large lane " << position;
+                EXPECT_EQ(not_a_number.difference(here, Results(f, lanes_with(limit + 1, limit + 1, 0)), here), "") << f.name() << " beside a NaN in lane " << position;
+            }
+        }
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(Module, PathSwitch, testing::ValuesIn(members()), [](const auto& info) { return member_name(info); });
 
 }  // namespace

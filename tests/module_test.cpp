@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <map>
@@ -10,23 +9,11 @@
 #include <set>
 #include <sstream>
 
+#include "commands.hpp"
 #include "samples.hpp"
 
 namespace tarn::test {
 namespace {
-
-// The lines that a command prints.
-std::vector<std::string> output(const std::string& command) {
-    std::vector<std::string> lines;
-    FILE* pipe = popen(command.c_str(), "r");
-    std::string line;
-    for (int c; (c = std::fgetc(pipe)) != EOF;) {
-        if (c == '\n') lines.push_back(std::move(line)), line.clear();
-        else line += static_cast<char>(c);
-    }
-    EXPECT_EQ(pclose(pipe), 0) << command;
-    return lines;
-}
 
 const std::string path = '"' + Module::built_path() + '"';
 

@@ -110,6 +110,17 @@ template <class Keep> std::vector<Lanes> where(const std::vector<Lanes>& args, K
     return out;
 }
 
+// Those for which a native form keeps its error.
+inline std::vector<Lanes> in_native_domain(const Family& f, const std::vector<Lanes>& args) {
+    return where(args, [&](std::size_t i) {
+        for (std::size_t a = 0; a < f.native_domain.size(); a++) {
+            const double v = value_of(args[a].type(), args[a].pattern(i));
+            if (!(v >= f.native_domain[a].low && v <= f.native_domain[a].high)) return false;
+        }
+        return true;
+    });
+}
+
 // Inputs sorted by the path a whole call takes with them: one set for most families, two for those
 // that one large lane switches over. A family whose special lanes share a block gives ordinary ones.
 inline std::vector<std::vector<Lanes>> by_path(const Family& f, const std::vector<Lanes>& args) {

@@ -3,9 +3,10 @@
 //
 // A kernel is a template over its vector and says nothing of the vector's size. Its constants are single lanes: an
 // operator takes a lane beside a vector, and so does every function here. The instructions behind the names are in
-// simd128.hpp for vectors of 16 bytes and in simd256.hpp for vectors of 32.
+// simd128.hpp for vectors of 16 bytes and in simd256.hpp for vectors of 32, and in estimates.hpp.
 #pragma once
 
+#include "frame/estimates.hpp"
 #include "frame/simd128.hpp"
 #ifdef __AVX2__
 #include "frame/simd256.hpp"

@@ -22,15 +22,12 @@ TARN_INLINE f32x4 larger(f32x4 x, f32x4 y) { return _mm_max_ps(x, y); }
 TARN_INLINE f64x2 larger(f64x2 x, f64x2 y) { return _mm_max_pd(x, y); }
 TARN_INLINE i32x4 larger(i32x4 x, i32x4 y) { return (i32x4)_mm_max_epi32((__m128i)x, (__m128i)y); }
 
-// Rounding to an integral value, roots, and the processor's own approximations (relative error 1.5 * 2^-12; the
-// bits differ between processors) ------------------------------------------------------------------
+// Rounding to an integral value, and roots ---------------------------------------------------------
 
 template <Rounding mode> TARN_INLINE f32x4 round(f32x4 x) { return _mm_round_ps(x, static_cast<int>(mode)); }
 template <Rounding mode> TARN_INLINE f64x2 round(f64x2 x) { return _mm_round_pd(x, static_cast<int>(mode)); }
 TARN_INLINE f32x4 sqrt(f32x4 x) { return _mm_sqrt_ps(x); }
 TARN_INLINE f64x2 sqrt(f64x2 x) { return _mm_sqrt_pd(x); }
-TARN_INLINE f32x4 reciprocal_estimate(f32x4 x) { return _mm_rcp_ps(x); }
-TARN_INLINE f32x4 rsqrt_estimate(f32x4 x) { return _mm_rsqrt_ps(x); }
 
 // One rounding for a product and a sum, where the processor has it.
 #ifdef __FMA__

@@ -42,14 +42,12 @@ TARN_INLINE f32x8 larger(f32x8 x, f32x8 y) { return _mm256_max_ps(x, y); }
 TARN_INLINE f64x4 larger(f64x4 x, f64x4 y) { return _mm256_max_pd(x, y); }
 TARN_INLINE i32x8 larger(i32x8 x, i32x8 y) { return (i32x8)_mm256_max_epi32((__m256i)x, (__m256i)y); }
 
-// Rounding, roots, approximations ------------------------------------------------------------------
+// Rounding to an integral value, and roots ---------------------------------------------------------
 
 template <Rounding mode> TARN_INLINE f32x8 round(f32x8 x) { return _mm256_round_ps(x, static_cast<int>(mode)); }
 template <Rounding mode> TARN_INLINE f64x4 round(f64x4 x) { return _mm256_round_pd(x, static_cast<int>(mode)); }
 TARN_INLINE f32x8 sqrt(f32x8 x) { return _mm256_sqrt_ps(x); }
 TARN_INLINE f64x4 sqrt(f64x4 x) { return _mm256_sqrt_pd(x); }
-TARN_INLINE f32x8 reciprocal_estimate(f32x8 x) { return _mm256_rcp_ps(x); }
-TARN_INLINE f32x8 rsqrt_estimate(f32x8 x) { return _mm256_rsqrt_ps(x); }
 
 TARN_INLINE f32x8 fused_multiply_add(f32x8 x, f32x8 y, f32x8 z) { return _mm256_fmadd_ps(x, y, z); }
 TARN_INLINE f64x4 fused_multiply_add(f64x4 x, f64x4 y, f64x4 z) { return _mm256_fmadd_pd(x, y, z); }
