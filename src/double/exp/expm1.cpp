@@ -6,7 +6,7 @@
 #include "callout/callouts.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::doubles {
 namespace {
 
 #include "tables/expm1_pairs.inc"
@@ -63,7 +63,7 @@ struct Expm1Native : Kernel<double(double)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::doubles
 
-TARN_EXPORT(unary, expm1, full, tarn::Expm1)
-TARN_EXPORT(unary, expm1, native, tarn::Expm1Native)
+TARN_EXPORT(unary, expm1, full, tarn::doubles::Expm1)
+TARN_EXPORT(unary, expm1, native, tarn::doubles::Expm1Native)

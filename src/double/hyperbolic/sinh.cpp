@@ -7,10 +7,10 @@
 // Worst error of sinh: 2.091 ulp at 0.0035005794279415192; native 2.517e+04.
 // Worst error of cosh: 1.138 ulp at 1.2387324920711453; native 1545.
 #include "callout/callouts.hpp"
-#include "double/exp/parts.hpp"
+#include "steps/double/exp_parts.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::doubles {
 namespace {
 
 #include "tables/cosh_halves.inc"
@@ -116,9 +116,9 @@ struct CoshNative : Kernel<double(double)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::doubles
 
-TARN_EXPORT(unary, sinh, full, tarn::Sinh)
-TARN_EXPORT(unary, sinh, native, tarn::SinhNative)
-TARN_EXPORT(unary, cosh, full, tarn::Cosh)
-TARN_EXPORT(unary, cosh, native, tarn::CoshNative)
+TARN_EXPORT(unary, sinh, full, tarn::doubles::Sinh)
+TARN_EXPORT(unary, sinh, native, tarn::doubles::SinhNative)
+TARN_EXPORT(unary, cosh, full, tarn::doubles::Cosh)
+TARN_EXPORT(unary, cosh, native, tarn::doubles::CoshNative)

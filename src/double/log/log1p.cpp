@@ -4,10 +4,10 @@
 //
 // Worst error of log1p: 0.743 ulp at -0.00097443434538383583; native 2.095e+06.
 #include "callout/callouts.hpp"
-#include "double/log/table_log.hpp"
+#include "steps/double/table_log.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::doubles {
 namespace {
 
 #include "tables/log1p_rows.inc"
@@ -68,7 +68,7 @@ struct Log1pNative : Kernel<double(double)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::doubles
 
-TARN_EXPORT(unary, log1p, full, tarn::Log1p)
-TARN_EXPORT(unary, log1p, native, tarn::Log1pNative)
+TARN_EXPORT(unary, log1p, full, tarn::doubles::Log1p)
+TARN_EXPORT(unary, log1p, native, tarn::doubles::Log1pNative)

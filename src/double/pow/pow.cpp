@@ -8,7 +8,7 @@
 #include "double/pow/native_power.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::doubles {
 namespace {
 
 template <auto special_lane> struct PowerOf : Kernel<double(double, double)> {
@@ -27,9 +27,9 @@ template <auto special_lane> struct PowerNative : Kernel<double(double, double)>
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::doubles
 
-TARN_EXPORT(binary, pow, full, tarn::PowerOf<tarn::callout::pow>)
-TARN_EXPORT(binary, pow, native, tarn::PowerNative<tarn::callout::pow>)
-TARN_EXPORT(binary, powr, full, tarn::PowerOf<tarn::callout::powr>)
-TARN_EXPORT(binary, powr, native, tarn::PowerNative<tarn::callout::powr>)
+TARN_EXPORT(binary, pow, full, tarn::doubles::PowerOf<tarn::callout::pow>)
+TARN_EXPORT(binary, pow, native, tarn::doubles::PowerNative<tarn::callout::pow>)
+TARN_EXPORT(binary, powr, full, tarn::doubles::PowerOf<tarn::callout::powr>)
+TARN_EXPORT(binary, powr, native, tarn::doubles::PowerNative<tarn::callout::powr>)

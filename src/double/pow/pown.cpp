@@ -5,7 +5,7 @@
 #include "double/pow/native_power.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::doubles {
 namespace {
 
 struct Pown : Kernel<double(double, std::int32_t)> {
@@ -23,7 +23,7 @@ struct PownNative : Kernel<double(double, std::int32_t)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::doubles
 
-TARN_EXPORT(binary, pown, full, tarn::Pown)
-TARN_EXPORT(binary, pown, native, tarn::PownNative)
+TARN_EXPORT(binary, pown, full, tarn::doubles::Pown)
+TARN_EXPORT(binary, pown, native, tarn::doubles::PownNative)

@@ -6,7 +6,7 @@
 #include "double/pow/native_power.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::doubles {
 namespace {
 
 struct Rootn : Kernel<double(double, std::int32_t)> {
@@ -24,7 +24,7 @@ struct RootnNative : Kernel<double(double, std::int32_t)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::doubles
 
-TARN_EXPORT(binary, rootn, full, tarn::Rootn)
-TARN_EXPORT(binary, rootn, native, tarn::RootnNative)
+TARN_EXPORT(binary, rootn, full, tarn::doubles::Rootn)
+TARN_EXPORT(binary, rootn, native, tarn::doubles::RootnNative)

@@ -5,7 +5,7 @@
 #include "callout/callouts.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::doubles {
 namespace {
 
 struct Hypot : Kernel<double(double, double)> {
@@ -23,7 +23,7 @@ struct HypotNative : Kernel<double(double, double)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::doubles
 
-TARN_EXPORT(binary, hypot, full, tarn::Hypot)
-TARN_EXPORT(binary, hypot, native, tarn::HypotNative)
+TARN_EXPORT(binary, hypot, full, tarn::doubles::Hypot)
+TARN_EXPORT(binary, hypot, native, tarn::doubles::HypotNative)

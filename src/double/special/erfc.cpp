@@ -6,10 +6,10 @@
 //
 // Worst error of erfc: 1.266 ulp at 25.683585886256463; native 3.968e+06.
 #include "callout/callouts.hpp"
-#include "double/special/erfc.hpp"
+#include "steps/double/erfc.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::doubles {
 namespace {
 
 struct Native {
@@ -36,7 +36,7 @@ using Erfc = Complement<ErfcSeries>;
 using ErfcNative = Complement<Native>;
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::doubles
 
-TARN_EXPORT(unary, erfc, full, tarn::Erfc)
-TARN_EXPORT(unary, erfc, native, tarn::ErfcNative)
+TARN_EXPORT(unary, erfc, full, tarn::doubles::Erfc)
+TARN_EXPORT(unary, erfc, native, tarn::doubles::ErfcNative)

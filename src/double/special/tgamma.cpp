@@ -6,7 +6,7 @@
 #include "callout/callouts.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::doubles {
 namespace {
 
 using Tgamma = EveryLane<double(double), callout::tgamma>;
@@ -14,8 +14,8 @@ using Lgamma = EveryLane<double(double), callout::lgamma>;
 using Lgammar = EveryLane<Both<double, std::int32_t>(double), callout::lgammar>;
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::doubles
 
-TARN_EXPORT(unary, tgamma, full, tarn::Tgamma)
-TARN_EXPORT(unary, lgamma, full, tarn::Lgamma)
-TARN_EXPORT(unary_second, lgammar, full, tarn::Lgammar)
+TARN_EXPORT(unary, tgamma, full, tarn::doubles::Tgamma)
+TARN_EXPORT(unary, lgamma, full, tarn::doubles::Lgamma)
+TARN_EXPORT(unary_second, lgammar, full, tarn::doubles::Lgammar)

@@ -10,7 +10,7 @@
 #include "callout/callouts.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::doubles {
 namespace {
 
 constexpr double half = 0.5, one = 1.0;
@@ -119,13 +119,13 @@ using Acospi = Arccosine<Full, HalfTurns, callout::acospi>;
 using AcospiNative = Arccosine<Native, HalfTurns, callout::acospi>;
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::doubles
 
-TARN_EXPORT(unary, asin, full, tarn::Asin)
-TARN_EXPORT(unary, asin, native, tarn::AsinNative)
-TARN_EXPORT(unary, acos, full, tarn::Acos)
-TARN_EXPORT(unary, acos, native, tarn::AcosNative)
-TARN_EXPORT(unary, asinpi, full, tarn::Asinpi)
-TARN_EXPORT(unary, asinpi, native, tarn::AsinpiNative)
-TARN_EXPORT(unary, acospi, full, tarn::Acospi)
-TARN_EXPORT(unary, acospi, native, tarn::AcospiNative)
+TARN_EXPORT(unary, asin, full, tarn::doubles::Asin)
+TARN_EXPORT(unary, asin, native, tarn::doubles::AsinNative)
+TARN_EXPORT(unary, acos, full, tarn::doubles::Acos)
+TARN_EXPORT(unary, acos, native, tarn::doubles::AcosNative)
+TARN_EXPORT(unary, asinpi, full, tarn::doubles::Asinpi)
+TARN_EXPORT(unary, asinpi, native, tarn::doubles::AsinpiNative)
+TARN_EXPORT(unary, acospi, full, tarn::doubles::Acospi)
+TARN_EXPORT(unary, acospi, native, tarn::doubles::AcospiNative)

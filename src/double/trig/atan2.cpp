@@ -6,10 +6,10 @@
 // Worst error of atan2pi: 2.313 ulp at (0.041669877435173232, 2.5049733171957049); native 2.542e+07.
 #include "callout/callouts.hpp"
 #include "double/trig/arctangent.hpp"
-#include "double/trig/arctangent_nodes.hpp"
+#include "steps/double/arctangent_nodes.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::doubles {
 namespace {
 
 using namespace arctangent;
@@ -20,22 +20,22 @@ template <class Form, callout::BinaryDouble scalar> struct ByNodes : Kernel<doub
         return Flagged{point_by_nodes<Form>(y, x), no_coordinate(y) | no_coordinate(x)};
     }
 };
-struct Atan2OfTwo : Kernel<double(double, double)> {
+struct Atan2AtWidth2 : Kernel<double(double, double)> {
     static constexpr auto callout = callout::atan2;
     template <class V> static TARN_INLINE auto fast(V y, V x) {
         return Flagged{of_point<Radians>(y, x), no_coordinate(y) | no_coordinate(x)};
     }
 };
 
-using Atan2 = ExceptAt<ByNodes<Full<RadiansByNodes>, callout::atan2>, 2, Atan2OfTwo>;
+using Atan2 = ExceptAt<ByNodes<Full<RadiansByNodes>, callout::atan2>, 2, Atan2AtWidth2>;
 using Atan2Native = ByNodes<Native<RadiansByNodes>, callout::atan2>;
 using Atan2pi = ByNodes<Full<HalfTurnsByNodes>, callout::atan2pi>;
 using Atan2piNative = ByNodes<Native<HalfTurnsByNodes>, callout::atan2pi>;
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::doubles
 
-TARN_EXPORT(binary, atan2, full, tarn::Atan2)
-TARN_EXPORT(binary, atan2, native, tarn::Atan2Native)
-TARN_EXPORT(binary, atan2pi, full, tarn::Atan2pi)
-TARN_EXPORT(binary, atan2pi, native, tarn::Atan2piNative)
+TARN_EXPORT(binary, atan2, full, tarn::doubles::Atan2)
+TARN_EXPORT(binary, atan2, native, tarn::doubles::Atan2Native)
+TARN_EXPORT(binary, atan2pi, full, tarn::doubles::Atan2pi)
+TARN_EXPORT(binary, atan2pi, native, tarn::doubles::Atan2piNative)

@@ -9,13 +9,11 @@
 #include "callout/callouts.hpp"
 #include "double/trig/period.hpp"
 #include "double/trig/sine.hpp"
-#include "double/trig/turns.hpp"
+#include "steps/double/turns.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::doubles {
 namespace {
-
-using namespace trig_f64;
 
 template <class Form> struct Cospi : Kernel<double(double)> {
     template <class V> static TARN_INLINE V of_magnitude(V a) {
@@ -40,7 +38,7 @@ template <class Form> struct Cospi : Kernel<double(double)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::doubles
 
-TARN_EXPORT(unary, cospi, full, tarn::Cospi<tarn::trig_f64::Full>)
-TARN_EXPORT(unary, cospi, native, tarn::Cospi<tarn::trig_f64::Native>)
+TARN_EXPORT(unary, cospi, full, tarn::doubles::Cospi<tarn::doubles::Full>)
+TARN_EXPORT(unary, cospi, native, tarn::doubles::Cospi<tarn::doubles::Native>)

@@ -10,13 +10,11 @@
 #include "callout/callouts.hpp"
 #include "double/trig/sine.hpp"
 #include "double/trig/tangent_quotient.hpp"
-#include "double/trig/turns.hpp"
+#include "steps/double/turns.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::doubles {
 namespace {
-
-using namespace trig_f64;
 
 #include "tables/tangent_256ths.inc"
 
@@ -78,7 +76,7 @@ template <class Form> struct Tan : Kernel<double(double)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::doubles
 
-TARN_EXPORT(unary, tan, full, tarn::Tan<tarn::TanFull>)
-TARN_EXPORT(unary, tan, native, tarn::Tan<tarn::TanNative>)
+TARN_EXPORT(unary, tan, full, tarn::doubles::Tan<tarn::doubles::TanFull>)
+TARN_EXPORT(unary, tan, native, tarn::doubles::Tan<tarn::doubles::TanNative>)

@@ -11,13 +11,11 @@
 #include "double/trig/period.hpp"
 #include "double/trig/sine.hpp"
 #include "double/trig/tangent_quotient.hpp"
-#include "double/trig/turns.hpp"
+#include "steps/double/turns.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::doubles {
 namespace {
-
-using namespace trig_f64;
 
 constexpr double half_shifter = f64(0x4328000000000000);  // 3377699720527872.0 = 1.5 * 2^51: rounds to halves
 
@@ -51,7 +49,7 @@ template <class Form> struct Tanpi : Kernel<double(double)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::doubles
 
-TARN_EXPORT(unary, tanpi, full, tarn::Tanpi<tarn::trig_f64::TangentFull>)
-TARN_EXPORT(unary, tanpi, native, tarn::Tanpi<tarn::trig_f64::TangentNative>)
+TARN_EXPORT(unary, tanpi, full, tarn::doubles::Tanpi<tarn::doubles::TangentFull>)
+TARN_EXPORT(unary, tanpi, native, tarn::doubles::Tanpi<tarn::doubles::TangentNative>)

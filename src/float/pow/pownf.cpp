@@ -7,7 +7,7 @@
 #include "float/pow/split_power.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 namespace {
 
 struct Pownf : Kernel<float(float, std::int32_t)> {
@@ -28,7 +28,7 @@ struct PownfNative : Kernel<float(float, std::int32_t)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::singles
 
-TARN_EXPORT(binary, pownf, full, tarn::Pownf)
-TARN_EXPORT(binary, pownf, native, tarn::PownfNative)
+TARN_EXPORT(binary, pownf, full, tarn::singles::Pownf)
+TARN_EXPORT(binary, pownf, native, tarn::singles::PownfNative)

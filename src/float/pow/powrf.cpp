@@ -7,7 +7,7 @@
 #include "float/pow/split_power.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 namespace {
 
 struct Powrf : Kernel<float(float, float)> {
@@ -25,8 +25,8 @@ struct PowrfNative : Kernel<float(float, float)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::singles
 
-TARN_EXPORT(binary, powrf, full, tarn::Powrf)
-TARN_EXPORT(binary, powrf, native, tarn::PowrfNative)
+TARN_EXPORT(binary, powrf, full, tarn::singles::Powrf)
+TARN_EXPORT(binary, powrf, native, tarn::singles::PowrfNative)
 TARN_EXPORT_SAME(powrf, half, native)

@@ -8,7 +8,7 @@
 #include "float/pow/split_power.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 namespace {
 
 struct Rootnf : Kernel<float(float, std::int32_t)> {
@@ -34,7 +34,7 @@ struct RootnfNative : Kernel<float(float, std::int32_t)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::singles
 
-TARN_EXPORT(binary, rootnf, full, tarn::Rootnf)
-TARN_EXPORT(binary, rootnf, native, tarn::RootnfNative)
+TARN_EXPORT(binary, rootnf, full, tarn::singles::Rootnf)
+TARN_EXPORT(binary, rootnf, native, tarn::singles::RootnfNative)

@@ -6,7 +6,7 @@
 #include "float/trig/quadrants.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 namespace {
 
 // A special lane makes every lane of its block the scalar function's, which is more exact than beside ordinary ones.
@@ -25,7 +25,7 @@ struct Atan2f : Atan2<arctangent::Radians> {
 using Atan2fNative = Atan2Native<arctangent::RadiansNative, callout::atan2f>;
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::singles
 
-TARN_EXPORT(binary, atan2f, full, tarn::Atan2f)
-TARN_EXPORT(binary, atan2f, native, tarn::Atan2fNative)
+TARN_EXPORT(binary, atan2f, full, tarn::singles::Atan2f)
+TARN_EXPORT(binary, atan2f, native, tarn::singles::Atan2fNative)

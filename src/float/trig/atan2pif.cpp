@@ -6,7 +6,7 @@
 #include "float/trig/quadrants.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 namespace {
 
 struct Atan2pif : Atan2<arctangent::HalfTurns> {
@@ -15,7 +15,7 @@ struct Atan2pif : Atan2<arctangent::HalfTurns> {
 using Atan2pifNative = Atan2Native<arctangent::HalfTurnsNative, callout::atan2pif>;
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::singles
 
-TARN_EXPORT(binary, atan2pif, full, tarn::Atan2pif)
-TARN_EXPORT(binary, atan2pif, native, tarn::Atan2pifNative)
+TARN_EXPORT(binary, atan2pif, full, tarn::singles::Atan2pif)
+TARN_EXPORT(binary, atan2pif, native, tarn::singles::Atan2pifNative)
