@@ -4,9 +4,9 @@
 //
 // log2 of a power of two is exact. Its width 2 finishes its special lanes in line.
 //
-// Worst error of log: 1.568 ulp at 1.0034297744993586; native 2.095e+06.
-// Worst error of log2: 2.081 ulp at 1.0004894678943164; native 2.426e+06.
-// Worst error of log10: 2.079 ulp at 1.000498267129335; native 2.921e+06.
+// Worst error of log: 1.589 ulp at 1.000488237247924; native 2.095e+06.
+// Worst error of log2: 2.089 ulp at 1.0004882923754586; native 2.426e+06.
+// Worst error of log10: 2.093 ulp at 1.0004917148651571; native 2.921e+06.
 #include "callout/callouts.hpp"
 #include "steps/double/table_log.hpp"
 #include "frame/exports.hpp"

@@ -2,8 +2,8 @@
 // in pair_power.hpp. powr, for x >= 0, differs in its special values only. The native forms keep one number for the
 // logarithm (native_power.hpp).
 //
-// Worst error of pow: 1.615 ulp at (1.0004917508901889, 1343544.1128449207); native 5.248e+07.
-// Worst error of powr: 1.615 ulp at (1.0004917508901889, 1343544.1128449207); native 5.248e+07.
+// Worst error of pow: 1.675 ulp at (1.0004918890852843, -1343314.1202372387); native 5.254e+07.
+// Worst error of powr: 1.684 ulp at (1.0004889728811408, -1345651.9741615832); native 5.281e+07.
 #include "callout/callouts.hpp"
 #include "double/pow/native_power.hpp"
 #include "frame/exports.hpp"

@@ -1,8 +1,8 @@
 // x^(1/3) and x^(-1/3) for normal x of either sign by the steps of cube_root.hpp, a table pair times a polynomial of
 // degree 7 and 8; the native forms have degree 3 and the pair's high part alone.
 //
-// Worst error of cbrt: 0.5157 ulp at 4.3690935981905819; native 4.159e+06.
-// Worst error of rcbrt: 0.5153 ulp at 1.0944202118397901; native 1.817e+07.
+// Worst error of cbrt: 0.5204 ulp at 26113.207999487244; native 4.159e+06.
+// Worst error of rcbrt: 0.5207 ulp at 0.016601178101054648; native 1.818e+07.
 #include "callout/callouts.hpp"
 #include "steps/double/cube_root.hpp"
 #include "frame/exports.hpp"

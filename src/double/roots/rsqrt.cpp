@@ -1,7 +1,7 @@
 // x^(-1/2) as the reciprocal of the square root, corrected by what both roundings left (corrected_rsqrt.hpp). The
 // native form has no correction and no special lanes.
 //
-// Worst error of rsqrt: 0.5 ulp at 5.6564302477225688e+100; native 1.496.
+// Worst error of rsqrt: 0.5 ulp at 5.6564302477225688e+100; native 1.5.
 #include "callout/callouts.hpp"
 #include "steps/double/corrected_rsqrt.hpp"
 #include "frame/exports.hpp"

@@ -1,8 +1,8 @@
 // arctan x and arctan(x)/pi, of min(|x|, 1) / max(|x|, 1), measured from the quarter turn above 1, by nodes
 // (arctangent_nodes.hpp); radians at width 2 and the native forms by a polynomial (arctangent.hpp). No lane is special.
 //
-// Worst error of atan: 1.852 ulp at 0.015625819646519247, width 2 4.508; native 2.3e+07.
-// Worst error of atanpi: 1.862 ulp at 0.017511270592070294; native 2.318e+07.
+// Worst error of atan: 2.2 ulp at -0.0156250240511575, width 2 5.407; native 2.3e+07.
+// Worst error of atanpi: 1.961 ulp at -0.015626278659357961; native 2.318e+07.
 #include "double/trig/arctangent.hpp"
 #include "steps/double/arctangent_nodes.hpp"
 #include "frame/exports.hpp"

@@ -2,8 +2,8 @@
 // quotient, in its octant, by nodes (arctangent_nodes.hpp); full radians at width 2 by a polynomial (arctangent.hpp).
 // Lanes with a zero, infinite or NaN coordinate are the callout's.
 //
-// Worst error of atan2: 1.986 ulp at (0.028248636617393231, 1.6707956756122533), width 2 4.899; native 2.013e+07.
-// Worst error of atan2pi: 2.313 ulp at (0.041669877435173232, 2.5049733171957049); native 2.542e+07.
+// Worst error of atan2: 3.193 ulp at (1.6296662853021393, 104.29493959571643), width 2 5.693; native 2.013e+07.
+// Worst error of atan2pi: 2.6 ulp at (0.21715009709793073, 13.053960418298065); native 2.542e+07.
 #include "callout/callouts.hpp"
 #include "double/trig/arctangent.hpp"
 #include "steps/double/arctangent_nodes.hpp"

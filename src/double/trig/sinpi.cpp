@@ -5,7 +5,7 @@
 // One lane above 2^51 sends the call through the same steps after an exact removal of periods, which
 // gives every lane the same bits; infinities are then the callout's. A NaN goes through the arithmetic.
 //
-// Worst error of sinpi: 3.615 ulp at 0.50684692304359102; native 5.453e+07.
+// Worst error of sinpi: 3.663 ulp at 12.492142935432; native 5.453e+07.
 #include "callout/callouts.hpp"
 #include "double/trig/period.hpp"
 #include "double/trig/sine.hpp"
