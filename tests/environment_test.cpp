@@ -186,12 +186,12 @@ TEST_P(Environment, FlushingLeavesNormalNumbersAlone) {
     }
 }
 
-// With DAZ a subnormal argument is a zero of its sign. A few give the argument itself back, as they do with a zero.
+// With DAZ a subnormal argument is a zero of its sign. A few may give the argument itself back, as they do with a zero.
 TEST_P(Environment, SubnormalsAreZerosWithDaz) {
     const Member& m = GetParam();
     const Family& family = *m.family;
     if (m.variant != Variant::full || !truth_of(family) || family.shape.args.size() != 1) GTEST_SKIP() << "full forms of one argument";
-    const bool comes_back = listed("asinh atanh atanhf cbrt cbrtf", family.base);
+    const bool comes_back = listed("asinh asinhf atanh atanhf cbrt cbrtf", family.base);
     const Lane type = family.shape.args[0];
     const std::uint64_t sign = type == Lane::f32 ? 0x80000000 : 0x8000000000000000, top = type == Lane::f32 ? 0x7FFFFF : 0xFFFFFFFFFFFFF;
     Lanes subnormal(type, 16), zero(type, 16), got, wanted, second;
@@ -202,12 +202,12 @@ TEST_P(Environment, SubnormalsAreZerosWithDaz) {
     for (const int width : widths) {
         const Function f = m.at(width);
         f({zero}, wanted, &second);
-        if (comes_back) wanted = subnormal;
         const Controls restored;
         _mm_setcsr(_mm_getcsr() | _MM_FLUSH_ZERO_ON | _MM_DENORMALS_ZERO_ON);
         f({subnormal}, got, &second);
         for (std::size_t i = 0; i < 16; i++)
-            EXPECT_TRUE(same(type, got.pattern(i), wanted.pattern(i))) << f.name() << '(' << hex(subnormal.pattern(i)) << ") = " << hex(got.pattern(i)) << ", not " << hex(wanted.pattern(i));
+            EXPECT_TRUE(same(type, got.pattern(i), wanted.pattern(i)) || (comes_back && got.pattern(i) == subnormal.pattern(i)))
+                << f.name() << '(' << hex(subnormal.pattern(i)) << ") = " << hex(got.pattern(i)) << ", not " << hex(wanted.pattern(i));
     }
 }
 

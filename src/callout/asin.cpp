@@ -3,9 +3,11 @@
 // error is kept, away from the end of the range. The angle of a point takes the kernels' steps, but for zero and
 // infinite coordinates, whose half turns are known.
 #include "callout/format.hpp"
-#include "double/trig/arctangent_nodes.hpp"
+#include "steps/double/arctangent_nodes.hpp"
 
 namespace tarn::callout {
+
+using namespace doubles;
 namespace {
 
 struct Pair {

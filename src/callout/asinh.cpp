@@ -1,9 +1,11 @@
 // The inverse hyperbolic functions of one lane in double precision: the kernels' own steps between the ends of the
 // range, x itself below 2^-28, and ln x + ln 2 where the square would overflow.
 #include "callout/scalar.hpp"
-#include "double/hyperbolic/inverse.hpp"
+#include "steps/double/inverse_hyperbolic.hpp"
 
 namespace tarn::callout {
+
+using namespace doubles;
 namespace {
 
 using namespace inverse_hyperbolic;

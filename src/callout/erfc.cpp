@@ -1,9 +1,11 @@
 // erfc in double precision: the kernel's own steps up to 27.25, from where on it is far below half the smallest
 // subnormal.
 #include "callout/scalar.hpp"
-#include "double/special/erfc.hpp"
+#include "steps/double/erfc.hpp"
 
 namespace tarn::callout {
+
+using namespace doubles;
 
 int erfc(const double* x, double* result) {
     if (is_nan(*x)) return give(result, *x * *x);

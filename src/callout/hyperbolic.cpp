@@ -2,9 +2,11 @@
 // e^|x| and e^-|x| as sums of two parts, of which the second vanishes above 21.49, and next to 0 the series.
 // The tangent takes the kernel's own steps, which leave nothing to do but NaNs.
 #include "callout/exp_family.hpp"
-#include "double/hyperbolic/tanh.hpp"
+#include "steps/double/tanh.hpp"
 
 namespace tarn::callout {
+
+using namespace doubles;
 namespace {
 
 constexpr double largest = f64(0x408633CE8FB9F87E);    // 710.475860073944: from here on infinite

@@ -1,9 +1,11 @@
 // The double-precision logarithms of special lanes. ln is a complete scalar function; to the other
 // bases a subnormal x is scaled by 2^60 and takes the vector path's own steps.
 #include "callout/log_family.hpp"
-#include "double/log/table_log.hpp"
+#include "steps/double/table_log.hpp"
 
 namespace tarn::callout {
+
+using namespace doubles;
 namespace {
 
 // The value of what is not positive and finite; `of` gives ln(x 2^moved) to its base for what is.

@@ -2,9 +2,11 @@
 // own steps, so that both agree where they meet; subnormal x are scaled to normal ones, and results at the
 // ends of the range take their power of two in two steps.
 #include "callout/power_rules.hpp"
-#include "double/pow/pair_power.hpp"
+#include "steps/double/pair_power.hpp"
 
 namespace tarn::callout {
+
+using namespace doubles;
 namespace {
 
 // log2 of a positive finite number.

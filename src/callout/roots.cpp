@@ -1,10 +1,12 @@
 // Division and roots in double precision. The quotients are the processor's; the others are the kernels' own steps
 // after scaling by a power of two whose root is one.
 #include "callout/scalar.hpp"
-#include "double/roots/corrected_rsqrt.hpp"
-#include "double/roots/cube_root.hpp"
+#include "steps/double/corrected_rsqrt.hpp"
+#include "steps/double/cube_root.hpp"
 
 namespace tarn::callout {
+
+using namespace doubles;
 namespace {
 
 template <class Root> double cube_root_of_normal(double x) { return cube_root_steps<Root>(filled<f64x2>(x))[0]; }
@@ -36,15 +38,15 @@ int rsqrt(const double* x, double* result) {
 int cbrt(const double* x, double* result) {
     if (*x == 0) return give(result, *x);
     if (not_finite(*x)) return give(result, *x + *x);
-    if (is_subnormal_or_zero(*x)) return give(result, cube_root_of_normal<CubeRoot64>(*x * 0x1p54) * 0x1p-18);
-    return give(result, cube_root_of_normal<CubeRoot64>(*x));
+    if (is_subnormal_or_zero(*x)) return give(result, cube_root_of_normal<CubeRoot>(*x * 0x1p54) * 0x1p-18);
+    return give(result, cube_root_of_normal<CubeRoot>(*x));
 }
 
 int rcbrt(const double* x, double* result) {
     if (*x == 0) return give(result, infinity_from(*x), pole);
     if (not_finite(*x)) return give(result, 1.0 / *x);
-    if (is_subnormal_or_zero(*x)) return give(result, cube_root_of_normal<ReciprocalCubeRoot64>(*x * 0x1p54) * 0x1p18);
-    return give(result, cube_root_of_normal<ReciprocalCubeRoot64>(*x));
+    if (is_subnormal_or_zero(*x)) return give(result, cube_root_of_normal<ReciprocalCubeRoot>(*x * 0x1p54) * 0x1p18);
+    return give(result, cube_root_of_normal<ReciprocalCubeRoot>(*x));
 }
 
 int hypot(const double* px, const double* py, double* result) {

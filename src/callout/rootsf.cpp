@@ -1,12 +1,12 @@
 // Division and roots. The quotients are the processor's; the square roots are taken in double precision, where
 // every single is a normal number, and rounded once; a cube root is the kernels' own after scaling.
 #include "callout/scalar.hpp"
-#include "float/roots/cube_root.hpp"
+#include "steps/float/cube_root.hpp"
 
 namespace tarn::callout {
 namespace {
 
-template <class Root> float cube_root_of_normal(float x) { return cube_root_steps<Root>(filled<f32x4>(x), i32x4{})[0]; }
+template <class Root> float cube_root_of_normal(float x) { return singles::cube_root_steps<Root>(filled<f32x4>(x), i32x4{})[0]; }
 
 }  // namespace
 
@@ -34,16 +34,16 @@ int rsqrtf(const float* x, float* result) {
 int cbrtf(const float* x, float* result) {
     if (*x == 0) *result = *x;
     else if (not_finite(*x)) *result = *x + *x;
-    else if (is_subnormal(*x)) *result = cube_root_of_normal<CubeRoot>(*x * 0x1p126f) * 0x1p-42f;
-    else *result = cube_root_of_normal<CubeRoot>(*x);
+    else if (is_subnormal(*x)) *result = cube_root_of_normal<singles::CubeRoot>(*x * 0x1p126f) * 0x1p-42f;
+    else *result = cube_root_of_normal<singles::CubeRoot>(*x);
     return ordinary;
 }
 
 int rcbrtf(const float* x, float* result) {
     if (*x == 0) return give(result, infinity_from(*x), pole);
     if (not_finite(*x)) *result = 1.0f / *x;
-    else if (is_subnormal(*x)) *result = cube_root_of_normal<ReciprocalCubeRoot>(*x * 0x1p126f) * 0x1p42f;
-    else *result = cube_root_of_normal<ReciprocalCubeRoot>(*x);
+    else if (is_subnormal(*x)) *result = cube_root_of_normal<singles::ReciprocalCubeRoot>(*x * 0x1p126f) * 0x1p42f;
+    else *result = cube_root_of_normal<singles::ReciprocalCubeRoot>(*x);
     return ordinary;
 }
 

@@ -2,12 +2,12 @@
 // whose reduction is exact by itself, from the same table. The kernels compute finite lanes themselves
 // and send infinities only.
 #include "callout/scalar.hpp"
-#include "double/trig/angle_table.hpp"
+#include "steps/double/angle_table.hpp"
 
 namespace tarn::callout {
 namespace {
 
-using namespace trig_f64;
+using namespace doubles;
 
 // What every function of an angle is at infinity (not a number, a domain error) and at a NaN.
 int no_angle(double x, double* result) {

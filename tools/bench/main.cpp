@@ -5,6 +5,7 @@
 #include <dlfcn.h>
 #include <emmintrin.h>
 
+#include <algorithm>
 #include <cmath>
 #include <map>
 #include <memory>
@@ -150,30 +151,65 @@ public:
             }
     }
 
-    void print(const std::vector<Entrant>& entrants) {
-        const std::vector<std::string> peers = {"SLEEF u10", "SLEEF u35", "libmvec", "libm"};
+    void print(const std::vector<Entrant>& entrants) const {
         std::printf("nanoseconds an element; ratio: the best peer's time over ours at our best width\n%-22s", "");
         for (const int w : widths) std::printf("%8s", ("w" + std::to_string(w)).c_str());
         for (const auto& p : peers) std::printf("%11s", p.c_str());
         std::printf("%8s\n", "ratio");
-        std::vector<std::string> rows;
-        for (const auto& e : entrants)
-            if (rows.empty() || rows.back() != e.family) rows.push_back(e.family);
-        for (const auto& row : rows) {
-            double best = INFINITY, best_peer = INFINITY;
-            std::printf("%-22s", row.c_str());
-            for (const int w : widths) best = std::min(best, cell(row + '/' + std::to_string(w), 8));
-            for (const auto& p : peers) best_peer = std::min(best_peer, cell(row + '/' + p, 11));
-            std::isfinite(best_peer) ? std::printf("%8.2f\n", best_peer / best) : std::printf("%8s\n", "-");
+        for (const Row& row : rows(entrants)) {
+            std::printf("%-22s", row.name.c_str());
+            for (const double ns : row.ours) cell(ns, 8, 3);
+            for (const double ns : row.theirs) cell(ns, 11, 3);
+            cell(row.ratio(), 8, 2);
+            std::puts("");
         }
     }
 
+    void print_json(const std::vector<Entrant>& entrants) const {
+        const char* comma = "[";
+        for (const Row& row : rows(entrants)) {
+            std::printf("%s{\"row\": \"%s\", \"unit\": \"ns an element\", \"widths\": {", comma, row.name.c_str());
+            for (std::size_t i = 0; i < row.ours.size(); i++)
+                std::printf("%s\"%d\": %.4g", i ? ", " : "", widths[i], row.ours[i]);
+            std::printf("}, \"peers\": {");
+            const char* between = "";
+            for (std::size_t i = 0; i < peers.size(); i++)
+                if (std::isfinite(row.theirs[i])) std::printf("%s\"%s\": %.4g", between, peers[i].c_str(), row.theirs[i]), between = ", ";
+            std::isfinite(row.ratio()) ? std::printf("}, \"ratio\": %.4g}", row.ratio()) : std::printf("}, \"ratio\": null}");
+            comma = ",\n ";
+        }
+        std::puts("]");
+    }
+
 private:
-    double cell(const std::string& key, int space) {
+    inline static const std::vector<std::string> peers = {"SLEEF u10", "SLEEF u35", "libmvec", "libm"};
+
+    // Infinite where there is no such entrant.
+    struct Row {
+        std::string name;
+        std::vector<double> ours, theirs;
+        double ratio() const {
+            return *std::min_element(theirs.begin(), theirs.end()) / *std::min_element(ours.begin(), ours.end());
+        }
+    };
+    std::vector<Row> rows(const std::vector<Entrant>& entrants) const {
+        std::vector<Row> all;
+        for (const auto& e : entrants) {
+            if (!all.empty() && all.back().name == e.family) continue;
+            Row row{e.family, {}, {}};
+            for (const int w : widths) row.ours.push_back(time_of(row.name + '/' + std::to_string(w)));
+            for (const auto& p : peers) row.theirs.push_back(time_of(row.name + '/' + p));
+            all.push_back(row);
+        }
+        return all;
+    }
+    double time_of(const std::string& key) const {
         for (const auto& [name, ns] : least_)
-            if (name.starts_with(key + '/') || name == key) return std::printf("%*.3f", space, ns), ns;
-        std::printf("%*s", space, "-");
+            if (name.starts_with(key + '/') || name == key) return ns;
         return INFINITY;
+    }
+    static void cell(double v, int space, int digits) {
+        std::isfinite(v) ? std::printf("%*.*f", space, digits, v) : std::printf("%*s", space, "-");
     }
     std::map<std::string, double> least_;
 };
@@ -184,11 +220,12 @@ int main(int argc, char** argv) {
     CLI::App app{"Times exports beside the vector math libraries found on the machine.", "tarn-bench"};
     std::vector<std::string> bases;
     int rounds = 25;
-    bool variants = false;
+    bool variants = false, json = false;
     std::string module_path = Module::built_path();
     app.add_option("FAMILY", bases, "families, such as expf (all that the module has, if none is named)");
     app.add_option("--rounds", rounds, "interleaved rounds, of which the least counts")->check(CLI::Range(1, 10000));
     app.add_flag("--variants", variants, "native and half forms too");
+    app.add_flag("--json", json, "the times as JSON");
     app.add_option("--module", module_path, "another module file");
 
     return cli::run(app, argc, argv, [&] {
@@ -225,7 +262,7 @@ int main(int argc, char** argv) {
         benchmark::Initialize(&flag_count, flags);
         Table table;
         benchmark::RunSpecifiedBenchmarks(&table);
-        table.print(entrants);
+        json ? table.print_json(entrants) : table.print(entrants);
         return 0;
     });
 }

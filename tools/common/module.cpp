@@ -127,6 +127,17 @@ void Function::operator()(const std::vector<Lanes>& args, Lanes& result, Lanes* 
     const std::size_t stored = static_cast<std::size_t>(stored_lanes(of_.width));
     const Shape& shape = of_.family->shape;
     const std::size_t calls = (n + width - 1) / width;
+    const std::byte* pointers[3] = {};
+
+    // Whole calls of a width that carries nothing else lie in memory as they are passed.
+    if (stored == width && n % width == 0) {
+        for (std::size_t a = 0; a < args.size(); a++) pointers[a] = args[a].data();
+        result = Lanes(shape.result, n);
+        Lanes own(shape.second, second ? 0 : n);
+        if (second) *second = Lanes(shape.second, n);
+        batch_(address_, pointers, result.data(), (second ? *second : own).data(), calls);
+        return;
+    }
 
     // The vectors as memory holds them: what a width carries beyond its lanes is hostile.
     std::vector<Lanes> packed;
@@ -139,7 +150,6 @@ void Function::operator()(const std::vector<Lanes>& args, Lanes& result, Lanes* 
         packed.push_back(std::move(p));
     }
     Lanes r(shape.result, calls * stored), s(shape.second, calls * stored);
-    const std::byte* pointers[3] = {};
     for (std::size_t a = 0; a < packed.size(); a++) pointers[a] = packed[a].data();
     batch_(address_, pointers, r.data(), s.data(), calls);
 

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "frame/families.hpp"
+#include "families/families.hpp"
 
 namespace tarn {
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "common/real.hpp"
-#include "frame/families.hpp"
+#include "families/families.hpp"
 
 namespace tarn {
 

@@ -46,10 +46,8 @@ int main(int argc, char** argv) {
     app.add_option("NAME", name, "an export, such as expf4 or sinf8_native")->required();
     app.add_option("LANES", lanes, "the lanes of the first argument, then of the next: numbers, nan, inf or bit patterns");
     app.add_option("--module", module_path, "another module file");
-    app.prefix_command(false)->allow_extras(true);  // a negative number is a lane, not an option
 
     return cli::run(app, argc, argv, [&] {
-        for (const std::string& extra : app.remaining()) lanes.push_back(extra);
         const Module module(module_path);
         const Function f = cli::find_function(module, name);
         const Shape& shape = f.family().shape;

@@ -10,7 +10,7 @@
 #include <set>
 #include <string>
 
-#include "frame/families.hpp"
+#include "families/families.hpp"
 
 using namespace tarn;
 

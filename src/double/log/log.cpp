@@ -4,14 +4,14 @@
 //
 // log2 of a power of two is exact. Its width 2 finishes its special lanes in line.
 //
-// Worst error of log: 1.568 ulp at 1.0034297744993586; native 2.095e+06.
-// Worst error of log2: 2.081 ulp at 1.0004894678943164; native 2.426e+06.
-// Worst error of log10: 2.079 ulp at 1.000498267129335; native 2.921e+06.
+// Worst error of log: 1.589 ulp at 1.000488237247924; native 2.095e+06.
+// Worst error of log2: 2.089 ulp at 1.0004882923754586; native 2.426e+06.
+// Worst error of log10: 2.093 ulp at 1.0004917148651571; native 2.921e+06.
 #include "callout/callouts.hpp"
-#include "double/log/table_log.hpp"
+#include "steps/double/table_log.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::doubles {
 namespace {
 
 template <class Base, auto special> struct Log : Kernel<double(double)> {
@@ -30,19 +30,19 @@ using Log2Native = LogNative<Base2, callout::log2>;
 using Log10 = Log<Base10, callout::log10>;
 using Log10Native = LogNative<Base10, callout::log10>;
 
-struct Log2OfTwo : Kernel<double(double)> {
+struct Log2AtWidth2 : Kernel<double(double)> {
     template <class V> static TARN_INLINE auto fast(V x) { return Log2::fast(x); }
     static f64x2 finish(f64x2 x, f64x2 value, unsigned flags) { return finish_lanes(callout::log2, x, value, flags); }
 };
 
-using Log2ByWidth = ExceptAt<Log2, 2, Log2OfTwo>;
+using Log2ByWidth = ExceptAt<Log2, 2, Log2AtWidth2>;
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::doubles
 
-TARN_EXPORT(unary, log, full, tarn::LogE)
-TARN_EXPORT(unary, log, native, tarn::LogENative)
-TARN_EXPORT(unary, log2, full, tarn::Log2ByWidth)
-TARN_EXPORT(unary, log2, native, tarn::Log2Native)
-TARN_EXPORT(unary, log10, full, tarn::Log10)
-TARN_EXPORT(unary, log10, native, tarn::Log10Native)
+TARN_EXPORT(unary, log, full, tarn::doubles::LogE)
+TARN_EXPORT(unary, log, native, tarn::doubles::LogENative)
+TARN_EXPORT(unary, log2, full, tarn::doubles::Log2ByWidth)
+TARN_EXPORT(unary, log2, native, tarn::doubles::Log2Native)
+TARN_EXPORT(unary, log10, full, tarn::doubles::Log10)
+TARN_EXPORT(unary, log10, native, tarn::doubles::Log10Native)

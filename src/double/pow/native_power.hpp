@@ -2,10 +2,10 @@
 // by a row of 128 and a quadratic.
 #pragma once
 
-#include "double/pow/native_log2.hpp"
-#include "double/pow/pair_power.hpp"
+#include "steps/double/native_log2.hpp"
+#include "steps/double/pair_power.hpp"
 
-namespace tarn {
+namespace tarn::doubles {
 
 template <class V> TARN_INLINE Flagged<V, WordsOf<V>> native_power(V x, V z) {
     constexpr double shifter = f64(0x42C8000000000000);  // 52776558133248.0 = 1.5 * 2^45
@@ -17,4 +17,4 @@ template <class V> TARN_INLINE Flagged<V, WordsOf<V>> native_power(V x, V z) {
     return {exp2_sum(T, r, c1 + c2 * r), not_positive_normal(x) | upper_magnitude_above(z, largest_exponent)};
 }
 
-}  // namespace tarn
+}  // namespace tarn::doubles

@@ -1,13 +1,13 @@
 // x^(1/3) and x^(-1/3) for normal x of either sign by the steps of cube_root.hpp, a table pair times a polynomial of
 // degree 7 and 8; the native forms have degree 3 and the pair's high part alone.
 //
-// Worst error of cbrt: 0.5157 ulp at 4.3690935981905819; native 4.159e+06.
-// Worst error of rcbrt: 0.5153 ulp at 1.0944202118397901; native 1.817e+07.
+// Worst error of cbrt: 0.5204 ulp at 26113.207999487244; native 4.159e+06.
+// Worst error of rcbrt: 0.5207 ulp at 0.016601178101054648; native 1.818e+07.
 #include "callout/callouts.hpp"
-#include "double/roots/cube_root.hpp"
+#include "steps/double/cube_root.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::doubles {
 namespace {
 
 template <class Root, auto special_lane, bool native = false> struct CubeRootOf : Kernel<double(double)> {
@@ -18,15 +18,15 @@ template <class Root, auto special_lane, bool native = false> struct CubeRootOf 
     }
 };
 
-using Cbrt = CubeRootOf<CubeRoot64, callout::cbrt>;
-using Rcbrt = CubeRootOf<ReciprocalCubeRoot64, callout::rcbrt>;
-using CbrtNative = CubeRootOf<CubeRoot64, callout::cbrt, true>;
-using RcbrtNative = CubeRootOf<ReciprocalCubeRoot64, callout::rcbrt, true>;
+using Cbrt = CubeRootOf<CubeRoot, callout::cbrt>;
+using Rcbrt = CubeRootOf<ReciprocalCubeRoot, callout::rcbrt>;
+using CbrtNative = CubeRootOf<CubeRoot, callout::cbrt, true>;
+using RcbrtNative = CubeRootOf<ReciprocalCubeRoot, callout::rcbrt, true>;
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::doubles
 
-TARN_EXPORT(unary, cbrt, full, tarn::Cbrt)
-TARN_EXPORT(unary, cbrt, native, tarn::CbrtNative)
-TARN_EXPORT(unary, rcbrt, full, tarn::Rcbrt)
-TARN_EXPORT(unary, rcbrt, native, tarn::RcbrtNative)
+TARN_EXPORT(unary, cbrt, full, tarn::doubles::Cbrt)
+TARN_EXPORT(unary, cbrt, native, tarn::doubles::CbrtNative)
+TARN_EXPORT(unary, rcbrt, full, tarn::doubles::Rcbrt)
+TARN_EXPORT(unary, rcbrt, native, tarn::doubles::RcbrtNative)

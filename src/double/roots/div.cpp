@@ -9,7 +9,7 @@
 #include "callout/callouts.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::doubles {
 namespace {
 
 // Zeros and subnormals, in the upper words.
@@ -36,9 +36,9 @@ struct InvNative : Kernel<double(double)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::doubles
 
-TARN_EXPORT(binary, div, full, tarn::Div)
-TARN_EXPORT(binary, div, native, tarn::DivNative)
-TARN_EXPORT(unary, inv, full, tarn::Inv)
-TARN_EXPORT(unary, inv, native, tarn::InvNative)
+TARN_EXPORT(binary, div, full, tarn::doubles::Div)
+TARN_EXPORT(binary, div, native, tarn::doubles::DivNative)
+TARN_EXPORT(unary, inv, full, tarn::doubles::Inv)
+TARN_EXPORT(unary, inv, native, tarn::doubles::InvNative)

@@ -1,12 +1,12 @@
 // x^(-1/2) as the reciprocal of the square root, corrected by what both roundings left (corrected_rsqrt.hpp). The
 // native form has no correction and no special lanes.
 //
-// Worst error of rsqrt: 0.5 ulp at 5.6564302477225688e+100; native 1.496.
+// Worst error of rsqrt: 0.5 ulp at 5.6564302477225688e+100; native 1.5.
 #include "callout/callouts.hpp"
-#include "double/roots/corrected_rsqrt.hpp"
+#include "steps/double/corrected_rsqrt.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::doubles {
 namespace {
 
 struct Rsqrt : Kernel<double(double)> {
@@ -22,7 +22,7 @@ struct RsqrtNative : Kernel<double(double)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::doubles
 
-TARN_EXPORT(unary, rsqrt, full, tarn::Rsqrt)
-TARN_EXPORT(unary, rsqrt, native, tarn::RsqrtNative)
+TARN_EXPORT(unary, rsqrt, full, tarn::doubles::Rsqrt)
+TARN_EXPORT(unary, rsqrt, native, tarn::doubles::RsqrtNative)

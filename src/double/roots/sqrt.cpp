@@ -5,7 +5,7 @@
 // Worst error of sqrt: 0.5 ulp at 2.5155183177451399e-281; native 0.5.
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::doubles {
 namespace {
 
 struct Sqrt : Kernel<double(double)> {
@@ -13,7 +13,7 @@ struct Sqrt : Kernel<double(double)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::doubles
 
-TARN_EXPORT(unary, sqrt, full, tarn::Sqrt)
+TARN_EXPORT(unary, sqrt, full, tarn::doubles::Sqrt)
 TARN_EXPORT_SAME(sqrt, native, full)

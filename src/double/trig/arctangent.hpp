@@ -4,7 +4,7 @@
 
 #include "frame/simd.hpp"
 
-namespace tarn::arctangent {
+namespace tarn::doubles::arctangent {
 
 constexpr double one = 1.0;
 
@@ -95,4 +95,4 @@ template <class V> TARN_INLINE BitsOf<V> no_coordinate(V v) {
     return (abs(v) <= 0.0) | ~(abs(v) < f64(0x7FF0000000000000));
 }
 
-}  // namespace tarn::arctangent
+}  // namespace tarn::doubles::arctangent

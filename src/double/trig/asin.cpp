@@ -3,14 +3,14 @@
 // of degree 25 (native: 11) serves, in v = |x| or 2 sqrt(w) and z = x^2 or w. Magnitudes from 1 on are the
 // callout's.
 //
-// Worst error of asin: 2.148 ulp at 0.50601014536763145; native 4.571e+07.
-// Worst error of acos: 1.317 ulp at 0.60913419492052467; native 4.363e+07.
-// Worst error of asinpi: 2.934 ulp at 0.5329269447136048; native 5.82e+07.
-// Worst error of acospi: 1.863 ulp at 0.71227031257834938; native 4.125e+07.
+// Worst error of asin: 2.196 ulp at 0.50599914291049652; native 4.571e+07.
+// Worst error of acos: 1.329 ulp at 0.60911405496058302; native 4.363e+07.
+// Worst error of asinpi: 3.033 ulp at 0.53293550154721014; native 5.82e+07.
+// Worst error of acospi: 1.928 ulp at 0.72451396314127747; native 4.125e+07.
 #include "callout/callouts.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::doubles {
 namespace {
 
 constexpr double half = 0.5, one = 1.0;
@@ -119,13 +119,13 @@ using Acospi = Arccosine<Full, HalfTurns, callout::acospi>;
 using AcospiNative = Arccosine<Native, HalfTurns, callout::acospi>;
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::doubles
 
-TARN_EXPORT(unary, asin, full, tarn::Asin)
-TARN_EXPORT(unary, asin, native, tarn::AsinNative)
-TARN_EXPORT(unary, acos, full, tarn::Acos)
-TARN_EXPORT(unary, acos, native, tarn::AcosNative)
-TARN_EXPORT(unary, asinpi, full, tarn::Asinpi)
-TARN_EXPORT(unary, asinpi, native, tarn::AsinpiNative)
-TARN_EXPORT(unary, acospi, full, tarn::Acospi)
-TARN_EXPORT(unary, acospi, native, tarn::AcospiNative)
+TARN_EXPORT(unary, asin, full, tarn::doubles::Asin)
+TARN_EXPORT(unary, asin, native, tarn::doubles::AsinNative)
+TARN_EXPORT(unary, acos, full, tarn::doubles::Acos)
+TARN_EXPORT(unary, acos, native, tarn::doubles::AcosNative)
+TARN_EXPORT(unary, asinpi, full, tarn::doubles::Asinpi)
+TARN_EXPORT(unary, asinpi, native, tarn::doubles::AsinpiNative)
+TARN_EXPORT(unary, acospi, full, tarn::doubles::Acospi)
+TARN_EXPORT(unary, acospi, native, tarn::doubles::AcospiNative)

@@ -1,13 +1,13 @@
 // arctan x and arctan(x)/pi, of min(|x|, 1) / max(|x|, 1), measured from the quarter turn above 1, by nodes
 // (arctangent_nodes.hpp); radians at width 2 and the native forms by a polynomial (arctangent.hpp). No lane is special.
 //
-// Worst error of atan: 1.852 ulp at 0.015625819646519247, width 2 4.508; native 2.3e+07.
-// Worst error of atanpi: 1.862 ulp at 0.017511270592070294; native 2.318e+07.
+// Worst error of atan: 2.2 ulp at -0.0156250240511575, width 2 5.407; native 2.3e+07.
+// Worst error of atanpi: 1.961 ulp at -0.015626278659357961; native 2.318e+07.
 #include "double/trig/arctangent.hpp"
-#include "double/trig/arctangent_nodes.hpp"
+#include "steps/double/arctangent_nodes.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::doubles {
 namespace {
 
 using namespace arctangent;
@@ -25,9 +25,9 @@ using Atanpi = ByNodes<Full<HalfTurnsByNodes>>;
 using AtanpiNative = ByPolynomial<HalfTurnsNative>;
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::doubles
 
-TARN_EXPORT(unary, atan, full, tarn::Atan)
-TARN_EXPORT(unary, atan, native, tarn::AtanNative)
-TARN_EXPORT(unary, atanpi, full, tarn::Atanpi)
-TARN_EXPORT(unary, atanpi, native, tarn::AtanpiNative)
+TARN_EXPORT(unary, atan, full, tarn::doubles::Atan)
+TARN_EXPORT(unary, atan, native, tarn::doubles::AtanNative)
+TARN_EXPORT(unary, atanpi, full, tarn::doubles::Atanpi)
+TARN_EXPORT(unary, atanpi, native, tarn::doubles::AtanpiNative)

@@ -4,7 +4,7 @@
 
 #include "frame/simd.hpp"
 
-namespace tarn::trig_f64 {
+namespace tarn::doubles {
 
 template <class V> TARN_INLINE V without_periods(V x) {
     constexpr double all_periods = f64(0x43A0000000000000);     // 2^59
@@ -13,4 +13,4 @@ template <class V> TARN_INLINE V without_periods(V x) {
     return x - ((x + s) - s);
 }
 
-}  // namespace tarn::trig_f64
+}  // namespace tarn::doubles

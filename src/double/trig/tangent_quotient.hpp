@@ -3,7 +3,7 @@
 
 #include "frame/simd.hpp"
 
-namespace tarn::trig_f64 {
+namespace tarn::doubles {
 
 constexpr double one = 1.0;
 
@@ -42,4 +42,4 @@ template <class Form, class V> TARN_INLINE V tangent_quotient(V r, BitsOf<V> inv
     return select(inverted, q, p) / select(inverted, p, q);
 }
 
-}  // namespace tarn::trig_f64
+}  // namespace tarn::doubles

@@ -8,7 +8,7 @@
 #include "callout/callouts.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 namespace {
 
 #include "tables/exp2f_512ths.inc"
@@ -57,8 +57,8 @@ struct Exp10fNative : Kernel<float(float)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::singles
 
-TARN_EXPORT(unary, exp10f, full, tarn::Exp10f)
-TARN_EXPORT(unary, exp10f, native, tarn::Exp10fNative)
+TARN_EXPORT(unary, exp10f, full, tarn::singles::Exp10f)
+TARN_EXPORT(unary, exp10f, native, tarn::singles::Exp10fNative)
 TARN_EXPORT_SAME(exp10f, half, native)

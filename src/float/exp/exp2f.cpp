@@ -9,7 +9,7 @@
 #include "callout/scalar.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 namespace {
 
 #include "tables/exp2_256ths.inc"
@@ -134,8 +134,8 @@ struct Exp2fScalar : Kernel<float(float)> {
 using Exp2fByWidth = ExceptAt<ExceptAt<Exp2f, 1, Exp2fScalar>, 4, Exp2fTable>;
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::singles
 
-TARN_EXPORT(unary, exp2f, full, tarn::Exp2fByWidth)
-TARN_EXPORT(unary, exp2f, native, tarn::Exp2fNative)
+TARN_EXPORT(unary, exp2f, full, tarn::singles::Exp2fByWidth)
+TARN_EXPORT(unary, exp2f, native, tarn::singles::Exp2fNative)
 TARN_EXPORT_SAME(exp2f, half, native)

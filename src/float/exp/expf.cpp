@@ -8,7 +8,7 @@
 #include "callout/callouts.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 namespace {
 
 constexpr float log2_e = f32(0x3FB8AA3B);           // 1.4426950216293335
@@ -54,8 +54,8 @@ struct ExpfNative : Kernel<float(float)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::singles
 
-TARN_EXPORT(unary, expf, full, tarn::Expf)
-TARN_EXPORT(unary, expf, native, tarn::ExpfNative)
+TARN_EXPORT(unary, expf, full, tarn::singles::Expf)
+TARN_EXPORT(unary, expf, native, tarn::singles::ExpfNative)
 TARN_EXPORT_SAME(expf, half, native)

@@ -8,7 +8,7 @@
 #include "callout/callouts.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 namespace {
 
 #include "tables/expm1f_pairs.inc"
@@ -60,7 +60,7 @@ struct Expm1fNative : Kernel<float(float)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::singles
 
-TARN_EXPORT(unary, expm1f, full, tarn::Expm1f)
-TARN_EXPORT(unary, expm1f, native, tarn::Expm1fNative)
+TARN_EXPORT(unary, expm1f, full, tarn::singles::Expm1f)
+TARN_EXPORT(unary, expm1f, native, tarn::singles::Expm1fNative)

@@ -9,7 +9,7 @@
 #include "callout/callouts.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 namespace {
 
 constexpr float one = 1.0f, two = 2.0f;
@@ -75,9 +75,9 @@ template <class Form> struct Acoshf : Kernel<float(float)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::singles
 
-TARN_EXPORT(unary, asinhf, full, tarn::Asinhf<tarn::Full>)
-TARN_EXPORT(unary, asinhf, native, tarn::Asinhf<tarn::Native>)
-TARN_EXPORT(unary, acoshf, full, tarn::Acoshf<tarn::Full>)
-TARN_EXPORT(unary, acoshf, native, tarn::Acoshf<tarn::Native>)
+TARN_EXPORT(unary, asinhf, full, tarn::singles::Asinhf<tarn::singles::Full>)
+TARN_EXPORT(unary, asinhf, native, tarn::singles::Asinhf<tarn::singles::Native>)
+TARN_EXPORT(unary, acoshf, full, tarn::singles::Acoshf<tarn::singles::Full>)
+TARN_EXPORT(unary, acoshf, native, tarn::singles::Acoshf<tarn::singles::Native>)

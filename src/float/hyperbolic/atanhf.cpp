@@ -9,7 +9,7 @@
 #include "float/log/two_thirds.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 namespace {
 
 constexpr float one = 1.0f, half = 0.5f;
@@ -77,7 +77,7 @@ template <class Form> struct Atanhf : Kernel<float(float)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::singles
 
-TARN_EXPORT(unary, atanhf, full, tarn::Atanhf<tarn::Full>)
-TARN_EXPORT(unary, atanhf, native, tarn::Atanhf<tarn::Native>)
+TARN_EXPORT(unary, atanhf, full, tarn::singles::Atanhf<tarn::singles::Full>)
+TARN_EXPORT(unary, atanhf, native, tarn::singles::Atanhf<tarn::singles::Native>)

@@ -8,7 +8,7 @@
 #include "callout/callouts.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 namespace {
 
 constexpr float log2_e = f32(0x3FB8AA3B);    // 1.4426950216293335
@@ -77,9 +77,9 @@ template <class Form> struct Coshf : Kernel<float(float)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::singles
 
-TARN_EXPORT(unary, sinhf, full, tarn::Sinhf<tarn::FullParts>)
-TARN_EXPORT(unary, sinhf, native, tarn::Sinhf<tarn::NativeParts>)
-TARN_EXPORT(unary, coshf, full, tarn::Coshf<tarn::FullParts>)
-TARN_EXPORT(unary, coshf, native, tarn::Coshf<tarn::NativeParts>)
+TARN_EXPORT(unary, sinhf, full, tarn::singles::Sinhf<tarn::singles::FullParts>)
+TARN_EXPORT(unary, sinhf, native, tarn::singles::Sinhf<tarn::singles::NativeParts>)
+TARN_EXPORT(unary, coshf, full, tarn::singles::Coshf<tarn::singles::FullParts>)
+TARN_EXPORT(unary, coshf, native, tarn::singles::Coshf<tarn::singles::NativeParts>)

@@ -8,7 +8,7 @@
 #include "callout/callouts.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 namespace {
 
 #include "tables/tanhf_cubics.inc"
@@ -47,7 +47,7 @@ template <bool two_halves> struct Tanhf : Kernel<float(float)> {
 using TanhfByWidth = ExceptAt<ExceptAt<Tanhf<true>, 1, Tanhf<false>>, 2, Tanhf<false>>;
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::singles
 
-TARN_EXPORT(unary, tanhf, full, tarn::TanhfByWidth)
+TARN_EXPORT(unary, tanhf, full, tarn::singles::TanhfByWidth)
 TARN_EXPORT_SAME(tanhf, native, full)

@@ -7,7 +7,7 @@
 #include "float/log/two_thirds.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 namespace {
 
 struct Log10f : Kernel<float(float)> {
@@ -51,8 +51,8 @@ struct Log10fNative : Kernel<float(float)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::singles
 
-TARN_EXPORT(unary, log10f, full, tarn::Log10f)
-TARN_EXPORT(unary, log10f, native, tarn::Log10fNative)
+TARN_EXPORT(unary, log10f, full, tarn::singles::Log10f)
+TARN_EXPORT(unary, log10f, native, tarn::singles::Log10fNative)
 TARN_EXPORT_SAME(log10f, half, native)

@@ -8,7 +8,7 @@
 #include "float/log/two_thirds.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 namespace {
 
 #include "tables/log1pf_pairs.inc"
@@ -76,7 +76,7 @@ struct Log1pfNative : Kernel<float(float)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::singles
 
-TARN_EXPORT(unary, log1pf, full, tarn::Log1pf)
-TARN_EXPORT(unary, log1pf, native, tarn::Log1pfNative)
+TARN_EXPORT(unary, log1pf, full, tarn::singles::Log1pf)
+TARN_EXPORT(unary, log1pf, native, tarn::singles::Log1pfNative)

@@ -6,7 +6,7 @@
 #include "float/log/two_thirds.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 namespace {
 
 struct Log2f : Kernel<float(float)> {
@@ -46,8 +46,8 @@ struct Log2fNative : Kernel<float(float)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::singles
 
-TARN_EXPORT(unary, log2f, full, tarn::Log2f)
-TARN_EXPORT(unary, log2f, native, tarn::Log2fNative)
+TARN_EXPORT(unary, log2f, full, tarn::singles::Log2f)
+TARN_EXPORT(unary, log2f, native, tarn::singles::Log2fNative)
 TARN_EXPORT_SAME(log2f, half, native)

@@ -9,7 +9,7 @@
 #include "float/log/two_thirds.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 namespace {
 
 constexpr float ln2_head = factor_of_exponent(0x3F317200);  // 0.693145751953125
@@ -67,8 +67,8 @@ struct LogfNative : Kernel<float(float)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::singles
 
-TARN_EXPORT(unary, logf, full, tarn::Logf)
-TARN_EXPORT(unary, logf, native, tarn::LogfNative)
-TARN_EXPORT(unary, logf, half, tarn::LogfHalf)
+TARN_EXPORT(unary, logf, full, tarn::singles::Logf)
+TARN_EXPORT(unary, logf, native, tarn::singles::LogfNative)
+TARN_EXPORT(unary, logf, half, tarn::singles::LogfHalf)

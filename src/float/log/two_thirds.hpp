@@ -4,7 +4,7 @@
 
 #include "frame/simd.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 
 template <class V> struct SplitAtTwoThirds {
     BitsOf<V> exponent;  // k where a float has its exponent: k 2^23
@@ -34,4 +34,4 @@ template <class V> TARN_INLINE V degree_9(V r, const float (&c)[9]) {
     return (sum * r + c[0]) * r;
 }
 
-}  // namespace tarn
+}  // namespace tarn::singles

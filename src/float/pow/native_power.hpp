@@ -5,7 +5,7 @@
 #include "float/log/two_thirds.hpp"
 #include "frame/kernel.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 
 // The cubics 1 + r (c1 + r (c2 + r c3)): one fitted for real exponents, one for integers.
 struct NativeExp {
@@ -46,4 +46,4 @@ template <class Exp, class V> TARN_INLINE Flagged<V, BitsOf<V>> native_power(V x
     return {from_bits(bits(p) + (bits(shifted) << 23)), special};
 }
 
-}  // namespace tarn
+}  // namespace tarn::singles

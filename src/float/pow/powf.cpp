@@ -11,7 +11,7 @@
 #include "float/pow/native_power.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 namespace {
 
 #include "tables/powf_exp2.inc"
@@ -91,7 +91,7 @@ struct PowfNative : Kernel<float(float, float)> {
 using PowfByWidth = ExceptAt<ExceptAt<Powf<true>, 1, Powf<false>>, 2, Powf<false>>;
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::singles
 
-TARN_EXPORT(binary, powf, full, tarn::PowfByWidth)
-TARN_EXPORT(binary, powf, native, tarn::PowfNative)
+TARN_EXPORT(binary, powf, full, tarn::singles::PowfByWidth)
+TARN_EXPORT(binary, powf, native, tarn::singles::PowfNative)

@@ -1,13 +1,13 @@
 // x^n in split single precision (split_power.hpp). An n that no single holds keeps its low bits in the
 // second part of the exponent. The native form rounds n to single precision (native_power.hpp).
 //
-// Worst error of pownf: 4.042 ulp at (1.00267684, -26577); native 5517.
+// Worst error of pownf: 4.078 ulp at (11.3138542, 11); native 5518.
 #include "callout/callouts.hpp"
 #include "float/pow/native_power.hpp"
 #include "float/pow/split_power.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 namespace {
 
 struct Pownf : Kernel<float(float, std::int32_t)> {
@@ -28,7 +28,7 @@ struct PownfNative : Kernel<float(float, std::int32_t)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::singles
 
-TARN_EXPORT(binary, pownf, full, tarn::Pownf)
-TARN_EXPORT(binary, pownf, native, tarn::PownfNative)
+TARN_EXPORT(binary, pownf, full, tarn::singles::Pownf)
+TARN_EXPORT(binary, pownf, native, tarn::singles::PownfNative)

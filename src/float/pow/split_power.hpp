@@ -10,7 +10,7 @@
 #include "frame/double_word.hpp"
 #include "frame/kernel.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 
 #include "tables/powrf_logs.inc"
 
@@ -74,4 +74,4 @@ TARN_INLINE Flagged<V, BitsOf<V>> split_power(V x, const HeadTail<V>& log, V y, 
             not_positive_normal(x) | magnitude_above(z + z_tail, Exp::bound)};
 }
 
-}  // namespace tarn
+}  // namespace tarn::singles

@@ -4,10 +4,10 @@
 // Worst error of cbrtf: 0.5118 ulp at 5.99771786; native 355.4.
 // Worst error of rcbrtf: 0.5143 ulp at 1.12471235; native 888.7.
 #include "callout/callouts.hpp"
-#include "float/roots/cube_root.hpp"
+#include "steps/float/cube_root.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 namespace {
 
 template <class Root, auto special_lane, bool short_series = false> struct CubeRootOf : Kernel<float(float)> {
@@ -25,9 +25,9 @@ using CbrtfNative = CubeRootOf<CubeRoot, callout::cbrtf, true>;
 using RcbrtfNative = CubeRootOf<ReciprocalCubeRoot, callout::rcbrtf, true>;
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::singles
 
-TARN_EXPORT(unary, cbrtf, full, tarn::Cbrtf)
-TARN_EXPORT(unary, cbrtf, native, tarn::CbrtfNative)
-TARN_EXPORT(unary, rcbrtf, full, tarn::Rcbrtf)
-TARN_EXPORT(unary, rcbrtf, native, tarn::RcbrtfNative)
+TARN_EXPORT(unary, cbrtf, full, tarn::singles::Cbrtf)
+TARN_EXPORT(unary, cbrtf, native, tarn::singles::CbrtfNative)
+TARN_EXPORT(unary, rcbrtf, full, tarn::singles::Rcbrtf)
+TARN_EXPORT(unary, rcbrtf, native, tarn::singles::RcbrtfNative)

@@ -8,7 +8,7 @@
 #include "callout/callouts.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 namespace {
 
 // |x| outside [2^-126, 2^-126 + span], in steps of the bit pattern; infinities and NaNs are outside.
@@ -42,11 +42,11 @@ struct InvfNative : Kernel<float(float)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::singles
 
-TARN_EXPORT(binary, divf, full, tarn::Divf)
-TARN_EXPORT(binary, divf, native, tarn::DivfNative)
+TARN_EXPORT(binary, divf, full, tarn::singles::Divf)
+TARN_EXPORT(binary, divf, native, tarn::singles::DivfNative)
 TARN_EXPORT_SAME(divf, half, native)
-TARN_EXPORT(unary, invf, full, tarn::Invf)
-TARN_EXPORT(unary, invf, native, tarn::InvfNative)
+TARN_EXPORT(unary, invf, full, tarn::singles::Invf)
+TARN_EXPORT(unary, invf, native, tarn::singles::InvfNative)
 TARN_EXPORT_SAME(invf, half, native)

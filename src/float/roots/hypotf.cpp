@@ -7,7 +7,7 @@
 #include "float/roots/refined_root.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 namespace {
 
 struct Hypotf : Kernel<float(float, float)> {
@@ -31,7 +31,7 @@ struct HypotfNative : Kernel<float(float, float)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::singles
 
-TARN_EXPORT(binary, hypotf, full, tarn::Hypotf)
-TARN_EXPORT(binary, hypotf, native, tarn::HypotfNative)
+TARN_EXPORT(binary, hypotf, full, tarn::singles::Hypotf)
+TARN_EXPORT(binary, hypotf, native, tarn::singles::HypotfNative)

@@ -5,7 +5,7 @@
 
 #include "frame/simd.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 
 template <class V> TARN_INLINE V refined_root(V x) {
     constexpr float half = 0.5f;
@@ -16,4 +16,4 @@ template <class V> TARN_INLINE V refined_root(V x) {
     return s1 + h1 * (x - s1 * s1);
 }
 
-}  // namespace tarn
+}  // namespace tarn::singles

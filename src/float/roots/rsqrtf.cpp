@@ -6,7 +6,7 @@
 #include "callout/callouts.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 namespace {
 
 struct Rsqrtf : Kernel<float(float)> {
@@ -30,8 +30,8 @@ struct RsqrtfNative : Kernel<float(float)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::singles
 
-TARN_EXPORT(unary, rsqrtf, full, tarn::Rsqrtf)
-TARN_EXPORT(unary, rsqrtf, native, tarn::RsqrtfNative)
+TARN_EXPORT(unary, rsqrtf, full, tarn::singles::Rsqrtf)
+TARN_EXPORT(unary, rsqrtf, native, tarn::singles::RsqrtfNative)
 TARN_EXPORT_SAME(rsqrtf, half, native)

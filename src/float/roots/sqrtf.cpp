@@ -7,7 +7,7 @@
 #include "float/roots/refined_root.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 namespace {
 
 struct Sqrtf : Kernel<float(float)> {
@@ -21,8 +21,8 @@ struct SqrtfNative : Kernel<float(float)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::singles
 
-TARN_EXPORT(unary, sqrtf, full, tarn::Sqrtf)
-TARN_EXPORT(unary, sqrtf, native, tarn::SqrtfNative)
+TARN_EXPORT(unary, sqrtf, full, tarn::singles::Sqrtf)
+TARN_EXPORT(unary, sqrtf, native, tarn::singles::SqrtfNative)
 TARN_EXPORT_SAME(sqrtf, half, native)

@@ -7,7 +7,7 @@
 #include "callout/callouts.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 namespace {
 
 #include "tables/erfcf_native_points.inc"
@@ -62,7 +62,7 @@ template <class Form> struct Erfcf : Kernel<float(float)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::singles
 
-TARN_EXPORT(unary, erfcf, full, tarn::Erfcf<tarn::Full>)
-TARN_EXPORT(unary, erfcf, native, tarn::Erfcf<tarn::Native>)
+TARN_EXPORT(unary, erfcf, full, tarn::singles::Erfcf<tarn::singles::Full>)
+TARN_EXPORT(unary, erfcf, native, tarn::singles::Erfcf<tarn::singles::Native>)

@@ -5,7 +5,7 @@
 // Worst error of erff: 1.929 ulp at -0.00344431098; native 68.87.
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 namespace {
 
 #include "tables/erff_points.inc"
@@ -50,7 +50,7 @@ struct ErffNative : Kernel<float(float)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::singles
 
-TARN_EXPORT(unary, erff, full, tarn::Erff)
-TARN_EXPORT(unary, erff, native, tarn::ErffNative)
+TARN_EXPORT(unary, erff, full, tarn::singles::Erff)
+TARN_EXPORT(unary, erff, native, tarn::singles::ErffNative)

@@ -6,7 +6,7 @@
 #include "callout/callouts.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 namespace {
 
 using Tgammaf = EveryLane<float(float), callout::tgammaf>;
@@ -14,8 +14,8 @@ using Lgammaf = EveryLane<float(float), callout::lgammaf>;
 using Lgammarf = EveryLane<Both<float, std::int32_t>(float), callout::lgammarf>;
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::singles
 
-TARN_EXPORT(unary, tgammaf, full, tarn::Tgammaf)
-TARN_EXPORT(unary, lgammaf, full, tarn::Lgammaf)
-TARN_EXPORT(unary_second, lgammarf, full, tarn::Lgammarf)
+TARN_EXPORT(unary, tgammaf, full, tarn::singles::Tgammaf)
+TARN_EXPORT(unary, lgammaf, full, tarn::singles::Lgammaf)
+TARN_EXPORT(unary_second, lgammarf, full, tarn::singles::Lgammarf)

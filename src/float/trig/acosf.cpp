@@ -7,7 +7,7 @@
 #include "float/trig/arcsine.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 namespace {
 
 template <class Form> struct Acosf : Kernel<float(float)> {
@@ -21,7 +21,7 @@ template <class Form> struct Acosf : Kernel<float(float)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::singles
 
-TARN_EXPORT(unary, acosf, full, tarn::Acosf<tarn::arcsine::Radians>)
-TARN_EXPORT(unary, acosf, native, tarn::Acosf<tarn::arcsine::RadiansNative>)
+TARN_EXPORT(unary, acosf, full, tarn::singles::Acosf<tarn::singles::arcsine::Radians>)
+TARN_EXPORT(unary, acosf, native, tarn::singles::Acosf<tarn::singles::arcsine::RadiansNative>)

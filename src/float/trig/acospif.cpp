@@ -6,7 +6,7 @@
 #include "float/trig/arcsine.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 namespace {
 
 struct Full : arcsine::HalfTurns {
@@ -24,7 +24,7 @@ template <class Form> struct Acospif : Kernel<float(float)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::singles
 
-TARN_EXPORT(unary, acospif, full, tarn::Acospif<tarn::Full>)
-TARN_EXPORT(unary, acospif, native, tarn::Acospif<tarn::arcsine::HalfTurnsNative>)
+TARN_EXPORT(unary, acospif, full, tarn::singles::Acospif<tarn::singles::Full>)
+TARN_EXPORT(unary, acospif, native, tarn::singles::Acospif<tarn::singles::arcsine::HalfTurnsNative>)

@@ -5,7 +5,7 @@
 
 #include "float/trig/turns.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 
 #include "tables/cosine_256ths.inc"
 #include "tables/sine_256ths.inc"
@@ -28,4 +28,4 @@ template <class V> TARN_INLINE V from_angle_table(const float (*table)[4], const
     return v + ((cosine_part + (angle.tail * slope + s_low)) + (sine_part + (v_error + u_error)));
 }
 
-}  // namespace tarn
+}  // namespace tarn::singles

@@ -5,7 +5,7 @@
 
 #include "frame/simd.hpp"
 
-namespace tarn::arcsine {
+namespace tarn::singles::arcsine {
 
 constexpr float half = 0.5f;
 constexpr float one = 1.0f;
@@ -92,4 +92,4 @@ template <class V> TARN_INLINE V start(V x, const Folded<V>& f, float quarter, f
     return select(f.upper, where(x < f.z, half_turn), quarter);
 }
 
-}  // namespace tarn::arcsine
+}  // namespace tarn::singles::arcsine

@@ -4,7 +4,7 @@
 
 #include "frame/simd.hpp"
 
-namespace tarn::arctangent {
+namespace tarn::singles::arctangent {
 
 constexpr float one = 1.0f;
 
@@ -62,4 +62,4 @@ struct HalfTurnsNative : HalfTurns {
     template <class V> static TARN_INLINE V over_t(V t) { return horner(t * t, g4, g3, g2, g1, g0); }
 };
 
-}  // namespace tarn::arctangent
+}  // namespace tarn::singles::arctangent

@@ -6,7 +6,7 @@
 #include "float/trig/arcsine.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 namespace {
 
 template <class Form> struct Asinf : Kernel<float(float)> {
@@ -21,7 +21,7 @@ template <class Form> struct Asinf : Kernel<float(float)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::singles
 
-TARN_EXPORT(unary, asinf, full, tarn::Asinf<tarn::arcsine::Radians>)
-TARN_EXPORT(unary, asinf, native, tarn::Asinf<tarn::arcsine::RadiansNative>)
+TARN_EXPORT(unary, asinf, full, tarn::singles::Asinf<tarn::singles::arcsine::Radians>)
+TARN_EXPORT(unary, asinf, native, tarn::singles::Asinf<tarn::singles::arcsine::RadiansNative>)

@@ -8,7 +8,7 @@
 #include "float/trig/arcsine.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 namespace {
 
 struct Full : arcsine::HalfTurns {
@@ -33,7 +33,7 @@ template <class Form> struct Asinpif : Kernel<float(float)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::singles
 
-TARN_EXPORT(unary, asinpif, full, tarn::Asinpif<tarn::Full>)
-TARN_EXPORT(unary, asinpif, native, tarn::Asinpif<tarn::Native>)
+TARN_EXPORT(unary, asinpif, full, tarn::singles::Asinpif<tarn::singles::Full>)
+TARN_EXPORT(unary, asinpif, native, tarn::singles::Asinpif<tarn::singles::Native>)

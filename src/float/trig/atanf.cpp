@@ -6,7 +6,7 @@
 #include "float/trig/arctangent.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 namespace {
 
 using arctangent::one;
@@ -33,7 +33,7 @@ template <class Form> struct Atanf : Kernel<float(float)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::singles
 
-TARN_EXPORT(unary, atanf, full, tarn::Atanf<tarn::Full>)
-TARN_EXPORT(unary, atanf, native, tarn::Atanf<tarn::Native>)
+TARN_EXPORT(unary, atanf, full, tarn::singles::Atanf<tarn::singles::Full>)
+TARN_EXPORT(unary, atanf, native, tarn::singles::Atanf<tarn::singles::Native>)

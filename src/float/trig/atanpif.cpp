@@ -8,7 +8,7 @@
 #include "float/trig/arctangent.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 namespace {
 
 using arctangent::one;
@@ -42,7 +42,7 @@ template <class Form> struct Atanpif : Kernel<float(float)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::singles
 
-TARN_EXPORT(unary, atanpif, full, tarn::Atanpif<tarn::Full>)
-TARN_EXPORT(unary, atanpif, native, tarn::Atanpif<tarn::Native>)
+TARN_EXPORT(unary, atanpif, full, tarn::singles::Atanpif<tarn::singles::Full>)
+TARN_EXPORT(unary, atanpif, native, tarn::singles::Atanpif<tarn::singles::Native>)

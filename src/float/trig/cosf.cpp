@@ -10,7 +10,7 @@
 #include "float/trig/sine.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 namespace {
 
 constexpr float half_pi = f32(0x3FC90FDB);  // 1.5707963705062866
@@ -39,8 +39,8 @@ template <class Form> struct Cosf : Kernel<float(float)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::singles
 
-TARN_EXPORT(unary, cosf, full, tarn::Cosf<tarn::sine::Full>)
-TARN_EXPORT(unary, cosf, native, tarn::Cosf<tarn::sine::Native>)
+TARN_EXPORT(unary, cosf, full, tarn::singles::Cosf<tarn::singles::sine::Full>)
+TARN_EXPORT(unary, cosf, native, tarn::singles::Cosf<tarn::singles::sine::Native>)
 TARN_EXPORT_SAME(cosf, half, native)

@@ -11,7 +11,7 @@
 #include "float/trig/sine.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 namespace {
 
 template <class Form> struct Cospif : Kernel<float(float)> {
@@ -37,7 +37,7 @@ template <class Form> struct Cospif : Kernel<float(float)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::singles
 
-TARN_EXPORT(unary, cospif, full, tarn::Cospif<tarn::sine::Full>)
-TARN_EXPORT(unary, cospif, native, tarn::Cospif<tarn::sine::Native>)
+TARN_EXPORT(unary, cospif, full, tarn::singles::Cospif<tarn::singles::sine::Full>)
+TARN_EXPORT(unary, cospif, native, tarn::singles::Cospif<tarn::singles::sine::Native>)

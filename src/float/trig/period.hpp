@@ -4,7 +4,7 @@
 
 #include "frame/simd.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 
 constexpr float pi = f32(0x40490FDB);  // 3.1415927410125732
 
@@ -15,4 +15,4 @@ template <class V> TARN_INLINE V without_periods(V x) {
     return x - ((x + s) - s);
 }
 
-}  // namespace tarn
+}  // namespace tarn::singles

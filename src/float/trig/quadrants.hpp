@@ -5,7 +5,7 @@
 #include "callout/callouts.hpp"
 #include "frame/kernel.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 
 // |y| and |x| in order.
 template <class V> struct Ordered {
@@ -51,4 +51,4 @@ template <class Unit, callout::BinaryFloat scalar> struct Atan2Native : Kernel<f
     }
 };
 
-}  // namespace tarn
+}  // namespace tarn::singles

@@ -11,7 +11,7 @@
 #include "float/trig/sine.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 namespace {
 
 struct LargeArgument : Kernel<Both<float, float>(float)> {
@@ -46,9 +46,9 @@ template <class Form> struct Sincosf : Kernel<Both<float, float>(float)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::singles
 
-TARN_EXPORT(unary_second, sincosf, full, tarn::Sincosf<tarn::sine::Full>)
-TARN_EXPORT(unary_second, sincosf, native, tarn::Sincosf<tarn::sine::Native>)
-TARN_EXPORT(unary_pair, sincosregf, full, tarn::Sincosf<tarn::sine::Full>)
-TARN_EXPORT(unary_pair, sincosregf, native, tarn::Sincosf<tarn::sine::Native>)
+TARN_EXPORT(unary_second, sincosf, full, tarn::singles::Sincosf<tarn::singles::sine::Full>)
+TARN_EXPORT(unary_second, sincosf, native, tarn::singles::Sincosf<tarn::singles::sine::Native>)
+TARN_EXPORT(unary_pair, sincosregf, full, tarn::singles::Sincosf<tarn::singles::sine::Full>)
+TARN_EXPORT(unary_pair, sincosregf, native, tarn::singles::Sincosf<tarn::singles::sine::Native>)

@@ -4,7 +4,7 @@
 
 #include "frame/simd.hpp"
 
-namespace tarn::sine {
+namespace tarn::singles::sine {
 
 constexpr float limit = f32(0x461C4000);    // 10000.0; above, the exact reduction takes over
 constexpr float inv_pi = f32(0x3EA2F983);   // 0.31830987334251404
@@ -40,4 +40,4 @@ struct Native {
 
 template <class V> TARN_INLINE V near(V x, V n) { return (x - n * pi_1) - n * pi_2; }
 
-}  // namespace tarn::sine
+}  // namespace tarn::singles::sine

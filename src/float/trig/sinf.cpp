@@ -10,7 +10,7 @@
 #include "float/trig/sine.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 namespace {
 
 struct LargeArgument : Kernel<float(float)> {
@@ -38,8 +38,8 @@ template <class Form> struct Sinf : Kernel<float(float)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::singles
 
-TARN_EXPORT(unary, sinf, full, tarn::Sinf<tarn::sine::Full>)
-TARN_EXPORT(unary, sinf, native, tarn::Sinf<tarn::sine::Native>)
+TARN_EXPORT(unary, sinf, full, tarn::singles::Sinf<tarn::singles::sine::Full>)
+TARN_EXPORT(unary, sinf, native, tarn::singles::Sinf<tarn::singles::sine::Native>)
 TARN_EXPORT_SAME(sinf, half, native)

@@ -11,7 +11,7 @@
 #include "float/trig/sine.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 namespace {
 
 template <class Form> struct Sinpif : Kernel<float(float)> {
@@ -37,7 +37,7 @@ template <class Form> struct Sinpif : Kernel<float(float)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::singles
 
-TARN_EXPORT(unary, sinpif, full, tarn::Sinpif<tarn::sine::Full>)
-TARN_EXPORT(unary, sinpif, native, tarn::Sinpif<tarn::sine::Native>)
+TARN_EXPORT(unary, sinpif, full, tarn::singles::Sinpif<tarn::singles::sine::Full>)
+TARN_EXPORT(unary, sinpif, native, tarn::singles::Sinpif<tarn::singles::sine::Native>)

@@ -12,7 +12,7 @@
 #include "float/trig/turns.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 namespace {
 
 constexpr float limit = f32(0x46010000);        // 8256.0
@@ -65,8 +65,8 @@ template <class Form> struct Tanf : Kernel<float(float)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::singles
 
-TARN_EXPORT(unary, tanf, full, tarn::Tanf<tarn::Full>)
-TARN_EXPORT(unary, tanf, native, tarn::Tanf<tarn::Native>)
+TARN_EXPORT(unary, tanf, full, tarn::singles::Tanf<tarn::singles::Full>)
+TARN_EXPORT(unary, tanf, native, tarn::singles::Tanf<tarn::singles::Native>)
 TARN_EXPORT_SAME(tanf, half, native)

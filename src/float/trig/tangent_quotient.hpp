@@ -3,7 +3,7 @@
 
 #include "frame/simd.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 
 template <class V> struct Quotient {
     V numerator, denominator;
@@ -22,4 +22,4 @@ template <class V> TARN_INLINE Quotient<V> tangent_quotient(V r, BitsOf<V> inver
     return {select(inverted, p, q), select(inverted, q, p)};
 }
 
-}  // namespace tarn
+}  // namespace tarn::singles

@@ -6,7 +6,7 @@
 
 #include "frame/simd.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 
 #include "tables/tangent_128ths.inc"
 
@@ -38,4 +38,4 @@ template <class V> TARN_INLINE V from_tangent_table(BitsOf<V> row, V r, V r_tail
     return s2 + (polynomial + rest);
 }
 
-}  // namespace tarn
+}  // namespace tarn::singles

@@ -12,7 +12,7 @@
 #include "float/trig/tangent_table.hpp"
 #include "frame/exports.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 namespace {
 
 constexpr std::int32_t infinity = 0x7F800000;
@@ -60,7 +60,7 @@ struct TanpifNative : Kernel<float(float)> {
 };
 
 }  // namespace
-}  // namespace tarn
+}  // namespace tarn::singles
 
-TARN_EXPORT(unary, tanpif, full, tarn::Tanpif)
-TARN_EXPORT(unary, tanpif, native, tarn::TanpifNative)
+TARN_EXPORT(unary, tanpif, full, tarn::singles::Tanpif)
+TARN_EXPORT(unary, tanpif, native, tarn::singles::TanpifNative)

@@ -8,7 +8,7 @@
 
 #include "frame/simd.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 
 #include "tables/two_over_pi_96.inc"
 
@@ -92,4 +92,4 @@ template <class Unit, class V> TARN_INLINE Reduced<V> reduce_exactly(V x) {
     return {bits(shifted) & Unit::row_mask, select(tiny, x, r), where(~tiny, r_tail)};
 }
 
-}  // namespace tarn
+}  // namespace tarn::singles

@@ -1,4 +1,4 @@
-#include "frame/families.hpp"
+#include "families/families.hpp"
 
 namespace tarn {
 namespace {
@@ -43,16 +43,16 @@ std::vector<Family> with_conversions(std::vector<Family> rows) {
 const std::vector<Family>& families() {
     using enum Lane;
     static const std::vector<Family> all = with_conversions({
-#include "frame/families/exp.def"
-#include "frame/families/log.def"
-#include "frame/families/pow.def"
-#include "frame/families/roots.def"
-#include "frame/families/trig.def"
-#include "frame/families/inverse_trig.def"
-#include "frame/families/hyperbolic.def"
-#include "frame/families/special.def"
-#include "frame/families/rounding.def"
-#include "frame/families/remainder.def"
+#include "families/exp.def"
+#include "families/log.def"
+#include "families/pow.def"
+#include "families/roots.def"
+#include "families/trig.def"
+#include "families/inverse_trig.def"
+#include "families/hyperbolic.def"
+#include "families/special.def"
+#include "families/rounding.def"
+#include "families/remainder.def"
     });
     return all;
 }

@@ -3,11 +3,11 @@
 // remainder r, below 1/256, makes up with a polynomial of degree 5.
 #pragma once
 
-#include "double/exp/parts.hpp"
-#include "double/pow/log2_pair.hpp"
+#include "steps/double/exp_parts.hpp"
+#include "steps/double/log2_pair.hpp"
 #include "frame/kernel.hpp"
 
-namespace tarn {
+namespace tarn::doubles {
 
 // log2 of x^y; the head is exact.
 template <class V> TARN_INLINE HeadTail<V> log2_of_power(const HeadTail<V>& log, V y) {
@@ -52,4 +52,4 @@ template <class V> TARN_INLINE Flagged<V, WordsOf<V>> pair_power(V x, const Head
 inline constexpr std::uint32_t largest_exponent = 0x408F3FFE;
 inline constexpr std::uint32_t largest_integer_exponent = 0x408EEFFE;
 
-}  // namespace tarn
+}  // namespace tarn::doubles

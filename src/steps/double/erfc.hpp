@@ -3,7 +3,7 @@
 
 #include "frame/simd.hpp"
 
-namespace tarn {
+namespace tarn::doubles {
 
 #include "tables/erfc_points.inc"
 
@@ -58,4 +58,4 @@ template <class Form, class V> TARN_INLINE V erfc_steps(V x) {
     return sum * or_bits(unscale, negative & sign_mask<V>);
 }
 
-}  // namespace tarn
+}  // namespace tarn::doubles

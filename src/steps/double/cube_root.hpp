@@ -6,12 +6,12 @@
 
 #include "frame/simd.hpp"
 
-namespace tarn {
+namespace tarn::doubles {
 
 #include "tables/cube_root_pairs.inc"
 #include "tables/reciprocal_cube_root_pairs.inc"
 
-struct CubeRoot64 {
+struct CubeRoot {
     static constexpr const auto& rows = cube_root_pairs;
     static constexpr double c7 = f64(0x3F93770EFD478A60);  // 0.019008859833670733
     static constexpr double c6 = f64(0xBF980AC5B080C379);  // -0.023478592775237204
@@ -30,7 +30,7 @@ struct CubeRoot64 {
     template <class I> static TARN_INLINE I exponent(I q) { return q + (1023 - 341); }
 };
 
-struct ReciprocalCubeRoot64 {
+struct ReciprocalCubeRoot {
     static constexpr const auto& rows = reciprocal_cube_root_pairs;
     static constexpr double c8 = f64(0x3FB791C7B3DDAFDF);  // 0.092068177616681166
     static constexpr double c7 = f64(0xBFB9B5E1E002E081);  // -0.10043155402206773
@@ -77,4 +77,4 @@ template <class Root, bool native = false, class V> TARN_INLINE V cube_root_step
     }
 }
 
-}  // namespace tarn
+}  // namespace tarn::doubles

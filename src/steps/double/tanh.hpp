@@ -3,7 +3,7 @@
 
 #include "frame/simd.hpp"
 
-namespace tarn {
+namespace tarn::doubles {
 
 #include "tables/tanh_parts.inc"
 
@@ -39,4 +39,4 @@ template <class V> TARN_INLINE V tanh_sum(V x, const TanhPlace<V>& place) {
     return or_bits(head + (slope * h + (h2 * q + tail)), sign_bit(x));
 }
 
-}  // namespace tarn
+}  // namespace tarn::doubles

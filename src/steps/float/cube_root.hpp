@@ -7,7 +7,7 @@
 
 #include "frame/simd.hpp"
 
-namespace tarn {
+namespace tarn::singles {
 
 #include "tables/cube_root_rows.inc"
 #include "tables/reciprocal_cube_root_rows.inc"
@@ -59,4 +59,4 @@ template <class Root, bool short_series = false, class V> TARN_INLINE V cube_roo
     return (series * (t * high) + low) + high;
 }
 
-}  // namespace tarn
+}  // namespace tarn::singles

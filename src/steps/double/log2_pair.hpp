@@ -8,7 +8,7 @@
 
 #include "frame/double_word.hpp"
 
-namespace tarn {
+namespace tarn::doubles {
 
 #include "tables/log2_pairs.inc"
 #include "tables/log2_reciprocals.inc"
@@ -61,4 +61,4 @@ template <class V> TARN_INLINE HeadTail<V> log2_pair(V x) {
     return {head, low - (head - h)};
 }
 
-}  // namespace tarn
+}  // namespace tarn::doubles

@@ -4,7 +4,7 @@
 
 #include "frame/simd.hpp"
 
-namespace tarn {
+namespace tarn::doubles {
 
 #include "tables/exp2_128ths.inc"
 
@@ -17,4 +17,4 @@ template <int index_bits, class V> TARN_INLINE V raised(V y, V shifted) {
     return from_bits(bits(y) + (whole << (52 - index_bits)));
 }
 
-}  // namespace tarn
+}  // namespace tarn::doubles

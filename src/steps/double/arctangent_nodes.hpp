@@ -6,7 +6,7 @@
 
 #include "frame/simd.hpp"
 
-namespace tarn::arctangent {
+namespace tarn::doubles::arctangent {
 
 #include "tables/octant_angles.inc"
 #include "tables/octant_half_turns.inc"
@@ -86,4 +86,4 @@ template <class Form, class V> TARN_INLINE V point_by_nodes(V y, V x) {
     return xor_bits(Form::angle(q, octant), sign_bit(y));
 }
 
-}  // namespace tarn::arctangent
+}  // namespace tarn::doubles::arctangent

@@ -4,7 +4,7 @@
 
 #include "frame/double_word.hpp"
 
-namespace tarn {
+namespace tarn::doubles {
 
 // x^(-1/2) = y (1 + e - d y^2/2) for s, the rounded root, y, its rounded reciprocal, e = 1 - s y and d = x - s^2.
 template <class V> TARN_INLINE V corrected_rsqrt(V x) {
@@ -16,4 +16,4 @@ template <class V> TARN_INLINE V corrected_rsqrt(V x) {
     return y + y * (e - half * (d * y) * y);
 }
 
-}  // namespace tarn
+}  // namespace tarn::doubles

@@ -2,9 +2,9 @@
 // and a cubic.
 #pragma once
 
-#include "double/pow/log2_pair.hpp"
+#include "steps/double/log2_pair.hpp"
 
-namespace tarn {
+namespace tarn::doubles {
 
 #include "tables/log2_reciprocal_rows.inc"
 
@@ -31,4 +31,4 @@ template <class V> TARN_INLINE V native_log2_of_sum(V x, V tail) {
     return native_log2(at, from_row_point(at) + tail * inverse_scale(x));
 }
 
-}  // namespace tarn
+}  // namespace tarn::doubles

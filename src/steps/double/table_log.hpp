@@ -6,7 +6,7 @@
 
 #include "frame/simd.hpp"
 
-namespace tarn {
+namespace tarn::doubles {
 
 #include "tables/log10_rows.inc"
 #include "tables/log2_rows.inc"
@@ -90,4 +90,4 @@ template <class Base, class V> TARN_INLINE V native_table_log(V x) {
     return (poly + gather(Base::rows, row_of_reciprocal(R))) + Base::exponent(exponent_for(x, R));
 }
 
-}  // namespace tarn
+}  // namespace tarn::doubles

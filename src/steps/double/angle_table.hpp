@@ -3,9 +3,9 @@
 // its product with r is exact.
 #pragma once
 
-#include "double/trig/turns.hpp"
+#include "steps/double/turns.hpp"
 
-namespace tarn::trig_f64 {
+namespace tarn::doubles {
 
 #include "tables/sine_512ths.inc"
 
@@ -39,4 +39,4 @@ template <class V> TARN_INLINE Sum<V> cosine_from_table(const Reduced<V>& angle)
     return sine_from_table(Reduced<V>{(angle.row + 128) & Turns::row_mask, angle.rest});
 }
 
-}  // namespace tarn::trig_f64
+}  // namespace tarn::doubles

@@ -7,7 +7,7 @@
 
 #include "frame/double_word.hpp"
 
-namespace tarn {
+namespace tarn::doubles {
 
 #include "tables/ln_reciprocals.inc"
 
@@ -53,4 +53,4 @@ template <class V> TARN_INLINE V log_of_sum(const LogRow<V>& at, V x, V tail) {
 }
 template <class V> TARN_INLINE V log_of_sum(V x, V tail) { return log_of_sum(log_row(x), x, tail); }
 
-}  // namespace tarn
+}  // namespace tarn::doubles

@@ -9,7 +9,7 @@
 
 #include "frame/double_word.hpp"
 
-namespace tarn::trig_f64 {
+namespace tarn::doubles {
 
 #include "tables/reciprocal_two_pi_192.inc"
 
@@ -110,4 +110,4 @@ template <class Unit, class V> TARN_INLINE Reduced<V> reduce_exactly(V x) {
 // Lanes for the callout: infinities, not NaNs.
 template <class V> TARN_INLINE BitsOf<V> is_infinite(V x) { return (abs(x) == f64(0x7FF0000000000000)); }
 
-}  // namespace tarn::trig_f64
+}  // namespace tarn::doubles

@@ -2,10 +2,10 @@
 // and a tail, so that nothing is lost where the function is small. Kernels and callouts share the steps.
 #pragma once
 
-#include "double/log/log_of_sum.hpp"
-#include "double/pow/native_log2.hpp"
+#include "steps/double/log_of_sum.hpp"
+#include "steps/double/native_log2.hpp"
 
-namespace tarn::inverse_hyperbolic {
+namespace tarn::doubles::inverse_hyperbolic {
 
 constexpr double one = 1.0;
 
@@ -58,4 +58,4 @@ template <class V> TARN_INLINE V native_log_of(const HeadTail<V>& x) {
     return native_log2_of_sum(x.head, x.tail) * ln2;
 }
 
-}  // namespace tarn::inverse_hyperbolic
+}  // namespace tarn::doubles::inverse_hyperbolic
