@@ -133,9 +133,9 @@ void Function::operator()(const std::vector<Lanes>& args, Lanes& result, Lanes* 
     if (stored == width && n % width == 0) {
         for (std::size_t a = 0; a < args.size(); a++) pointers[a] = args[a].data();
         result = Lanes(shape.result, n);
-        Lanes own(shape.second, second ? 0 : n);
-        if (second) *second = Lanes(shape.second, n);
-        batch_(address_, pointers, result.data(), (second ? *second : own).data(), calls);
+        Lanes own(shape.second, shape.second == Lane::none ? 0 : n);
+        batch_(address_, pointers, result.data(), own.data(), calls);
+        if (second && shape.second != Lane::none) *second = std::move(own);
         return;
     }
 
