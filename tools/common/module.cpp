@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <cstdlib>
 #include <stdexcept>
 #include <tuple>
 
@@ -164,7 +165,10 @@ Module::Module(const std::string& path) : handle_(dlopen(path.c_str(), RTLD_NOW 
     if (!handle_) throw std::runtime_error(std::string("cannot load the module: ") + dlerror());
 }
 
-std::string Module::built_path() { return TARN_MODULE_PATH; }
+std::string Module::built_path() {
+    const char* other = std::getenv("TARN_MODULE");
+    return other && *other ? other : TARN_MODULE_PATH;
+}
 
 std::optional<Function> Module::find(const Export& e) const {
     Function f;

@@ -76,7 +76,8 @@ private:
 
 class Module {
 public:
-    // The module beside the build that this program belongs to, or the one named.
+    // The module of the build that this program belongs to, the one that the environment's TARN_MODULE names, or the
+    // one named here.
     explicit Module(const std::string& path = built_path());
     static std::string built_path();
 
