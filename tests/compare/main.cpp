@@ -2,6 +2,7 @@
 // results compared bit for bit, and with --flags what each call raises.
 #include <immintrin.h>
 
+#include <cfenv>
 #include <chrono>
 #include <cstdio>
 #include <filesystem>
@@ -98,13 +99,11 @@ struct Output {
     std::vector<unsigned char> flags;
 };
 
-// SSE's and x87's together, as fetestexcept sees them. The processor's own flag of subnormal operands is none of IEEE's,
-// and says which instructions were taken.
+// SSE's and x87's together, as fetestexcept sees them; the processor's own flag of subnormal operands is none of IEEE 754's.
 unsigned raised() {
-    constexpr unsigned ieee = _MM_EXCEPT_MASK & ~_MM_EXCEPT_DENORM;
     unsigned short x87;
     __asm__ volatile("fnstsw %0" : "=m"(x87));
-    return (_mm_getcsr() | x87) & ieee;
+    return (_mm_getcsr() | x87) & FE_ALL_EXCEPT;
 }
 void clear_raised() {
     __asm__ volatile("fnclex");
