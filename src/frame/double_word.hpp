@@ -25,9 +25,10 @@ template <class V> TARN_INLINE HeadTail<V> two_sum(V x, V y) {
     return {sum, (x - (sum - y_part)) + (y - y_part)};
 }
 
-// The upper 26 bits of a double, cut off: products of two such heads are exact.
+// The upper 12 bits of a single or 26 of a double, cut off: products of two such heads are exact.
+template <Singles V> TARN_INLINE V short_head(V x) { return and_bits(x, i32(0xFFFFF000)); }
 template <Doubles V> TARN_INLINE V short_head(V x) { return and_bits(x, i64(0xFFFFFFFFF8000000)); }
-template <Doubles V> TARN_INLINE HeadTail<V> short_split(V x) {
+template <Floats V> TARN_INLINE HeadTail<V> short_split(V x) {
     const V head = short_head(x);
     return {head, x - head};
 }
@@ -40,7 +41,8 @@ template <Singles V> TARN_INLINE HeadTail<V> veltkamp_split(V x) {
 }
 
 // Dekker's product of numbers that are split already.
-template <Singles V> TARN_INLINE HeadTail<V> two_product(V a, const HeadTail<V>& a_split, V b, const HeadTail<V>& b_split) {
+template <Singles V>
+TARN_INLINE HeadTail<V> two_product(V a, const HeadTail<V>& a_split, V b, const HeadTail<V>& b_split) {
     const auto& [ah, al] = a_split;
     const auto& [bh, bl] = b_split;
     const V product = a * b;

@@ -1,6 +1,7 @@
 // Integers to floating point, 32 conversions. An integer is cut into pieces that the format holds, each
 // made by OR-ing it into the significand of a power of two and taking that power off again. Their sum is
 // rounded to nearest, and its exact error sends the directed roundings to the neighbour. Zero gives +0.
+#include "frame/double_word.hpp"
 #include "lanewise/conversion.hpp"
 
 namespace tarn {
@@ -9,8 +10,12 @@ namespace {
 template <class Signature> struct Converted;
 
 // The piece at the foot of the significand of `power`, as a number.
-template <Words I> TARN_INLINE auto piece(I v, std::uint32_t power) { return from_bits((BitsOf<I>)v | i32(power)) - f32(power); }
-template <LongWords I> TARN_INLINE auto piece(I v, std::uint64_t power) { return from_bits((BitsOf<I>)v | i64(power)) - f64(power); }
+template <Words I> TARN_INLINE auto piece(I v, std::uint32_t power) {
+    return from_bits((BitsOf<I>)v | i32(power)) - f32(power);
+}
+template <LongWords I> TARN_INLINE auto piece(I v, std::uint64_t power) {
+    return from_bits((BitsOf<I>)v | i64(power)) - f64(power);
+}
 
 // high + low for |high| >= |low|, or high = 0.
 template <Rounding mode, class V> TARN_INLINE V sum(V high, V low) {
@@ -49,15 +54,14 @@ template <> struct Converted<float(std::int32_t)> {
 template <Rounding mode, LongWords L> TARN_INLINE auto from_magnitude(L first, L second, WordsOf<L> sign) {
     using V = Like<L, float>;
     const WordsOf<L> foot = lower_words(first, second), head = upper_words(first, second);
-    const V low = piece(foot & 0x7FFFFF, 0x4B000000);                                                // 2^23
+    const V low = piece(foot & 0x7FFFFF, 0x4B000000);                                            // 2^23
     const V middle = piece((shift_right_logical(foot, 23) | head << 9) & 0x7FFFFF, 0x56800000);  // 2^46
-    const V high = piece(shift_right_logical(head, 14), 0x62000000);                               // 2^69
-    const V s = high + middle;
-    const V e = middle - (s - high);
+    const V high = piece(shift_right_logical(head, 14), 0x62000000);                             // 2^69
+    const auto [s, e] = fast_two_sum(high, middle);
     if constexpr (mode == Rounding::nearest) {
         const V half_unit = from_bits((bits(s) & 0x7F800000) - 0x0C000000);
         const BitsOf<V> tie_down = (e == half_unit) & (low > 0.0f);
-        return or_bits(from_bits(bits(s) | (tie_down & 1)) + low, sign);
+        return or_bits(or_bits(s, tie_down & 1) + low, sign);
     } else {
         const V f = s + low;
         const V error = xor_bits(e + (low - (f - s)), sign);
@@ -74,8 +78,11 @@ template <> struct Converted<float(std::uint64_t)> {
 template <> struct Converted<float(std::int64_t)> {
     using Signature = float(std::int64_t);
     template <Rounding mode, LongWords I> static TARN_INLINE auto to(Twice<I> v) {
-        const auto magnitude = [](I x) __attribute__((always_inline)) { return wrapping_difference(x ^ x >> 63, x >> 63); };
-        return from_magnitude<mode>(magnitude(v.low), magnitude(v.high), upper_words(v.low, v.high) & sign_mask<WordsOf<I>>);
+        const auto magnitude = [](I x) __attribute__((always_inline)) {
+            return wrapping_difference(x ^ x >> 63, x >> 63);
+        };
+        const auto sign = upper_words(v.low, v.high) & sign_mask<WordsOf<I>>;
+        return from_magnitude<mode>(magnitude(v.low), magnitude(v.high), sign);
     }
 };
 

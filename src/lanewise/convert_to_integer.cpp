@@ -35,8 +35,7 @@ template <> struct Clamped<std::int32_t(double)> {
     using Signature = std::int32_t(double);
     template <Rounding mode, Floats V> static TARN_INLINE auto to(V x) {
         const auto r = round<mode>(x);
-        const auto number = and_bits(r, r == r);
-        return to_i32(min(number, 0x1p31 - 1));
+        return to_i32(min(where(r == r, r), 0x1p31 - 1));
     }
 };
 
@@ -52,7 +51,9 @@ template <Singles V> TARN_INLINE BitsOf<V> to_u32(V r) {
 
 template <> struct Indefinite<std::uint32_t(float)> {
     using Signature = std::uint32_t(float);
-    template <Rounding mode, Floats V> static TARN_INLINE auto to(V x) { return (Unsigned<V>)to_u32(abs(round<mode>(x))); }
+    template <Rounding mode, Floats V> static TARN_INLINE auto to(V x) {
+        return (Unsigned<V>)to_u32(abs(round<mode>(x)));
+    }
 };
 template <> struct Clamped<std::uint32_t(float)> {
     using Signature = std::uint32_t(float);
@@ -75,8 +76,9 @@ template <> struct Clamped<std::uint32_t(double)> {
     using Signature = std::uint32_t(double);
     template <Rounding mode, Floats V> static TARN_INLINE auto to(V x) {
         const auto r = round<mode>(x);
-        const auto clamped = min(r, 0x1p32 - 1);                              // a NaN too
-        return (Like<V, std::uint32_t>)low_words(bits(select(bits(r), 0.0, from_bits(low_bits(clamped)))));  // by the sign bit
+        const auto clamped = from_bits(low_bits(min(r, 0x1p32 - 1)));     // a NaN too
+        const auto result = low_words(bits(select(bits(r), 0.0, clamped)));  // by the sign bit
+        return (Like<V, std::uint32_t>)result;
     }
 };
 

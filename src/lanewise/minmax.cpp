@@ -46,7 +46,7 @@ template <class Lane> struct MinMag : Kernel<Lane(Lane, Lane)> {
 template <class Lane> struct Fdim : Kernel<Lane(Lane, Lane)> {
     static constexpr auto callout = callout::fdim<Lane>;
     template <class V> static TARN_INLINE auto fast(V x, V y) {
-        return Flagged{from_bits(bits(x - y) & (y < x)), either_not_finite(x, y)};
+        return Flagged{where(y < x, x - y), either_not_finite(x, y)};
     }
 };
 

@@ -69,7 +69,7 @@ template <> struct Fma<double> : FmaFrame<double> {
         const auto boundary = words((bits(tail) & 0x0000FFFFFFFFFFFF) == 0);
         const auto undecided = boundary & was_rounded(tail, high.tail, low.tail);
         const auto out_of_range = outside(magnitude_words(product.head), lowest, highest) |
-                                   upper_magnitude_above(z, highest);
+                                  upper_magnitude_above(z, highest);
         return Flagged{high.head + tail, undecided | out_of_range};
     }
 };

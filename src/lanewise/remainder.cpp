@@ -13,12 +13,10 @@ namespace {
 
 template <class Lane> struct Division;
 template <> struct Division<float> {
-    static constexpr std::int32_t head = i32(0xFFFFF000);
     static constexpr int widest_gap = 11;
     static constexpr std::uint32_t large = 0x79800000;  // 2^116
 };
 template <> struct Division<double> {
-    static constexpr std::int64_t head = i64(0xFFFFFFFFF8000000);
     static constexpr int widest_gap = 25;
     static constexpr std::uint32_t large = 0x7E500000;  // 2^998, the upper word
 };
@@ -31,12 +29,6 @@ template <class V> TARN_INLINE WordsOf<V> special(V x, V y, std::uint32_t limit)
            outside(magnitude_words(y), 1u << F::shift, limit - 1);
 }
 
-// y in a head, short enough for exact products, and a tail.
-template <class V> TARN_INLINE HeadTail<V> split_divisor(V y) {
-    const V head = and_bits(y, Division<LaneOf<V>>::head);
-    return {head, y - head};
-}
-
 template <class Lane> struct Fmod : Kernel<Lane(Lane, Lane)> {
     static constexpr auto callout = callout::fmod<Lane>;
     static constexpr int blocks_at_a_time = 4;
@@ -44,7 +36,7 @@ template <class Lane> struct Fmod : Kernel<Lane(Lane, Lane)> {
     template <class V> static TARN_INLINE auto fast(V x, V y) {
         const auto sign = sign_bit(x);
         const auto q = round<Rounding::zero>(x / y);
-        const auto [head, tail] = split_divisor(y);
+        const auto [head, tail] = short_split(y);
         auto r = (abs(x) - xor_bits(head, sign) * q) - q * xor_bits(tail, sign);  // products at least 0
         r = r + where(r < Lane(0), abs(y));
         return Flagged{or_bits(r, sign), special(x, y, Format<Lane>::exponent)};
@@ -58,10 +50,10 @@ template <class V> struct Nearest {
 };
 template <class V> TARN_INLINE auto nearest(V x, V y) {
     const auto q = round<Rounding::current_quiet>(x / y);
-    const auto [head, tail] = split_divisor(y);
+    const auto [head, tail] = short_split(y);
     const auto r = (x - head * q) - q * tail;
     const auto beyond_half = abs(r) + abs(r) > abs(y);  // half of y may round
-    const auto back = from_bits((bits(abs(y)) & beyond_half) | sign_bit(r));
+    const auto back = or_bits(where(beyond_half, abs(y)), sign_bit(r));
     const auto result = r - back;
     const auto zero_of_x = sign_bit(x) & (result == LaneOf<V>(0));
     const auto unit = lanes_of_words<V>((words(r) ^ words(y)) >> 31) | 1;

@@ -18,7 +18,9 @@ struct Nanf : Kernel<float(std::uint32_t)> {
     template <class U> static TARN_INLINE auto fast(U payload) { return from_bits((BitsOf<U>)payload | 0x7FC00000); }
 };
 struct Nan : Kernel<double(std::uint64_t)> {
-    template <class U> static TARN_INLINE auto fast(U payload) { return from_bits((BitsOf<U>)payload | 0x7FF8000000000000); }
+    template <class U> static TARN_INLINE auto fast(U payload) {
+        return from_bits((BitsOf<U>)payload | 0x7FF8000000000000);
+    }
 };
 
 }  // namespace

@@ -1,6 +1,7 @@
 // asinh |x| = ln(a + (a^2 + 1)^(1/2)) with a = |x|, and acosh x = ln(x + (x^2 - 1)^(1/2)): the squares, the root and
-// the sum each as a number and what its rounding left, and the logarithm of such a sum (inverse_hyperbolic.hpp). asinh x is x
-// below 2^-28. The native forms keep what the last sum left and nothing else; their logarithm is that of the powers.
+// the sum each as a number and what its rounding left, and the logarithm of such a sum (inverse_hyperbolic.hpp).
+// asinh x is x below 2^-28. The native forms keep what the last sum left and nothing else; their logarithm is that of
+// the powers.
 //
 // Worst error of asinh: 0.5056 ulp at 0.0016154525686357393; native 6.711e+07.
 // Worst error of acosh: 0.5078 ulp at 95187564.626176775; native 6.559e+04.
@@ -39,7 +40,9 @@ struct AsinhNative : Kernel<double(double)> {
 struct Acosh : Kernel<double(double)> {
     static constexpr auto callout = callout::acosh;
 
-    template <class V> static TARN_INLINE auto outside(V x) { return words(~(x > one)) | upper_magnitude_above(x, bound); }
+    template <class V> static TARN_INLINE auto outside(V x) {
+        return words(~(x > one)) | upper_magnitude_above(x, bound);
+    }
     template <class V> static TARN_INLINE auto fast(V x) { return Flagged{inverse_hyperbolic::acosh(x), outside(x)}; }
 };
 

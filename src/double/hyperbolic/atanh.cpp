@@ -1,6 +1,7 @@
 // atanh |x| = ln((1 + a)/(1 - a))/2 with a = |x|: of the quotient only its row of the logarithm's table is taken; what
-// is left of it next to that row is a quotient of exact differences, a head and a tail (inverse_hyperbolic.hpp). atanh x is x below
-// 2^-28. The native form takes the logarithm of the powers of 1 + 2a/(1 - a), keeping what the sum left.
+// is left of it next to that row is a quotient of exact differences, a head and a tail (inverse_hyperbolic.hpp).
+// atanh x is x below 2^-28. The native form takes the logarithm of the powers of 1 + 2a/(1 - a), keeping what the sum
+// left.
 //
 // Worst error of atanh: 0.5065 ulp at 0.00097189912753878728; native 6.559e+04.
 #include "callout/callouts.hpp"

@@ -21,7 +21,6 @@ constexpr double c2 = f64(0x3FDFFFFFFFFFFDBD);       // 0.49999999999996786
 constexpr double c4 = f64(0x3FA55555CF16D299);       // 0.04166668084090936
 constexpr std::uint32_t bound = 0x40861D99;          // below 707.7001953125
 
-
 struct Sinh : Kernel<double(double)> {
     static constexpr auto callout = callout::sinh;
     static constexpr int blocks_at_a_time = 4;

@@ -16,11 +16,15 @@ namespace {
 
 template <class Base, auto special> struct Log : Kernel<double(double)> {
     static constexpr auto callout = special;
-    template <class V> static TARN_INLINE auto fast(V x) { return Flagged{table_log<Base>(x, V{}), not_positive_normal(x)}; }
+    template <class V> static TARN_INLINE auto fast(V x) {
+        return Flagged{table_log<Base>(x, V{}), not_positive_normal(x)};
+    }
 };
 template <class Base, auto special> struct LogNative : Kernel<double(double)> {
     static constexpr auto callout = special;
-    template <class V> static TARN_INLINE auto fast(V x) { return Flagged{native_table_log<Base>(x), not_positive_normal(x)}; }
+    template <class V> static TARN_INLINE auto fast(V x) {
+        return Flagged{native_table_log<Base>(x), not_positive_normal(x)};
+    }
 };
 
 using LogE = Log<BaseE, callout::log>;

@@ -19,7 +19,9 @@ struct Pown : Kernel<double(double, std::int32_t)> {
 struct PownNative : Kernel<double(double, std::int32_t)> {
     static constexpr auto callout = callout::pown;
 
-    template <class V> static TARN_INLINE auto fast(V x, WordsOf<V> n) { return native_power(x, native_log2(x) * to_f64(n)); }
+    template <class V> static TARN_INLINE auto fast(V x, WordsOf<V> n) {
+        return native_power(x, native_log2(x) * to_f64(n));
+    }
 };
 
 }  // namespace

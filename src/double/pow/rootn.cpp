@@ -20,7 +20,9 @@ struct Rootn : Kernel<double(double, std::int32_t)> {
 struct RootnNative : Kernel<double(double, std::int32_t)> {
     static constexpr auto callout = callout::rootn;
 
-    template <class V> static TARN_INLINE auto fast(V x, WordsOf<V> n) { return native_power(x, native_log2(x) / to_f64(n)); }
+    template <class V> static TARN_INLINE auto fast(V x, WordsOf<V> n) {
+        return native_power(x, native_log2(x) / to_f64(n));
+    }
 };
 
 }  // namespace

@@ -11,10 +11,12 @@ namespace {
 
 struct Rsqrt : Kernel<double(double)> {
     static constexpr auto callout = callout::rsqrt;
-    static constexpr int blocks_at_a_time = 2;                  // the root and the division take their turns
+    static constexpr int blocks_at_a_time = 2;           // the root and the division take their turns
     static constexpr std::uint32_t lowest = 0x07B00000;  // of 2^-900: below, residuals reach the end of the range
 
-    template <class V> static TARN_INLINE auto fast(V x) { return Flagged{corrected_rsqrt(x), below_or_not_finite(x, lowest)}; }
+    template <class V> static TARN_INLINE auto fast(V x) {
+        return Flagged{corrected_rsqrt(x), below_or_not_finite(x, lowest)};
+    }
 };
 
 struct RsqrtNative : Kernel<double(double)> {

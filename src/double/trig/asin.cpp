@@ -89,7 +89,7 @@ template <class Form, class Unit, callout::UnaryDouble scalar> struct Arcsine : 
         const auto [upper, root, z] = fold(a);
         const V v = select(upper, -2.0 * root, a);
         const V y = Unit::angle(v, Form::rest(z)) + where(upper, Unit::quarter);
-        return Flagged{xor_bits(y, sign_bit(x)), (a >= one)};
+        return Flagged{xor_bits(y, sign_bit(x)), a >= one};
     }
 };
 
@@ -105,7 +105,7 @@ template <class Form, class Unit, callout::UnaryDouble scalar> struct Arccosine 
         const V start = select(upper, where(negative, Unit::half_turn), Unit::quarter);
         const V tail = select(upper, where(negative, Unit::half_turn_tail), Unit::quarter_tail);
         const V v = xor_bits(select(upper, root + root, a), sign_bit(x) ^ (~upper & sign_mask<V>));
-        return Flagged{start + Unit::angle(v, Form::rest(z), tail), (a >= one)};
+        return Flagged{start + Unit::angle(v, Form::rest(z), tail), a >= one};
     }
 };
 

@@ -33,7 +33,7 @@ template <class Form> struct Cos : Kernel<double(double)> {
         const V m = (shifted - shifter) - half;
         const V r = Form::rest(Form::near(x, m), m);
         const V y = Form::cosine(xor_bits(r, parity_sign(shifted)), r * r);
-        return Flagged{y, (abs(v) > 0x1p23)};
+        return Flagged{y, abs(v) > 0x1p23};
     }
 };
 

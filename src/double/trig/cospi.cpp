@@ -25,7 +25,7 @@ template <class Form> struct Cospi : Kernel<double(double)> {
 
     template <class V> static TARN_INLINE auto fast(V x) {
         const V a = abs(x);
-        return Flagged{of_magnitude(a), (a > 0x1p51)};
+        return Flagged{of_magnitude(a), a > 0x1p51};
     }
 
     struct LargeArgument : Kernel<double(double)> {

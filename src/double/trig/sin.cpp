@@ -31,7 +31,7 @@ template <class Form> struct Sin : Kernel<double(double)> {
         const V n = shifted - shifter;
         const V r = Form::rest(Form::near(a, n), n);
         const V y = Form::sine(xor_bits(r, parity_sign(shifted)), r * r);
-        return Flagged{xor_bits(y, sign_bit(x)), (a > 0x1p24)};
+        return Flagged{xor_bits(y, sign_bit(x)), a > 0x1p24};
     }
 };
 

@@ -42,7 +42,7 @@ template <class Form> struct Sincos : Kernel<Both<double, double>(double)> {
         const V cosine_r = xor_bits(Form::rest(Form::near(a, m), m), sign_mask<V> ^ side ^ parity);
         const V sine = xor_bits(Form::sine(sine_r, sine_r * sine_r), sign_bit(x));
         const V cosine = Form::cosine(cosine_r, cosine_r * cosine_r);
-        return FlaggedPair{sine, cosine, (a > 0x1p23)};
+        return FlaggedPair{sine, cosine, a > 0x1p23};
     }
 };
 

@@ -52,11 +52,12 @@ struct LargeArgument : Kernel<double(double)> {
 
         const auto [row, rest] = reduce_exactly<HalfTurns>(x);
         const auto [head, tail] = gather_columns(tangent_256ths, row);
-        const V slope = for_each_lane(row, [](std::int64_t r) __attribute__((always_inline)) { return tangent_256ths[r][2]; });
+        const auto slope_of = [](std::int64_t r) __attribute__((always_inline)) { return tangent_256ths[r][2]; };
+        const V slope = for_each_lane(row, slope_of);
 
         const V r = rest.head, z = r * r;
         const V t = r + (horner(z, t7, t5, t3) * z * r + rest.tail);
-        const BitsOf<V> pole = (row == 128);
+        const auto pole = row == 128;
         const V y = head + (tail + select(pole, -1.0, slope * t) / select(pole, t, one - head * t));
         return Flagged{xor_bits(y, sign_bit(x)), is_infinite(x)};
     }
@@ -71,7 +72,7 @@ template <class Form> struct Tan : Kernel<double(double)> {
         const V shifted = a * two_over_pi + shifter;
         const BitsOf<V> parity = parity_sign(shifted);
         const V y = tangent_quotient<Form>(Form::reduced(a, shifted - shifter), parity);
-        return Flagged{xor_bits(y, sign_bit(x) ^ parity), (a > limit)};
+        return Flagged{xor_bits(y, sign_bit(x) ^ parity), a > limit};
     }
 };
 

@@ -30,13 +30,13 @@ template <class Form> struct Tanpi : Kernel<double(double)> {
 
         // Where r is 0, y is +0 or +inf, and every other one of each changes its sign.
         const BitsOf<V> odd = bits(shifted) << 62 & sign_mask<V>;
-        const BitsOf<V> exact = (r == 0.0);
+        const auto exact = r == 0.0;
         return xor_bits(y, sign_bit(x) ^ select(exact, odd, parity));
     }
 
     template <class V> static TARN_INLINE auto fast(V x) {
         const V a = abs(x);
-        return Flagged{of_magnitude(a, x), (a > 0x1p50)};
+        return Flagged{of_magnitude(a, x), a > 0x1p50};
     }
 
     struct LargeArgument : Kernel<double(double)> {

@@ -63,7 +63,7 @@ struct Exp2fTable : Kernel<float(float)> {
 
     template <class V> static TARN_INLINE auto fast(V x) {
         const BitsOf<V> exponent = bits(x) & 0x7F800000;
-        const V flushed = from_bits(bits(x) & ~(exponent == 0));
+        const V flushed = where(~(exponent == 0), x);
         const V shifted = x + shifter;
         const V r = (shifter - shifted) + flushed;
         const V scale = from_bits(shift_right_logical(bits(shifted) + i32(bias), 6) << 23);

@@ -7,6 +7,7 @@
 // Worst error of asinhf: 1.886 ulp at 0.355718732; native 1238.
 // Worst error of acoshf: 2.085 ulp at 1.02927911; native 3878.
 #include "callout/callouts.hpp"
+#include "frame/double_word.hpp"
 #include "frame/exports.hpp"
 
 namespace tarn::singles {
@@ -34,9 +35,7 @@ struct Native {
 // ln(1 + w), or ln x + ln 2 where x is huge.
 template <class Form, class V> TARN_INLINE V log_of_sum(V w, V x) {
     const BitsOf<V> is_huge = x > huge;
-    const V larger = max(one, w), smaller = min(one, w);
-    const V whole = larger + smaller;
-    const V lost = smaller - (whole - larger);
+    const auto [whole, lost] = fast_two_sum(max(one, w), min(one, w));
     const V sum = select(is_huge, x, whole);
 
     const BitsOf<V> k = shift_right_logical(bits(sum) + 0x004AFB10, 23) - 127;

@@ -7,6 +7,7 @@
 // Worst error of atanhf: 2.093 ulp at 0.06156791; native 1470.
 #include "callout/callouts.hpp"
 #include "float/log/two_thirds.hpp"
+#include "frame/double_word.hpp"
 #include "frame/exports.hpp"
 
 namespace tarn::singles {
@@ -14,12 +15,6 @@ namespace {
 
 constexpr float one = 1.0f, half = 0.5f;
 constexpr float ln2 = factor_of_exponent(0x3F317218);  // 0.6931471824645996
-
-template <class V> TARN_INLINE V upper_12_bits(V x) { return from_bits(bits(x) & i32(0xFFFFF000)); }
-
-template <class V> struct Quotient {
-    V head, rest;
-};
 
 struct Full {
     static constexpr float q8 = f32(0x3E0D84ED);  // 0.13820238411426544
@@ -32,13 +27,14 @@ struct Full {
     static constexpr float q1 = -0.5f;
 
     // 2a/(1 - a).
-    template <class V> static TARN_INLINE Quotient<V> quotient(V a) {
+    template <class V> static TARN_INLINE HeadTail<V> quotient(V a) {
         const V n = a + a, d = one - a;
         const V d_lost = (one - d) - a;
-        const V y = upper_12_bits(reciprocal_estimate(d));
-        const V d_head = upper_12_bits(d), n_head = upper_12_bits(n);
-        const V e = (one - d_head * y) - ((d - d_head) + d_lost) * y;
-        return {n_head * y, (n - n_head) * y + (n * y) * (e + e * e)};
+        const V y = short_head(reciprocal_estimate(d));
+        const auto [d_head, d_rest] = short_split(d);
+        const auto [n_head, n_rest] = short_split(n);
+        const V e = (one - d_head * y) - (d_rest + d_lost) * y;
+        return {n_head * y, n_rest * y + (n * y) * (e + e * e)};
     }
     template <class V> static TARN_INLINE V log_m(V r) { return log1p_polynomial(r, q8, q7, q6, q5, q4, q3, q2, q1); }
 };
@@ -49,7 +45,7 @@ struct Native {
     static constexpr float q2 = f32(0x3EAA7160);  // 0.33289623260498047
     static constexpr float q1 = -0.5f;
 
-    template <class V> static TARN_INLINE Quotient<V> quotient(V a) {
+    template <class V> static TARN_INLINE HeadTail<V> quotient(V a) {
         const V d = one - a;
         const V y = reciprocal_estimate(d);
         return {(a + a) * (y * (2.0f - d * y)), V{}};
@@ -63,16 +59,14 @@ template <class Form> struct Atanhf : Kernel<float(float)> {
 
     template <class V> static TARN_INLINE auto fast(V x) {
         const V a = abs(x);
-        const auto [head, rest] = Form::quotient(a);
-        const V larger = max(one, head), smaller = min(one, head);
-        const V sum = larger + smaller;
-        const V tail = (smaller - (sum - larger)) + rest;
+        const auto [w, w_tail] = Form::quotient(a);
+        const auto [sum, sum_tail] = fast_two_sum(max(one, w), min(one, w));
         const auto [exponent, r_of_sum] = split_at_two_thirds(sum);
-        const V r = r_of_sum + tail * from_bits(bits(one) - exponent);
+        const V r = r_of_sum + (sum_tail + w_tail) * from_bits(bits(one) - exponent);
         const V y = to_f32(exponent) * ln2 + Form::log_m(r);
         // Outside [tiny, 1), in one wrapping sum.
         const BitsOf<V> special = bits(a) + i32(0x80000000 - tiny) >= i32(0x80000000 + 0x3F800000 - tiny);
-        return Flagged{y * or_bits(filled<V>(half), sign_bit(x)), special};
+        return Flagged{y * or_bits(half, sign_bit(x)), special};
     }
 };
 

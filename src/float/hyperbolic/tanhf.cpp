@@ -33,10 +33,12 @@ template <bool two_halves> struct Tanhf : Kernel<float(float)> {
         const BitsOf<V> part = min(difference_from_zero(top, filled<BitsOf<V>>(first)), last);
         const BitsOf<V> row = part >> 19;
         const V a = abs(x);
-        const auto low = cubic(widen_low(a), gather_columns_low<0>(tanhf_cubics, row), gather_columns_low<2>(tanhf_cubics, row));
+        const auto low = cubic(widen_low(a), gather_columns_low<0>(tanhf_cubics, row),
+                               gather_columns_low<2>(tanhf_cubics, row));
         const BitsOf<V> special = top > 0x7F000000;
         if constexpr (two_halves) {
-            const auto high = cubic(widen_high(a), gather_columns_high<0>(tanhf_cubics, row), gather_columns_high<2>(tanhf_cubics, row));
+            const auto high = cubic(widen_high(a), gather_columns_high<0>(tanhf_cubics, row),
+                                    gather_columns_high<2>(tanhf_cubics, row));
             return Flagged{or_bits(narrow(low, high), sign_bit(x)), special};
         } else {
             return Flagged{or_bits(narrow(low), sign_bit(x)), to_i64(special)};

@@ -38,11 +38,11 @@ struct Log10fNative : Kernel<float(float)> {
     static constexpr auto callout = callout::log10f;
 
     static constexpr float log10_2 = factor_of_exponent(0x3E9A209B);  // 0.3010300099849701
-    static constexpr float p5 = f32(0x3DCDC127);                  // 0.10046606510877609
-    static constexpr float p4 = f32(0xBDF4ED71);                  // -0.11959350854158401
-    static constexpr float p3 = f32(0x3E137DBE);                  // 0.14403435587882996
-    static constexpr float p2 = f32(0xBE5E0922);                  // -0.21683171391487122
-    static constexpr float p1 = f32(0x3EDE5CAE);                  // 0.43430083990097046
+    static constexpr float p5 = f32(0x3DCDC127);                      // 0.10046606510877609
+    static constexpr float p4 = f32(0xBDF4ED71);                      // -0.11959350854158401
+    static constexpr float p3 = f32(0x3E137DBE);                      // 0.14403435587882996
+    static constexpr float p2 = f32(0xBE5E0922);                      // -0.21683171391487122
+    static constexpr float p1 = f32(0x3EDE5CAE);                      // 0.43430083990097046
 
     template <class V> static TARN_INLINE auto fast(V x) {
         const auto [exponent, r] = split_at_two_thirds(x);

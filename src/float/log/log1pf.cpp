@@ -6,6 +6,7 @@
 // Worst error of log1pf: 0.622 ulp at 0.00195376272; native 1568.
 #include "callout/callouts.hpp"
 #include "float/log/two_thirds.hpp"
+#include "frame/double_word.hpp"
 #include "frame/exports.hpp"
 
 namespace tarn::singles {
@@ -32,7 +33,7 @@ struct Log1pf : Kernel<float(float)> {
     template <class V> static TARN_INLINE auto fast(V x) {
         const V larger = max(one, x), smaller = min(one, x);
         const V whole = larger + smaller;
-        const V s = from_bits(bits(whole) & ((abs(x) < small) | i32(0xFFFFFF00)));
+        const V s = and_bits(whole, (abs(x) < small) | i32(0xFFFFFF00));
         const V e = (larger - s) + smaller;
 
         const V m_256th = from_bits((bits(s) & 0x007FFFFF) | 0x3B800000);
@@ -43,13 +44,11 @@ struct Log1pf : Kernel<float(float)> {
         const V scale = c * from_bits(0x7B000000 - (bits(s) & 0x7F800000));
         const V r = s * scale - one;
         const V el = e * scale;
-        const V R = r + el;
-        const V p = (c3 * R + c2) * (R * R) + (el - (R - r));
+        const auto [R, R_tail] = fast_two_sum(r, el);
+        const V p = (c3 * R + c2) * (R * R) + R_tail;
 
-        const V a = k * ln2_head + heads;
-        const V sum = a + R;
-        const V sum_error = R - (sum - a);
-        const V y = (((k * ln2_tail + tails) + sum_error) + p) + sum;
+        const auto [sum, sum_tail] = fast_two_sum(k * ln2_head + heads, R);
+        const V y = (((k * ln2_tail + tails) + sum_tail) + p) + sum;
         return Flagged{or_bits(y, sign_bit(x)), outside(whole)};
     }
 };
@@ -58,9 +57,9 @@ struct Log1pfNative : Kernel<float(float)> {
     static constexpr auto callout = callout::log1pf;
 
     static constexpr float ln2 = factor_of_exponent(0x3F317218);  // 0.6931471824645996
-    static constexpr float q3 = f32(0x3E612933);              // 0.2198837250471115
-    static constexpr float q2 = f32(0xBE88E8FE);              // -0.2674025893211365
-    static constexpr float q1 = f32(0x3EAA7160);              // 0.33289623260498047
+    static constexpr float q3 = f32(0x3E612933);                  // 0.2198837250471115
+    static constexpr float q2 = f32(0xBE88E8FE);                  // -0.2674025893211365
+    static constexpr float q1 = f32(0x3EAA7160);                  // 0.33289623260498047
     static constexpr float q0 = -0.5f;
 
     template <class V> static TARN_INLINE auto fast(V x) {

@@ -31,7 +31,7 @@ template <bool two_halves> struct Powf : Kernel<float(float, float)> {
     static constexpr float one = 1.0, half = 0.5;
     static constexpr std::int32_t bound = 0x4059FE36;  // upper half of 103.9720458984375
 
-    // y ln x for two lanes.
+    // y ln x, in double precision.
     template <class V> static TARN_INLINE V log_product(V m, V c, V log_c, V k, V y) {
         const V r = m * c - one;
         const V p = r + r * r * (a2 + a3 * r);

@@ -24,7 +24,9 @@ struct Pownf : Kernel<float(float, std::int32_t)> {
 struct PownfNative : Kernel<float(float, std::int32_t)> {
     static constexpr auto callout = callout::pownf;
 
-    template <class V> static TARN_INLINE auto fast(V x, BitsOf<V> n) { return native_power<NativeIntegerExp>(x, to_f32(n)); }
+    template <class V> static TARN_INLINE auto fast(V x, BitsOf<V> n) {
+        return native_power<NativeIntegerExp>(x, to_f32(n));
+    }
 };
 
 }  // namespace

@@ -28,7 +28,7 @@ template <class V> TARN_INLINE HeadTail<V> split_log(V x) {
     const V m = from_bits(bits(x) - (rounded & 0x7F800000) + 0x3F800000);
     const auto [reciprocal, table_head, table_tail, padding] = gather_quads(powrf_logs, row);
 
-    const V mh = from_bits(bits(m) & 0x7FFFC000);
+    const V mh = and_bits(m, 0x7FFFC000);
     const V u = mh * reciprocal - 1.0f;
     const auto [r, r_tail] = fast_two_sum(u, (m - mh) * reciprocal);
     const V p = horner(r, c4, c3, c2) * (r * r);

@@ -38,7 +38,9 @@ struct InvfNative : Kernel<float(float)> {
     static constexpr auto callout = callout::invf;
     static constexpr std::uint32_t span = 0x7DFFE800;  // up to 8.502e37, just below 2^126
 
-    template <class V> static TARN_INLINE auto fast(V x) { return Flagged{reciprocal_estimate(x), outside_normal_span(x, span)}; }
+    template <class V> static TARN_INLINE auto fast(V x) {
+        return Flagged{reciprocal_estimate(x), outside_normal_span(x, span)};
+    }
 };
 
 }  // namespace

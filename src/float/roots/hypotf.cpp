@@ -25,8 +25,7 @@ struct Hypotf : Kernel<float(float, float)> {
 struct HypotfNative : Kernel<float(float, float)> {
     template <class V> static TARN_INLINE V fast(V x, V y) {
         const V sum = x * x + y * y;
-        const BitsOf<V> nonzero = ~(sum == 0.0f);
-        return sum * from_bits(bits(rsqrt_estimate(sum)) & nonzero);
+        return sum * where(~(sum == 0.0f), rsqrt_estimate(sum));
     }
 };
 

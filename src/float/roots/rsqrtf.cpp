@@ -17,7 +17,7 @@ struct Rsqrtf : Kernel<float(float)> {
     static constexpr float c1 = -0.5f;
 
     template <class V> static TARN_INLINE auto fast(V x) {
-        const V y = from_bits(bits(rsqrt_estimate(x)) & i32(0xFFFF8000));
+        const V y = and_bits(rsqrt_estimate(x), i32(0xFFFF8000));
         const V t = y * y * x - 1.0f;
         return Flagged{horner(t, c3, c2, c1) * t * y + y, not_positive_normal(x)};
     }

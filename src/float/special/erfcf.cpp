@@ -57,7 +57,7 @@ template <class Form> struct Erfcf : Kernel<float(float)> {
         const V scaled = value - h * (slope + slope * p);
         const BitsOf<V> negative = x < 0.0f;
         const V sum = scaled + where(negative, two);
-        return Flagged{sum * or_bits(filled<V>(unscale), negative & sign_mask<V>), ~(x < bound)};
+        return Flagged{sum * or_bits(unscale, negative & sign_mask<V>), ~(x < bound)};
     }
 };
 

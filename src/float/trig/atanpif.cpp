@@ -24,7 +24,7 @@ struct Full : arctangent::HalfTurns {
 };
 struct Native : arctangent::HalfTurnsNative {
     template <class V> static TARN_INLINE V argument(V a, BitsOf<V> small) {
-        return select(small, a, xor_bits(reciprocal_estimate(a), sign_mask<V>));
+        return select(small, a, negated(reciprocal_estimate(a)));
     }
 };
 

@@ -26,7 +26,6 @@ struct LargeArgument : Kernel<float(float)> {
 
 template <class Form> struct Cosf : Kernel<float(float)> {
     using long_path = LargeArgument;
-    static constexpr bool any_blocks = true;
 
     template <class V> static TARN_INLINE auto fast(V x) {
         using namespace sine;

@@ -26,7 +26,6 @@ struct LargeArgument : Kernel<Both<float, float>(float)> {
 
 template <class Form> struct Sincosf : Kernel<Both<float, float>(float)> {
     using long_path = LargeArgument;
-    static constexpr bool any_blocks = true;
 
     template <class V> static TARN_INLINE auto fast(V x) {
         using namespace sine;
@@ -36,9 +35,9 @@ template <class Form> struct Sincosf : Kernel<Both<float, float>(float)> {
         const auto parity = parity_sign(shifted);
         const V near_n = near(a, n);
         const auto side = sign_bit(near_n);
-        const V m = n + or_bits(V{} + half, side);
+        const V m = n + or_bits(half, side);
         const V sine_r = xor_bits(Form::rest(near_n, n), parity);
-        const V cosine_r = xor_bits(Form::rest(near(a, m), m), bits(-0.0f) ^ side ^ parity);
+        const V cosine_r = xor_bits(Form::rest(near(a, m), m), sign_mask<V> ^ side ^ parity);
         const V sine = xor_bits(Form::polynomial(sine_r, sine_r * sine_r), sign_bit(x));
         const V cosine = Form::polynomial(cosine_r, cosine_r * cosine_r);
         return FlaggedPair{sine, cosine, a > limit};

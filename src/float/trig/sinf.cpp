@@ -24,7 +24,6 @@ struct LargeArgument : Kernel<float(float)> {
 
 template <class Form> struct Sinf : Kernel<float(float)> {
     using long_path = LargeArgument;
-    static constexpr bool any_blocks = true;
 
     template <class V> static TARN_INLINE auto fast(V x) {
         using namespace sine;

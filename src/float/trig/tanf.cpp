@@ -37,7 +37,9 @@ struct Native {
     template <class V> static TARN_INLINE V reduced(V a, V n) {
         return ((a - n * half_pi_1) - n * half_pi_2) - n * half_pi_3;
     }
-    template <class V> static TARN_INLINE V value(Quotient<V> y) { return y.numerator * reciprocal_estimate(y.denominator); }
+    template <class V> static TARN_INLINE V value(Quotient<V> y) {
+        return y.numerator * reciprocal_estimate(y.denominator);
+    }
 };
 
 struct LargeArgument : Kernel<float(float)> {

@@ -4,7 +4,7 @@
 // that any estimate of at least 9 bits will do.
 #pragma once
 
-#include "frame/simd.hpp"
+#include "frame/double_word.hpp"
 
 namespace tarn::singles {
 
@@ -12,7 +12,6 @@ namespace tarn::singles {
 
 // r_tail is what r leaves of the remainder; only the pole feels it.
 template <class V> TARN_INLINE V from_tangent_table(BitsOf<V> row, V r, V r_tail) {
-    constexpr std::int32_t head_bits = i32(0xFFFFF000);
     constexpr float one = 1.0f;
     const auto [d_high, d_low, pole, t_high] = gather_quads<0>(tangent_128ths, row);
     const auto [t_low, l_high, l_low, c2] = gather_quads<4>(tangent_128ths, row);
@@ -20,10 +19,10 @@ template <class V> TARN_INLINE V from_tangent_table(BitsOf<V> row, V r, V r_tail
 
     const V d = d_high - r;
     const V d_error = (d_high - d) - r;
-    const V head = from_bits(bits(d) & head_bits);
+    const V head = short_head(d);
     const V tail = (((d - head) + d_low) + d_error) - r_tail;
 
-    const V y0 = from_bits(bits(reciprocal_estimate(head)) & head_bits);
+    const V y0 = short_head(reciprocal_estimate(head));
     const V e = one - head * y0;
     const V y = (y0 + y0 * e) * (one + e * e);
     const V q = tail * y;

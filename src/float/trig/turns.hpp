@@ -6,7 +6,7 @@
 // a turn.
 #pragma once
 
-#include "frame/simd.hpp"
+#include "frame/double_word.hpp"
 
 namespace tarn::singles {
 
@@ -78,12 +78,11 @@ template <class Unit, class V> TARN_INLINE Reduced<V> reduce_exactly(V x) {
 
     // The remainder in units, as a sum of 12 leading bits, the rest and a tail; then in radians.
     const V s = top + middle;
-    const V s_head = from_bits(bits(s) & i32(0xFFFFF000));
-    const V s_rest = s - s_head;
+    const auto [s_head, s_rest] = short_split(s);
     const V s_tail = (middle + (top - s)) + last;
     const V head = Unit::unit_head * s_head;  // exact
     const V rest = (Unit::unit_head * s_rest + s_head * Unit::unit_tail) +
-                       (Unit::unit * s_tail + Unit::unit_tail * s_rest);
+                   (Unit::unit * s_tail + Unit::unit_tail * s_rest);
     const V r = head + rest;
     const V r_tail = (head - r) + rest;
 

@@ -80,7 +80,7 @@ template <class Form, class V> TARN_INLINE V by_nodes(V x) {
 // The angle of the point (y, x); no value where a coordinate is special.
 template <class Form, class V> TARN_INLINE V point_by_nodes(V y, V x) {
     const V ay = abs(y), ax = abs(x);
-    const BitsOf<V> steep = ~(ay < ax), backward = (x < 0.0);
+    const BitsOf<V> steep = ~(ay < ax), backward = x < 0.0;
     const V q = select(steep, ax, ay) / select(steep, ay, ax);
     const Octant<V> octant = {(steep & nodes) + (backward & 2 * nodes), (steep ^ backward) & sign_mask<V>};
     return xor_bits(Form::angle(q, octant), sign_bit(y));

@@ -1,4 +1,4 @@
-// The steps of erfc x for x below 27.25, for kernels and callouts: the row, the series after the leading 1, and the sum.
+// The steps of erfc x below 27.25, for kernels and callouts: the row, the series after the leading 1, and the sum.
 #pragma once
 
 #include "frame/simd.hpp"
@@ -8,7 +8,8 @@ namespace tarn::doubles {
 #include "tables/erfc_points.inc"
 
 struct ErfcSeries {
-    static constexpr bool has_tail = true;  // of the value, whose rounding would show where the result is an octave below
+    // Of the value, whose rounding would show where the result is an octave below.
+    static constexpr bool has_tail = true;
 
     template <class V> static TARN_INLINE V series(V u, V d2) {
         constexpr double p0 = f64(0x3FE5555555555537);  // 0.6666666666666633
@@ -53,7 +54,7 @@ template <class Form, class V> TARN_INLINE V erfc_steps(V x) {
     const V g = slope * d;
     const V step = g + g * Form::series(c * d, d * d);
     const V scaled = value - (Form::has_tail ? step - gather_columns<1>(erfc_points, row).second : step);
-    const BitsOf<V> negative = (x < 0.0);
+    const auto negative = x < 0.0;
     const V sum = scaled + where(negative, two);
     return sum * or_bits(unscale, negative & sign_mask<V>);
 }

@@ -47,18 +47,14 @@ template <class V> TARN_INLINE HeadTail<V> log2_pair(V x) {
     const auto [row, m, e] = log2_reduction(x);
     const V reciprocal = gather(log2_reciprocals, row);
     const auto [log_head, log_tail] = gather_columns(log2_pairs, row);
-    const V mh = short_head(m), ml = m - mh;
+    const auto [mh, ml] = short_split(m);
     const V u = m * reciprocal;
     const V u_tail = (mh * reciprocal - u) + ml * reciprocal;
-    const V v = u - log2_e;  // exact
-    const V w = v + u_tail, w_tail = u_tail - (w - v);
+    const auto [w, w_tail] = fast_two_sum(u - log2_e, u_tail);  // the difference is exact
     const V p = horner(w, k6, k5, k4, k3, k2, k1) * w;
 
-    const V h0 = e + log_head;
-    const V h = h0 + w;
-    const V low = (((w - (h - h0)) + w_tail) + log_tail) + p;
-    const V head = h + low;
-    return {head, low - (head - h)};
+    const auto [h, h_tail] = fast_two_sum(e + log_head, w);
+    return fast_two_sum(h, ((h_tail + w_tail) + log_tail) + p);
 }
 
 }  // namespace tarn::doubles

@@ -1,8 +1,8 @@
 // ln of a number from 1 on that is known as a sum, to about 62 bits of the logarithm.
 //
 // x = 2^e M, M rounded to 8 fraction bits names a row; R, its reciprocal in 24 bits, makes w = x R 2^-e - 1, below
-// 2^-9, exact in the two halves of x. ln x = e ln 2 - ln R + w + w^2 P(w), with P of degree 4. The first three are summed
-// with their errors: heads on the grid of 2^-42, so that e ln 2 - ln R is exact, and both vanish next to 1.
+// 2^-9, exact in the two halves of x. ln x = e ln 2 - ln R + w + w^2 P(w), with P of degree 4. The first three are
+// summed with their errors: heads on the grid of 2^-42, so that e ln 2 - ln R is exact, and both vanish next to 1.
 #pragma once
 
 #include "frame/double_word.hpp"
@@ -38,18 +38,15 @@ template <class V> TARN_INLINE V log_from(const LogRow<V>& at, V w, V w_tail) {
     const auto [log_head, log_tail] = gather_columns<1>(ln_reciprocals, at.row);
     const V v = w + w_tail, v2 = v * v;
     const V p = v2 * ((c2 + c3 * v) + v2 * ((c4 + c5 * v) + c6 * v2));
-    const V h0 = at.e * ln2_head + log_head;
-    const V h = h0 + w;
-    const V low = (w - (h - h0)) + w_tail;
-    return h + ((low + (at.e * ln2_tail + log_tail)) + p);
+    const auto [h, h_tail] = fast_two_sum(at.e * ln2_head + log_head, w);
+    return h + (((h_tail + w_tail) + (at.e * ln2_tail + log_tail)) + p);
 }
 
 // ln(x + tail), the tail below an ulp of x, or with more octaves in the row's e than x has.
 template <class V> TARN_INLINE V log_of_sum(const LogRow<V>& at, V x, V tail) {
     const auto [xh, xl] = short_split(x);
-    const V head = xh * at.reciprocal - 1.0, rest = xl * at.reciprocal;
-    const V w = head + rest;
-    return log_from(at, w, (rest - (w - head)) + tail * at.reciprocal);
+    const auto [w, w_tail] = fast_two_sum(xh * at.reciprocal - 1.0, xl * at.reciprocal);
+    return log_from(at, w, w_tail + tail * at.reciprocal);
 }
 template <class V> TARN_INLINE V log_of_sum(V x, V tail) { return log_of_sum(log_row(x), x, tail); }
 

@@ -11,16 +11,17 @@ namespace tarn::doubles {
 
 // log2 of x^y; the head is exact.
 template <class V> TARN_INLINE HeadTail<V> log2_of_power(const HeadTail<V>& log, V y) {
-    const V yh = short_head(y), lh = short_head(log.head);
-    return {yh * lh, (yh * (log.head - lh) + (y - yh) * log.head) + y * log.tail};
+    const auto [yh, yl] = short_split(y);
+    const auto [lh, ll] = short_split(log.head);
+    return {yh * lh, (yh * ll + yl * log.head) + y * log.tail};
 }
 
 // log2 of x^(1/n) for an integer n: a quotient, and its remainder over n. The products of both halves of the
 // quotient with n are exact where the remainder counts.
 template <class V> TARN_INLINE HeadTail<V> log2_of_root(const HeadTail<V>& log, V n) {
     const V z = log.head / n;
-    const V zh = short_head(z);
-    return {z, (((log.head - zh * n) - (z - zh) * n) + log.tail) / n};
+    const auto [zh, zl] = short_split(z);
+    return {z, (((log.head - zh * n) - zl * n) + log.tail) / n};
 }
 
 // 2^z before its power of two: with T the row's value, scaled or not, it is T + (r T) q.

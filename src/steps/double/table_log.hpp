@@ -12,12 +12,11 @@ namespace tarn::doubles {
 #include "tables/log2_rows.inc"
 #include "tables/log_rows.inc"
 
-
 template <class V> TARN_INLINE V significand_1024th(V x) {
     return from_bits((bits(x) & 0x000FFFFFFFFFFFFF) | 0x3F50000000000000);
 }
 
-// R in single precision, where the estimate is made; four lanes, of which two count.
+// R in single precision, where the estimate is made, in the low half of a vector.
 template <class V> TARN_INLINE Like<V, float> rounded_reciprocal(V m) {
     return round<Rounding::nearest>(reciprocal_estimate(narrow(m)));
 }
@@ -34,7 +33,7 @@ template <class V> TARN_INLINE V exponent_for(V x, Like<V, float> R) {
 
 // m R - 1, the product exact in two halves.
 template <class V> TARN_INLINE V reduced_exactly(V m, V R) {
-    const V m_head = from_bits(bits(m) & i64(0xFFFFFFFFFC000000));
+    const V m_head = and_bits(m, i64(0xFFFFFFFFFC000000));
     return (m_head * R - 1.0) + (m - m_head) * R;
 }
 

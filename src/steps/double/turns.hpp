@@ -49,7 +49,9 @@ template <class V> TARN_INLINE Fraction<V> fraction_of_turn(V x) {
     using U = Unsigned<V>;
     const BitsOf<V> exponent = shift_right_logical(bits(abs(x)), 52);
     const auto column = [&](int i) __attribute__((always_inline)) {
-        return for_each_lane(exponent, [&](std::int64_t e) __attribute__((always_inline)) { return reciprocal_two_pi_192[e][i]; });
+        return for_each_lane(exponent, [i](std::int64_t e) __attribute__((always_inline)) {
+            return reciprocal_two_pi_192[e][i];
+        });
     };
     const U t4 = column(0), t2 = column(1), t0 = column(2);
     const U t5 = t4 >> 32, t3 = t2 >> 32, t1 = t0 >> 32;
@@ -76,7 +78,7 @@ template <class Unit, class V> TARN_INLINE HeadTail<V> in_radians(V s, V tail) {
     const auto [s_head, s_rest] = short_split(s);
     const V head = Unit::unit_head * s_head;
     const V rest = (Unit::unit_head * s_rest + s_head * Unit::unit_tail) +
-                       (Unit::unit * tail + Unit::unit_tail * s_rest);
+                   (Unit::unit * tail + Unit::unit_tail * s_rest);
     const V r = head + rest;
     return {r, (head - r) + rest};
 }
@@ -103,11 +105,11 @@ template <class Unit, class V> TARN_INLINE Reduced<V> reduce_exactly(V x) {
 
     // Too small for the fraction's bits: row 0, and |x| is its own remainder; so is a NaN.
     const V a = abs(x);
-    const BitsOf<V> large = (a > f64(0x3EB0000000000000));  // 2^-20
+    const auto large = a > f64(0x3EB0000000000000);  // 2^-20
     return {bits(shifted) & Unit::row_mask, {select(large, r, a), where(large, r_tail)}};
 }
 
 // Lanes for the callout: infinities, not NaNs.
-template <class V> TARN_INLINE BitsOf<V> is_infinite(V x) { return (abs(x) == f64(0x7FF0000000000000)); }
+template <class V> TARN_INLINE BitsOf<V> is_infinite(V x) { return abs(x) == f64(0x7FF0000000000000); }
 
 }  // namespace tarn::doubles
