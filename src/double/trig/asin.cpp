@@ -47,7 +47,7 @@ struct Native {
 };
 
 // A unit's turns, the tails of their heads, and v (1 + rest) with a tail added.
-struct Radians {
+struct InRadians {
     static constexpr double quarter = f64(0x3FF921FB54442D18);         // 1.5707963267948966 = pi/2
     static constexpr double quarter_tail = f64(0x3C91A62633145C07);    // 6.123233995736766e-17
     static constexpr double half_turn = f64(0x400921FB54442D18);       // 3.141592653589793 = pi
@@ -56,7 +56,7 @@ struct Radians {
     template <class V> static TARN_INLINE V angle(V v, V rest) { return v + v * rest; }
     template <class V> static TARN_INLINE V angle(V v, V rest, V tail) { return v + (v * rest + tail); }
 };
-struct HalfTurns {
+struct InHalfTurns {
     static constexpr double quarter = half, quarter_tail = 0.0;
     static constexpr double half_turn = one, half_turn_tail = 0.0;
     static constexpr double inv_pi = f64(0x3FD45F306DC9C883);       // 0.3183098861837907
@@ -109,14 +109,14 @@ template <class Form, class Unit, callout::UnaryDouble scalar> struct Arccosine 
     }
 };
 
-using Asin = Arcsine<Full, Radians, callout::asin>;
-using AsinNative = Arcsine<Native, Radians, callout::asin>;
-using Acos = Arccosine<Full, Radians, callout::acos>;
-using AcosNative = Arccosine<Native, Radians, callout::acos>;
-using Asinpi = Arcsine<Full, HalfTurns, callout::asinpi>;
-using AsinpiNative = Arcsine<Native, HalfTurns, callout::asinpi>;
-using Acospi = Arccosine<Full, HalfTurns, callout::acospi>;
-using AcospiNative = Arccosine<Native, HalfTurns, callout::acospi>;
+using Asin = Arcsine<Full, InRadians, callout::asin>;
+using AsinNative = Arcsine<Native, InRadians, callout::asin>;
+using Acos = Arccosine<Full, InRadians, callout::acos>;
+using AcosNative = Arccosine<Native, InRadians, callout::acos>;
+using Asinpi = Arcsine<Full, InHalfTurns, callout::asinpi>;
+using AsinpiNative = Arcsine<Native, InHalfTurns, callout::asinpi>;
+using Acospi = Arccosine<Full, InHalfTurns, callout::acospi>;
+using AcospiNative = Arccosine<Native, InHalfTurns, callout::acospi>;
 
 }  // namespace
 }  // namespace tarn::doubles

@@ -23,7 +23,7 @@ template <class Form, callout::BinaryDouble scalar> struct ByNodes : Kernel<doub
 struct Atan2AtWidth2 : Kernel<double(double, double)> {
     static constexpr auto callout = callout::atan2;
     template <class V> static TARN_INLINE auto fast(V y, V x) {
-        return Flagged{of_point<Radians>(y, x), no_coordinate(y) | no_coordinate(x)};
+        return Flagged{of_point<radians::Full>(y, x), no_coordinate(y) | no_coordinate(x)};
     }
 };
 

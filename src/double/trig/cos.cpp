@@ -13,6 +13,8 @@
 namespace tarn::doubles {
 namespace {
 
+using namespace sine;
+
 constexpr double half_pi = f64(0x3FF921FB54442D18);  // 1.5707963267948966
 
 struct LargeArgument : Kernel<double(double)> {
@@ -40,5 +42,5 @@ template <class Form> struct Cos : Kernel<double(double)> {
 }  // namespace
 }  // namespace tarn::doubles
 
-TARN_EXPORT(unary, cos, full, tarn::doubles::Cos<tarn::doubles::Full>)
-TARN_EXPORT(unary, cos, native, tarn::doubles::Cos<tarn::doubles::Native>)
+TARN_EXPORT(unary, cos, full, tarn::doubles::Cos<tarn::doubles::sine::Full>)
+TARN_EXPORT(unary, cos, native, tarn::doubles::Cos<tarn::doubles::sine::Native>)

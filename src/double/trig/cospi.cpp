@@ -15,6 +15,8 @@
 namespace tarn::doubles {
 namespace {
 
+using namespace sine;
+
 template <class Form> struct Cospi : Kernel<double(double)> {
     template <class V> static TARN_INLINE V of_magnitude(V a) {
         const V shifted = (a + half) + shifter;
@@ -40,5 +42,5 @@ template <class Form> struct Cospi : Kernel<double(double)> {
 }  // namespace
 }  // namespace tarn::doubles
 
-TARN_EXPORT(unary, cospi, full, tarn::doubles::Cospi<tarn::doubles::Full>)
-TARN_EXPORT(unary, cospi, native, tarn::doubles::Cospi<tarn::doubles::Native>)
+TARN_EXPORT(unary, cospi, full, tarn::doubles::Cospi<tarn::doubles::sine::Full>)
+TARN_EXPORT(unary, cospi, native, tarn::doubles::Cospi<tarn::doubles::sine::Native>)

@@ -13,6 +13,8 @@
 namespace tarn::doubles {
 namespace {
 
+using namespace sine;
+
 struct LargeArgument : Kernel<double(double)> {
     static constexpr auto callout = callout::sin;
     static constexpr int blocks_at_a_time = 2;
@@ -38,5 +40,5 @@ template <class Form> struct Sin : Kernel<double(double)> {
 }  // namespace
 }  // namespace tarn::doubles
 
-TARN_EXPORT(unary, sin, full, tarn::doubles::Sin<tarn::doubles::Full>)
-TARN_EXPORT(unary, sin, native, tarn::doubles::Sin<tarn::doubles::Native>)
+TARN_EXPORT(unary, sin, full, tarn::doubles::Sin<tarn::doubles::sine::Full>)
+TARN_EXPORT(unary, sin, native, tarn::doubles::Sin<tarn::doubles::sine::Native>)

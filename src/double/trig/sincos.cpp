@@ -15,6 +15,8 @@
 namespace tarn::doubles {
 namespace {
 
+using namespace sine;
+
 struct LargeArgument : Kernel<Both<double, double>(double)> {
     static constexpr auto callout = callout::sincos;
     static constexpr int blocks_at_a_time = 2;
@@ -49,7 +51,7 @@ template <class Form> struct Sincos : Kernel<Both<double, double>(double)> {
 }  // namespace
 }  // namespace tarn::doubles
 
-TARN_EXPORT(unary_second, sincos, full, tarn::doubles::Sincos<tarn::doubles::Full>)
-TARN_EXPORT(unary_second, sincos, native, tarn::doubles::Sincos<tarn::doubles::Native>)
-TARN_EXPORT(unary_pair, sincosreg, full, tarn::doubles::Sincos<tarn::doubles::Full>)
-TARN_EXPORT(unary_pair, sincosreg, native, tarn::doubles::Sincos<tarn::doubles::Native>)
+TARN_EXPORT(unary_second, sincos, full, tarn::doubles::Sincos<tarn::doubles::sine::Full>)
+TARN_EXPORT(unary_second, sincos, native, tarn::doubles::Sincos<tarn::doubles::sine::Native>)
+TARN_EXPORT(unary_pair, sincosreg, full, tarn::doubles::Sincos<tarn::doubles::sine::Full>)
+TARN_EXPORT(unary_pair, sincosreg, native, tarn::doubles::Sincos<tarn::doubles::sine::Native>)

@@ -4,7 +4,7 @@
 
 #include "frame/simd.hpp"
 
-namespace tarn::doubles {
+namespace tarn::doubles::sine {
 
 constexpr double pi = f64(0x400921FB54442D18);       // 3.141592653589793
 constexpr double inv_pi = f64(0x3FD45F306DC9C883);   // 0.3183098861837907
@@ -67,4 +67,4 @@ struct Native {
     template <class V> static TARN_INLINE V cosine(V r, V z) { return sine(r, z); }
 };
 
-}  // namespace tarn::doubles
+}  // namespace tarn::doubles::sine

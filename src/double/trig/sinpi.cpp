@@ -15,6 +15,8 @@
 namespace tarn::doubles {
 namespace {
 
+using namespace sine;
+
 template <class Form> struct Sinpi : Kernel<double(double)> {
     template <class V> static TARN_INLINE V of_magnitude(V a, V x) {
         const V shifted = a + shifter;
@@ -40,5 +42,5 @@ template <class Form> struct Sinpi : Kernel<double(double)> {
 }  // namespace
 }  // namespace tarn::doubles
 
-TARN_EXPORT(unary, sinpi, full, tarn::doubles::Sinpi<tarn::doubles::Full>)
-TARN_EXPORT(unary, sinpi, native, tarn::doubles::Sinpi<tarn::doubles::Native>)
+TARN_EXPORT(unary, sinpi, full, tarn::doubles::Sinpi<tarn::doubles::sine::Full>)
+TARN_EXPORT(unary, sinpi, native, tarn::doubles::Sinpi<tarn::doubles::sine::Native>)

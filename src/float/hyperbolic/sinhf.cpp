@@ -21,7 +21,7 @@ template <class V> struct Parts {
     V odd, even, sinh_n, cosh_n;
 };
 
-struct FullParts {
+struct Full {
     static constexpr float ln2_head = f32(0x3F317200);  // 0.693145751953125
     static constexpr float ln2_tail = f32(0x35BFBE8E);  // 1.428606765330187e-06
     static constexpr float s3 = f32(0x3E2AAA57);        // 0.16666541993618011
@@ -35,7 +35,7 @@ struct FullParts {
     template <class V> static TARN_INLINE V even(V r2) { return r2 * (c2 + r2 * (c4 + c6 * r2)); }
 };
 
-struct NativeParts {
+struct Native {
     static constexpr float ln2 = f32(0x3F317218);  // 0.6931471824645996
     static constexpr float e1 = f32(0x3F7FFBC9);   // 0.9999356865882874
     static constexpr float e2 = f32(0x3EFFFB2F);   // 0.49996325373649597
@@ -79,7 +79,7 @@ template <class Form> struct Coshf : Kernel<float(float)> {
 }  // namespace
 }  // namespace tarn::singles
 
-TARN_EXPORT(unary, sinhf, full, tarn::singles::Sinhf<tarn::singles::FullParts>)
-TARN_EXPORT(unary, sinhf, native, tarn::singles::Sinhf<tarn::singles::NativeParts>)
-TARN_EXPORT(unary, coshf, full, tarn::singles::Coshf<tarn::singles::FullParts>)
-TARN_EXPORT(unary, coshf, native, tarn::singles::Coshf<tarn::singles::NativeParts>)
+TARN_EXPORT(unary, sinhf, full, tarn::singles::Sinhf<tarn::singles::Full>)
+TARN_EXPORT(unary, sinhf, native, tarn::singles::Sinhf<tarn::singles::Native>)
+TARN_EXPORT(unary, coshf, full, tarn::singles::Coshf<tarn::singles::Full>)
+TARN_EXPORT(unary, coshf, native, tarn::singles::Coshf<tarn::singles::Native>)
