@@ -25,6 +25,7 @@ struct Exp2 : Kernel<double(double)> {
     static constexpr auto callout = callout::exp2;
 
     static constexpr double shifter = f64(0x42C8000000000000);  // 1.5 * 2^45: rounds to 128ths
+    // |r| <= 1/256; fit not recorded.
     static constexpr double c1 = f64(0x3FE62E42FEFA3685);       // 0.6931471805598483
     static constexpr double c2 = f64(0x3FCEBFBDFF82CA48);       // 0.24022650695913428
     static constexpr double c3 = f64(0x3FAC6B09B180F045);       // 0.05550413409989167
@@ -62,6 +63,7 @@ struct Exp10 : Kernel<double(double)> {
     static constexpr double shifter = f64(0x4338800000000000);             // 1.53125 * 2^52
     static constexpr double log10_2_128th_head = f64(0x3F63441350A00000);  // 0.0023517968411397305
     static constexpr double log10_2_128th_tail = f64(0xBD10C0219DC1DA99);  // -1.487744411497209e-14
+    // |r| <= 0.0012; fit not recorded.
     static constexpr double c1 = f64(0x40026BB1BBB55516);                  // 2.302585092994046
     static constexpr double c2 = f64(0x40053524C73CE8E3);                  // 2.650949055239026
     static constexpr double c3 = f64(0x4000470591CCEA8B);                  // 2.0346785917911965

@@ -13,6 +13,7 @@ template <class V> struct Chains {
     V t8, t2, t6, t4;
 };
 template <class V> TARN_INLINE Chains<V> chains(V t) {
+    // |t| <= 1; fit not recorded.
     constexpr double a1 = f64(0xBFD55555555553C5);   // -0.3333333333333111
     constexpr double a2 = f64(0x3FC999999997EE34);   // 0.19999999999696316
     constexpr double a3 = f64(0xBFC2492491EE55C7);   // -0.14285714269196445
@@ -40,6 +41,7 @@ template <class V> TARN_INLINE Chains<V> chains(V t) {
 
 // The short polynomial, the same without its leading 1.
 template <class V> TARN_INLINE V short_rest(V t) {
+    // |t| <= 1; fit not recorded.
     constexpr double n1 = f64(0xBFD55553E5B12000);  // -0.33333299094056201
     constexpr double n2 = f64(0x3FC9991FD5682609);  // 0.19998548431640042
     constexpr double n3 = f64(0xBFC2421B703FF523);  // -0.14264243107747018

@@ -18,6 +18,7 @@ constexpr double half = 0.5, one = 1.0;
 // z times (arcsin(v) - v)/(v z).
 struct Full {
     template <class V> static TARN_INLINE V rest(V z) {
+        // 0 <= z <= 1/4; fit not recorded.
         constexpr double d0 = f64(0x3FC555555555529C);   // 0.1666666666666473
         constexpr double d1 = f64(0x3FB333333337E0DE);   // 0.07500000000425497
         constexpr double d2 = f64(0x3FA6DB6DB3B445F8);   // 0.04464285677580543
@@ -37,6 +38,7 @@ struct Full {
 };
 struct Native {
     template <class V> static TARN_INLINE V rest(V z) {
+        // 0 <= z <= 1/4; fit not recorded.
         constexpr double n1 = f64(0x3FC5555C883A06DD);  // 0.1666675248307489
         constexpr double n2 = f64(0x3FB3301E456DEE8A);  // 0.074952976179640057
         constexpr double n3 = f64(0x3FA747E4B927AAE0);  // 0.045470378496096364

@@ -1,4 +1,4 @@
-// The tangent on [-pi/4, pi/4] as a quotient of polynomials, tan r = P/Q, or inverted Q/P.
+// The tangent as a quotient of polynomials, tan r = P/Q, or inverted Q/P.
 #pragma once
 
 #include "frame/simd.hpp"
@@ -7,6 +7,7 @@ namespace tarn::doubles::tangent {
 
 constexpr double one = 1.0;
 
+// |r| <= pi/4; fit not recorded.
 struct Full {
     template <class V> static TARN_INLINE V numerator(V z) {
         constexpr double p1 = f64(0xBFC06B97BF03648A);  // -0.12828347040957438

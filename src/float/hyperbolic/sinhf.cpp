@@ -24,6 +24,7 @@ template <class V> struct Parts {
 struct Full {
     static constexpr float ln2_head = f32(0x3F317200);  // 0.693145751953125
     static constexpr float ln2_tail = f32(0x35BFBE8E);  // 1.428606765330187e-06
+    // |r| <= 0.35; fit not recorded.
     static constexpr float s3 = f32(0x3E2AAA57);        // 0.16666541993618011
     static constexpr float s5 = f32(0x3C091461);        // 0.008366675116121769
     static constexpr float c2 = f32(0x3F000000);        // 0.5
@@ -37,6 +38,7 @@ struct Full {
 
 struct Native {
     static constexpr float ln2 = f32(0x3F317218);  // 0.6931471824645996
+    // |r| <= 0.35; fit not recorded.
     static constexpr float e1 = f32(0x3F7FFBC9);   // 0.9999356865882874
     static constexpr float e2 = f32(0x3EFFFB2F);   // 0.49996325373649597
     static constexpr float e3 = f32(0x3E2CCD2E);   // 0.16875144839286804

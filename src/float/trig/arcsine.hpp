@@ -28,7 +28,7 @@ template <class V> TARN_INLINE V polynomial(V z, float a5, float a4, float a3, f
     return (((a5 * z + a4) * (z * z) + (a3 * z + a2)) * z + a1) * z;
 }
 
-// The arcsine of u on the unfolded part.
+// The arcsine of u on the unfolded part. 0 <= z <= 1/4; fit not recorded.
 namespace radians {
 struct Full {
     static constexpr float a5 = f32(0x3D2EDC07);  // 0.042690303176641464

@@ -8,6 +8,7 @@ namespace tarn::singles::arctangent {
 
 constexpr float one = 1.0f;
 
+// 0 <= t <= 1; fit not recorded.
 namespace radians {
 struct Full {
     static constexpr float quarter = f32(0x3FC90FDB);    // 1.5707963705062866 = pi/2

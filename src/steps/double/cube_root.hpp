@@ -11,6 +11,7 @@ namespace tarn::doubles {
 #include "tables/cube_root_pairs.inc"
 #include "tables/reciprocal_cube_root_pairs.inc"
 
+// |t| < 1/65; fit not recorded.
 struct CubeRoot {
     static constexpr bool has_tail = true;  // of the pair
     static constexpr const auto& rows = cube_root_pairs;
