@@ -9,8 +9,8 @@
 //
 // Worst error of exp: 2.658 ulp at 40.173429847115138, width 2 3.004; native 5.944e+07.
 #include "callout/callouts.hpp"
-#include "steps/double/exp_parts.hpp"
 #include "frame/exports.hpp"
+#include "steps/double/exp_parts.hpp"
 
 namespace tarn::doubles {
 namespace {

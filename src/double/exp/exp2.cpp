@@ -6,14 +6,14 @@
 // Worst error of exp2: 1.643 ulp at 22.979727156384683; native 2.978e+07.
 // Worst error of exp10: 1.004 ulp at 27.578322790062902; native 2.978e+07.
 #include "callout/callouts.hpp"
-#include "steps/double/exp_parts.hpp"
 #include "frame/exports.hpp"
+#include "steps/double/exp_parts.hpp"
 
 namespace tarn::doubles {
 namespace {
 
 // 2^(n/128) (1 + r q), n in the shifted sum.
-template <class V> TARN_INLINE V exp2_sum(V shifted, V r, V q) {
+template <class V> TARN_INLINE V exp2_of(V shifted, V r, V q) {
     const V table = exp2_128th(shifted);
     return raised<7>(table + (table * r) * q, shifted);
 }
@@ -34,7 +34,7 @@ struct Exp2 : Kernel<double(double)> {
     template <class V> static TARN_INLINE auto fast(V x) {
         const V shifted = x + shifter;
         const V r = x - (shifted - shifter);
-        return Flagged{exp2_sum(shifted, r, horner(r, c4, c3, c2, c1)), upper_magnitude_above(x, exp2_bound)};
+        return Flagged{exp2_of(shifted, r, horner(r, c4, c3, c2, c1)), upper_magnitude_above(x, exp2_bound)};
     }
 };
 
@@ -52,7 +52,7 @@ struct Exp2Native : Kernel<double(double)> {
     template <class V> static TARN_INLINE auto fast(V x) {
         const V shifted = x + Exp2::shifter;
         const V r = x - (shifted - Exp2::shifter);
-        return Flagged{exp2_sum(shifted, r, c2 * r + c1), upper_magnitude_above(x, exp2_bound)};
+        return Flagged{exp2_of(shifted, r, c2 * r + c1), upper_magnitude_above(x, exp2_bound)};
     }
 };
 
@@ -74,7 +74,7 @@ struct Exp10 : Kernel<double(double)> {
         const V shifted = x * scale + shifter;
         const V n = shifted - shifter;
         const V r = (x - n * log10_2_128th_head) - n * log10_2_128th_tail;
-        return Flagged{exp2_sum(shifted, r, horner(r, c5, c4, c3, c2, c1)), upper_magnitude_above(x, exp10_bound)};
+        return Flagged{exp2_of(shifted, r, horner(r, c5, c4, c3, c2, c1)), upper_magnitude_above(x, exp10_bound)};
     }
 };
 
@@ -89,7 +89,7 @@ struct Exp10Native : Kernel<double(double)> {
         const V t = x * Exp10::scale;
         const V shifted = t + Exp10::shifter;
         const V u = t - (shifted - Exp10::shifter);
-        return Flagged{exp2_sum(shifted, u, c2 * u + c1), upper_magnitude_above(x, exp10_bound)};
+        return Flagged{exp2_of(shifted, u, c2 * u + c1), upper_magnitude_above(x, exp10_bound)};
     }
 };
 

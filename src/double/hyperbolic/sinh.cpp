@@ -7,8 +7,8 @@
 // Worst error of sinh: 2.143 ulp at 0.0035003781002475743; native 2.517e+04.
 // Worst error of cosh: 1.147 ulp at 1.2387298893219394; native 1584.
 #include "callout/callouts.hpp"
-#include "steps/double/exp_parts.hpp"
 #include "frame/exports.hpp"
+#include "steps/double/exp_parts.hpp"
 
 namespace tarn::doubles {
 namespace {

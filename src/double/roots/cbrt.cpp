@@ -4,8 +4,8 @@
 // Worst error of cbrt: 0.5204 ulp at 26113.207999487244; native 4.159e+06.
 // Worst error of rcbrt: 0.5207 ulp at 0.016601178101054648; native 1.818e+07.
 #include "callout/callouts.hpp"
-#include "steps/double/cube_root.hpp"
 #include "frame/exports.hpp"
+#include "steps/double/cube_root.hpp"
 
 namespace tarn::doubles {
 namespace {

@@ -6,8 +6,8 @@
 //
 // Worst error of erfc: 1.333 ulp at 25.683579412408275; native 3.968e+06.
 #include "callout/callouts.hpp"
-#include "steps/double/erfc.hpp"
 #include "frame/exports.hpp"
+#include "steps/double/erfc.hpp"
 
 namespace tarn::doubles {
 namespace {

@@ -4,8 +4,8 @@
 // Worst error of atan: 2.2 ulp at -0.0156250240511575, width 2 5.407; native 2.3e+07.
 // Worst error of atanpi: 1.961 ulp at -0.015626278659357961; native 2.318e+07.
 #include "double/trig/arctangent.hpp"
-#include "steps/double/arctangent_nodes.hpp"
 #include "frame/exports.hpp"
+#include "steps/double/arctangent_nodes.hpp"
 
 namespace tarn::doubles {
 namespace {

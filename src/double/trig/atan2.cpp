@@ -6,8 +6,8 @@
 // Worst error of atan2pi: 2.6 ulp at (0.21715009709793073, 13.053960418298065); native 2.542e+07.
 #include "callout/callouts.hpp"
 #include "double/trig/arctangent.hpp"
-#include "steps/double/arctangent_nodes.hpp"
 #include "frame/exports.hpp"
+#include "steps/double/arctangent_nodes.hpp"
 
 namespace tarn::doubles {
 namespace {

@@ -6,9 +6,9 @@
 //
 // Worst error of cos: 3.802 ulp at 6238573.373332506; native 5.453e+07.
 #include "callout/callouts.hpp"
-#include "steps/double/angle_table.hpp"
 #include "double/trig/sine.hpp"
 #include "frame/exports.hpp"
+#include "steps/double/angle_table.hpp"
 
 namespace tarn::doubles {
 namespace {

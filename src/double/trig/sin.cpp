@@ -6,9 +6,9 @@
 //
 // Worst error of sin: 3.815 ulp at 8101985.4936929857; native 5.453e+07.
 #include "callout/callouts.hpp"
-#include "steps/double/angle_table.hpp"
 #include "double/trig/sine.hpp"
 #include "frame/exports.hpp"
+#include "steps/double/angle_table.hpp"
 
 namespace tarn::doubles {
 namespace {

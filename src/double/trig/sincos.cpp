@@ -8,9 +8,9 @@
 // Worst error of sincos: 3.803 ulp at 7570927.5300161233; native 5.453e+07.
 // Worst error of sincosreg: 3.803 ulp at -7570927.5300161233; native 5.453e+07.
 #include "callout/callouts.hpp"
-#include "steps/double/angle_table.hpp"
 #include "double/trig/sine.hpp"
 #include "frame/exports.hpp"
+#include "steps/double/angle_table.hpp"
 
 namespace tarn::doubles {
 namespace {

@@ -9,8 +9,8 @@
 #include "callout/callouts.hpp"
 #include "double/trig/period.hpp"
 #include "double/trig/sine.hpp"
-#include "steps/double/turns.hpp"
 #include "frame/exports.hpp"
+#include "steps/double/turns.hpp"
 
 namespace tarn::doubles {
 namespace {

@@ -11,8 +11,8 @@
 #include "double/trig/period.hpp"
 #include "double/trig/sine.hpp"
 #include "double/trig/tangent_quotient.hpp"
-#include "steps/double/turns.hpp"
 #include "frame/exports.hpp"
+#include "steps/double/turns.hpp"
 
 namespace tarn::doubles {
 namespace {

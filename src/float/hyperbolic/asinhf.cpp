@@ -13,7 +13,7 @@
 namespace tarn::singles {
 namespace {
 
-constexpr float one = 1.0f, two = 2.0f;
+constexpr float one = 1.0f;
 constexpr float huge = f32(0x5F0AC723);      // 9.999999980506448e+18
 constexpr float ln2_head = f32(0x3F310000);  // 0.69140625
 constexpr float ln2_tail = f32(0x3AE42FF0);  // 0.0017409306019544601
@@ -43,7 +43,7 @@ template <class Form, class V> TARN_INLINE V log_of_sum(V w, V x) {
     const BitsOf<V> exponent = k << 23;
     const V carried = where(~is_huge, lost * from_bits(bits(one) - exponent));
     const V f = (from_bits(bits(sum) - exponent) - one) + carried;
-    const V s = Form::quotient(f, two + f);
+    const V s = Form::quotient(f, 2.0f + f);
     const V s2 = s * s;
     const V log_m = f - s * (f - s2 * Form::p(s2));
     const V n = to_f32(k - is_huge);

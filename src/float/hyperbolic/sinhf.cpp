@@ -17,7 +17,7 @@ constexpr std::int32_t half = 0x3F000000;    // 0.5
 constexpr std::uint32_t bound = 0x42AEAC4E;  // 87.33653259277344
 
 // S, C and the hyperbolic functions of n ln 2.
-template <class V> struct Parts {
+template <class V> struct Terms {
     V odd, even, sinh_n, cosh_n;
 };
 
@@ -49,7 +49,7 @@ struct Native {
     template <class V> static TARN_INLINE V even(V r2) { return r2 * (e2 + e4 * r2); }
 };
 
-template <class Form, class V> TARN_INLINE Parts<V> parts(V a) {
+template <class Form, class V> TARN_INLINE Terms<V> terms(V a) {
     const V shifted = a * log2_e + shifter;
     const V n = shifted - shifter;
     const BitsOf<V> exponent = bits(shifted) << 23;
@@ -63,7 +63,7 @@ template <class Form, class V> TARN_INLINE Parts<V> parts(V a) {
 template <class Form> struct Sinhf : Kernel<float(float)> {
     static constexpr auto callout = callout::sinhf;
     template <class V> static TARN_INLINE auto fast(V x) {
-        const auto [odd, even, sinh_n, cosh_n] = parts<Form>(abs(x));
+        const auto [odd, even, sinh_n, cosh_n] = terms<Form>(abs(x));
         const V y = ((cosh_n * odd) + (sinh_n * even)) + sinh_n;
         return Flagged{or_bits(y, sign_bit(x)), magnitude_above(x, bound)};
     }
@@ -72,7 +72,7 @@ template <class Form> struct Sinhf : Kernel<float(float)> {
 template <class Form> struct Coshf : Kernel<float(float)> {
     static constexpr auto callout = callout::coshf;
     template <class V> static TARN_INLINE auto fast(V x) {
-        const auto [odd, even, sinh_n, cosh_n] = parts<Form>(abs(x));
+        const auto [odd, even, sinh_n, cosh_n] = terms<Form>(abs(x));
         const V y = ((sinh_n * odd) + (cosh_n * even)) + cosh_n;
         return Flagged{y, magnitude_above(x, bound - 1)};
     }

@@ -4,8 +4,8 @@
 // Worst error of cbrtf: 0.5118 ulp at 5.99771786; native 355.4.
 // Worst error of rcbrtf: 0.5143 ulp at 1.12471235; native 888.7.
 #include "callout/callouts.hpp"
-#include "steps/float/cube_root.hpp"
 #include "frame/exports.hpp"
+#include "steps/float/cube_root.hpp"
 
 namespace tarn::singles {
 namespace {

@@ -9,7 +9,7 @@
 namespace tarn::singles {
 namespace {
 
-// A special lane makes every lane of its block the scalar function's, which is more exact than beside ordinary ones.
+// A special lane makes its group of four the scalar function's, which is more exact than beside ordinary ones.
 struct Atan2f : Atan2<arctangent::radians::Full> {
     static f32x4 finish(f32x4 y, f32x4 x, f32x4 result, unsigned) {
         for (int i = 0; i < 4; i++) {

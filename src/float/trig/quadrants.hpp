@@ -47,7 +47,7 @@ template <class Form, callout::BinaryFloat scalar> struct Atan2Native : Kernel<f
         const Ordered<V> o = ordered(bits(ay) > bits(ax), ay, ax);
         const V value = angle_of<Form>(y, x, o, o.smaller * reciprocal_estimate(o.larger), bits(x) >> 31);
         const BitsOf<V> from_smallest = wrapping_sum(bits(o.larger), 0x7F800000);  // 2^-126 becomes the least integer
-        return Flagged{value, from_smallest >= i32(0xFE000000)};  // 2^126
+        return Flagged{value, from_smallest >= i32(0xFE000000)};                   // 2^126
     }
 };
 

@@ -3,9 +3,9 @@
 // remainder r, below 1/256, makes up with a polynomial of degree 5.
 #pragma once
 
+#include "frame/kernel.hpp"
 #include "steps/double/exp_parts.hpp"
 #include "steps/double/log2_pair.hpp"
-#include "frame/kernel.hpp"
 
 namespace tarn::doubles {
 
