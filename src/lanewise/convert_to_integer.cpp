@@ -76,7 +76,7 @@ template <> struct Clamped<std::uint32_t(double)> {
     using Signature = std::uint32_t(double);
     template <Rounding mode, Floats V> static TARN_INLINE auto to(V x) {
         const auto r = round<mode>(x);
-        const auto clamped = from_bits(low_bits(min(r, 0x1p32 - 1)));     // a NaN too
+        const auto clamped = from_bits(low_bits(min(r, 0x1p32 - 1)));        // a NaN too
         const auto result = low_words(bits(select(bits(r), 0.0, clamped)));  // by the sign bit
         return (Like<V, std::uint32_t>)result;
     }

@@ -1,7 +1,7 @@
 // What the lane-wise families know of the two formats. A format is told by the 32-bit word that holds
-// sign, exponent and the top of the significand: every word in single precision, the upper one
-// of two in double precision. Tests on these words serve both precisions; in double precision the lower
-// words of such a test mean nothing.
+// sign, exponent and the top of the significand: every word in single precision, the upper one of two in
+// double precision. Tests on these words serve both precisions; in double precision the lower words of
+// such a test mean nothing.
 #pragma once
 
 #include "frame/lanes.hpp"

@@ -9,8 +9,8 @@
 //
 // Worst error of exp: 2.658 ulp at 40.173429847115138, width 2 3.004; native 5.944e+07.
 #include "callout/callouts.hpp"
-#include "steps/double/exp_parts.hpp"
 #include "frame/exports.hpp"
+#include "steps/double/exp_parts.hpp"
 
 namespace tarn::doubles {
 namespace {
@@ -28,6 +28,7 @@ struct Exp : Kernel<double(double)> {
     static constexpr double scale = f64(0x40971547652B82FE);            // 1477.3197218702985 = 1024/ln 2
     static constexpr double ln2_1024th_head = f64(0x3F462E42FEC00000);  // 0.0006769015431018488
     static constexpr double ln2_1024th_tail = f64(0x3D5D1CF79ABC9E3B);  // 4.137227896298129e-13
+    // |r| <= 0.00034; fit not recorded.
     static constexpr double k1 = f64(0x4008000002503ECD);               // 3.0000000172366073
     static constexpr double k2 = f64(0x4017FFFFFE3CA7B0);               // 5.999999973728265
     static constexpr double k3 = f64(0x4017FFFFFE3CA7AF);               // 5.999999973728264
@@ -45,6 +46,7 @@ struct Exp : Kernel<double(double)> {
 struct ExpNative : Kernel<double(double)> {
     static constexpr auto callout = callout::exp;
 
+    // |u| <= 1/2; fit not recorded.
     static constexpr double k1 = f64(0x4067154FB6857607);  // 184.66598058764086
     static constexpr double k2 = f64(0x40D0A6A6C7C54F24);  // 17050.60594303826
 
@@ -61,6 +63,7 @@ struct ExpNative : Kernel<double(double)> {
 struct ExpAtWidth2 : Kernel<double(double)> {
     static constexpr double ln2_64th_head = f64(0x3F862E42FEE00000);  // 0.01083042469326756
     static constexpr double ln2_64th_tail = f64(0x3D8A39EF35793C76);  // 2.9815858269852933e-12
+    // |r| <= ln 2/128; fit not recorded.
     static constexpr double c2 = f64(0x3FDFFFFFFFFF62DC);             // 0.4999999999977669
     static constexpr double c3 = f64(0x3FC555555555E58E);             // 0.16666666666769142
     static constexpr double c4 = f64(0x3FA555594C77FF02);             // 0.04166678484398113

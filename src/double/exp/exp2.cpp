@@ -6,14 +6,14 @@
 // Worst error of exp2: 1.643 ulp at 22.979727156384683; native 2.978e+07.
 // Worst error of exp10: 1.004 ulp at 27.578322790062902; native 2.978e+07.
 #include "callout/callouts.hpp"
-#include "steps/double/exp_parts.hpp"
 #include "frame/exports.hpp"
+#include "steps/double/exp_parts.hpp"
 
 namespace tarn::doubles {
 namespace {
 
 // 2^(n/128) (1 + r q), n in the shifted sum.
-template <class V> TARN_INLINE V exp2_sum(V shifted, V r, V q) {
+template <class V> TARN_INLINE V exp2_of(V shifted, V r, V q) {
     const V table = exp2_128th(shifted);
     return raised<7>(table + (table * r) * q, shifted);
 }
@@ -25,6 +25,7 @@ struct Exp2 : Kernel<double(double)> {
     static constexpr auto callout = callout::exp2;
 
     static constexpr double shifter = f64(0x42C8000000000000);  // 1.5 * 2^45: rounds to 128ths
+    // |r| <= 1/256; fit not recorded.
     static constexpr double c1 = f64(0x3FE62E42FEFA3685);       // 0.6931471805598483
     static constexpr double c2 = f64(0x3FCEBFBDFF82CA48);       // 0.24022650695913428
     static constexpr double c3 = f64(0x3FAC6B09B180F045);       // 0.05550413409989167
@@ -33,7 +34,7 @@ struct Exp2 : Kernel<double(double)> {
     template <class V> static TARN_INLINE auto fast(V x) {
         const V shifted = x + shifter;
         const V r = x - (shifted - shifter);
-        return Flagged{exp2_sum(shifted, r, horner(r, c4, c3, c2, c1)), upper_magnitude_above(x, exp2_bound)};
+        return Flagged{exp2_of(shifted, r, horner(r, c4, c3, c2, c1)), upper_magnitude_above(x, exp2_bound)};
     }
 };
 
@@ -51,7 +52,7 @@ struct Exp2Native : Kernel<double(double)> {
     template <class V> static TARN_INLINE auto fast(V x) {
         const V shifted = x + Exp2::shifter;
         const V r = x - (shifted - Exp2::shifter);
-        return Flagged{exp2_sum(shifted, r, c2 * r + c1), upper_magnitude_above(x, exp2_bound)};
+        return Flagged{exp2_of(shifted, r, c2 * r + c1), upper_magnitude_above(x, exp2_bound)};
     }
 };
 
@@ -62,6 +63,7 @@ struct Exp10 : Kernel<double(double)> {
     static constexpr double shifter = f64(0x4338800000000000);             // 1.53125 * 2^52
     static constexpr double log10_2_128th_head = f64(0x3F63441350A00000);  // 0.0023517968411397305
     static constexpr double log10_2_128th_tail = f64(0xBD10C0219DC1DA99);  // -1.487744411497209e-14
+    // |r| <= 0.0012; fit not recorded.
     static constexpr double c1 = f64(0x40026BB1BBB55516);                  // 2.302585092994046
     static constexpr double c2 = f64(0x40053524C73CE8E3);                  // 2.650949055239026
     static constexpr double c3 = f64(0x4000470591CCEA8B);                  // 2.0346785917911965
@@ -72,7 +74,7 @@ struct Exp10 : Kernel<double(double)> {
         const V shifted = x * scale + shifter;
         const V n = shifted - shifter;
         const V r = (x - n * log10_2_128th_head) - n * log10_2_128th_tail;
-        return Flagged{exp2_sum(shifted, r, horner(r, c5, c4, c3, c2, c1)), upper_magnitude_above(x, exp10_bound)};
+        return Flagged{exp2_of(shifted, r, horner(r, c5, c4, c3, c2, c1)), upper_magnitude_above(x, exp10_bound)};
     }
 };
 
@@ -87,7 +89,7 @@ struct Exp10Native : Kernel<double(double)> {
         const V t = x * Exp10::scale;
         const V shifted = t + Exp10::shifter;
         const V u = t - (shifted - Exp10::shifter);
-        return Flagged{exp2_sum(shifted, u, c2 * u + c1), upper_magnitude_above(x, exp10_bound)};
+        return Flagged{exp2_of(shifted, u, c2 * u + c1), upper_magnitude_above(x, exp10_bound)};
     }
 };
 

@@ -15,6 +15,7 @@ constexpr double one = 1.0;
 constexpr double scale = f64(0x40671547652B82FE);    // 184.6649652337873 = 128/ln 2
 constexpr double shifter = f64(0x42F80000001FF800);  // 1.5 * 2^48 and the exponent bias, in 16ths
 constexpr double bound = f64(0x40861DA04CBAFE43);    // 707.7032713517041
+// |r| <= ln 2/256; fit not recorded.
 constexpr double c2 = f64(0x3FDFFFFFFFFFFE5C);       // 0.4999999999999767
 constexpr double c3 = f64(0x3FC555555555541D);       // 0.166666666666658
 

@@ -6,8 +6,8 @@
 // Worst error of asinh: 0.5056 ulp at 0.0016154525686357393; native 6.711e+07.
 // Worst error of acosh: 0.5078 ulp at 95187564.626176775; native 6.559e+04.
 #include "callout/callouts.hpp"
-#include "steps/double/inverse_hyperbolic.hpp"
 #include "frame/exports.hpp"
+#include "steps/double/inverse_hyperbolic.hpp"
 
 namespace tarn::doubles {
 namespace {

@@ -5,8 +5,8 @@
 //
 // Worst error of atanh: 0.5065 ulp at 0.00097189912753878728; native 6.559e+04.
 #include "callout/callouts.hpp"
-#include "steps/double/inverse_hyperbolic.hpp"
 #include "frame/exports.hpp"
+#include "steps/double/inverse_hyperbolic.hpp"
 
 namespace tarn::doubles {
 namespace {

@@ -5,8 +5,8 @@
 //
 // Worst error of tanh: 0.588 ulp at 0.50001279473794025; native 1.167e+07.
 #include "callout/callouts.hpp"
-#include "steps/double/tanh.hpp"
 #include "frame/exports.hpp"
+#include "steps/double/tanh.hpp"
 
 namespace tarn::doubles {
 namespace {

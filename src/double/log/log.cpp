@@ -8,8 +8,8 @@
 // Worst error of log2: 2.089 ulp at 1.0004882923754586; native 2.426e+06.
 // Worst error of log10: 2.093 ulp at 1.0004917148651571; native 2.921e+06.
 #include "callout/callouts.hpp"
-#include "steps/double/table_log.hpp"
 #include "frame/exports.hpp"
+#include "steps/double/table_log.hpp"
 
 namespace tarn::doubles {
 namespace {

@@ -4,9 +4,9 @@
 //
 // Worst error of log1p: 0.7449 ulp at -0.00097440066835482314; native 2.095e+06.
 #include "callout/callouts.hpp"
-#include "steps/double/table_log.hpp"
 #include "frame/double_word.hpp"
 #include "frame/exports.hpp"
+#include "steps/double/table_log.hpp"
 
 namespace tarn::doubles {
 namespace {

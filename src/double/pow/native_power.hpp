@@ -9,6 +9,7 @@ namespace tarn::doubles {
 
 template <class V> TARN_INLINE Flagged<V, WordsOf<V>> native_power(V x, V z) {
     constexpr double shifter = f64(0x42C8000000000000);  // 52776558133248.0 = 1.5 * 2^45
+    // |r| <= 1/256; fit not recorded.
     constexpr double c2 = f64(0x3FCEBFC0C3C5D71B);       // 0.2402268367692891
     constexpr double c1 = f64(0x3FE62E4454752F82);       // 0.6931478166165877
     const V shifted = z + shifter;

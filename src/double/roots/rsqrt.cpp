@@ -3,8 +3,8 @@
 //
 // Worst error of rsqrt: 0.5 ulp at 5.6564302477225688e+100; native 1.5.
 #include "callout/callouts.hpp"
-#include "steps/double/corrected_rsqrt.hpp"
 #include "frame/exports.hpp"
+#include "steps/double/corrected_rsqrt.hpp"
 
 namespace tarn::doubles {
 namespace {

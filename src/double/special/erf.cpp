@@ -14,6 +14,7 @@ namespace {
 constexpr double largest = f64(0x4017F80000000000);  // 5.9921875 = 767/128
 constexpr double shifter = f64(0x42C0000000000000);  // 2^45: rounds to 128ths
 constexpr double tiny = f64(0x2FF0000000000000);     // 2^-256
+// |d| <= 1/256; fit not recorded.
 constexpr double third = f64(0xBFD5555555555555);    // -0.3333333333333333
 constexpr double k4 = f64(0x3FE5555555554B0C);       // 0.6666666666663743
 

@@ -13,6 +13,7 @@ template <class V> struct Chains {
     V t8, t2, t6, t4;
 };
 template <class V> TARN_INLINE Chains<V> chains(V t) {
+    // |t| <= 1; fit not recorded.
     constexpr double a1 = f64(0xBFD55555555553C5);   // -0.3333333333333111
     constexpr double a2 = f64(0x3FC999999997EE34);   // 0.19999999999696316
     constexpr double a3 = f64(0xBFC2492491EE55C7);   // -0.14285714269196445
@@ -40,6 +41,7 @@ template <class V> TARN_INLINE Chains<V> chains(V t) {
 
 // The short polynomial, the same without its leading 1.
 template <class V> TARN_INLINE V short_rest(V t) {
+    // |t| <= 1; fit not recorded.
     constexpr double n1 = f64(0xBFD55553E5B12000);  // -0.33333299094056201
     constexpr double n2 = f64(0x3FC9991FD5682609);  // 0.19998548431640042
     constexpr double n3 = f64(0xBFC2421B703FF523);  // -0.14264243107747018
@@ -53,7 +55,8 @@ template <class V> TARN_INLINE V short_rest(V t) {
     return horner(z2, n9, n7, n5, n3, n1) * z + horner(z2, n8, n6, n4, n2) * z2;
 }
 
-struct Radians {
+namespace radians {
+struct Full {
     static constexpr double quarter = f64(0x3FF921FB54442D18);    // 1.5707963267948966 = pi/2
     static constexpr double half_turn = f64(0x400921FB54442D18);  // 3.141592653589793 = pi
 
@@ -62,32 +65,35 @@ struct Radians {
         return base + t * (((one + t8) + t2) + (t6 + t4));
     }
 };
-
-struct RadiansNative : Radians {
+struct Native : Full {
     template <class V> static TARN_INLINE V from(V base, V t) { return base + (t + t * short_rest(t)); }
 };
-struct HalfTurnsNative {
+}  // namespace radians
+
+namespace half_turns {
+struct Native {
     static constexpr double quarter = 0.5;
     static constexpr double inv_pi = f64(0x3FD45F306DC9C883);  // 0.3183098861837907
     template <class V> static TARN_INLINE V from(V base, V t) { return base + (t + t * short_rest(t)) * inv_pi; }
 };
+}  // namespace half_turns
 
 // arctan x: of |x| or, from the quarter turn, of its reciprocal turned round. The order of the maximum makes a
 // NaN come through.
-template <class Unit, class V> TARN_INLINE V of(V x) {
+template <class Form, class V> TARN_INLINE V of(V x) {
     const V a = abs(x);
     const BitsOf<V> inverted = not_within(x, one);
     const V t = select(inverted, -1.0, a) / max(one, a);
-    return or_bits(Unit::from(where(inverted, Unit::quarter), t), sign_bit(x));
+    return or_bits(Form::from(where(inverted, Form::quarter), t), sign_bit(x));
 }
 
 // The angle of the point (y, x), mirrored into its quadrant; no value where a coordinate is special.
-template <class Unit, class V> TARN_INLINE V of_point(V y, V x) {
+template <class Form, class V> TARN_INLINE V of_point(V y, V x) {
     const V ay = abs(y), ax = abs(x);
     const BitsOf<V> steep = ~(ay < ax);
     const V q = select(steep, ax, ay) / select(steep, ay, ax);
-    const V first = Unit::from(where(steep, Unit::quarter), xor_bits(q, steep & sign_mask<V>));
-    return xor_bits(select(bits(x), Unit::half_turn - first, first), sign_bit(y));
+    const V first = Form::from(where(steep, Form::quarter), xor_bits(q, steep & sign_mask<V>));
+    return xor_bits(select(bits(x), Form::half_turn - first, first), sign_bit(y));
 }
 
 // Zeros, infinities and NaNs.

@@ -18,6 +18,7 @@ constexpr double half = 0.5, one = 1.0;
 // z times (arcsin(v) - v)/(v z).
 struct Full {
     template <class V> static TARN_INLINE V rest(V z) {
+        // 0 <= z <= 1/4; fit not recorded.
         constexpr double d0 = f64(0x3FC555555555529C);   // 0.1666666666666473
         constexpr double d1 = f64(0x3FB333333337E0DE);   // 0.07500000000425497
         constexpr double d2 = f64(0x3FA6DB6DB3B445F8);   // 0.04464285677580543
@@ -37,6 +38,7 @@ struct Full {
 };
 struct Native {
     template <class V> static TARN_INLINE V rest(V z) {
+        // 0 <= z <= 1/4; fit not recorded.
         constexpr double n1 = f64(0x3FC5555C883A06DD);  // 0.1666675248307489
         constexpr double n2 = f64(0x3FB3301E456DEE8A);  // 0.074952976179640057
         constexpr double n3 = f64(0x3FA747E4B927AAE0);  // 0.045470378496096364
@@ -47,7 +49,7 @@ struct Native {
 };
 
 // A unit's turns, the tails of their heads, and v (1 + rest) with a tail added.
-struct Radians {
+struct InRadians {
     static constexpr double quarter = f64(0x3FF921FB54442D18);         // 1.5707963267948966 = pi/2
     static constexpr double quarter_tail = f64(0x3C91A62633145C07);    // 6.123233995736766e-17
     static constexpr double half_turn = f64(0x400921FB54442D18);       // 3.141592653589793 = pi
@@ -56,7 +58,7 @@ struct Radians {
     template <class V> static TARN_INLINE V angle(V v, V rest) { return v + v * rest; }
     template <class V> static TARN_INLINE V angle(V v, V rest, V tail) { return v + (v * rest + tail); }
 };
-struct HalfTurns {
+struct InHalfTurns {
     static constexpr double quarter = half, quarter_tail = 0.0;
     static constexpr double half_turn = one, half_turn_tail = 0.0;
     static constexpr double inv_pi = f64(0x3FD45F306DC9C883);       // 0.3183098861837907
@@ -109,14 +111,14 @@ template <class Form, class Unit, callout::UnaryDouble scalar> struct Arccosine 
     }
 };
 
-using Asin = Arcsine<Full, Radians, callout::asin>;
-using AsinNative = Arcsine<Native, Radians, callout::asin>;
-using Acos = Arccosine<Full, Radians, callout::acos>;
-using AcosNative = Arccosine<Native, Radians, callout::acos>;
-using Asinpi = Arcsine<Full, HalfTurns, callout::asinpi>;
-using AsinpiNative = Arcsine<Native, HalfTurns, callout::asinpi>;
-using Acospi = Arccosine<Full, HalfTurns, callout::acospi>;
-using AcospiNative = Arccosine<Native, HalfTurns, callout::acospi>;
+using Asin = Arcsine<Full, InRadians, callout::asin>;
+using AsinNative = Arcsine<Native, InRadians, callout::asin>;
+using Acos = Arccosine<Full, InRadians, callout::acos>;
+using AcosNative = Arccosine<Native, InRadians, callout::acos>;
+using Asinpi = Arcsine<Full, InHalfTurns, callout::asinpi>;
+using AsinpiNative = Arcsine<Native, InHalfTurns, callout::asinpi>;
+using Acospi = Arccosine<Full, InHalfTurns, callout::acospi>;
+using AcospiNative = Arccosine<Native, InHalfTurns, callout::acospi>;
 
 }  // namespace
 }  // namespace tarn::doubles

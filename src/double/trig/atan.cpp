@@ -4,8 +4,8 @@
 // Worst error of atan: 2.2 ulp at -0.0156250240511575, width 2 5.407; native 2.3e+07.
 // Worst error of atanpi: 1.961 ulp at -0.015626278659357961; native 2.318e+07.
 #include "double/trig/arctangent.hpp"
-#include "steps/double/arctangent_nodes.hpp"
 #include "frame/exports.hpp"
+#include "steps/double/arctangent_nodes.hpp"
 
 namespace tarn::doubles {
 namespace {
@@ -15,14 +15,14 @@ using namespace arctangent;
 template <class Form> struct ByNodes : Kernel<double(double)> {
     template <class V> static TARN_INLINE auto fast(V x) { return by_nodes<Form>(x); }
 };
-template <class Unit> struct ByPolynomial : Kernel<double(double)> {
-    template <class V> static TARN_INLINE auto fast(V x) { return of<Unit>(x); }
+template <class Form> struct ByPolynomial : Kernel<double(double)> {
+    template <class V> static TARN_INLINE auto fast(V x) { return of<Form>(x); }
 };
 
-using Atan = ExceptAt<ByNodes<Full<RadiansByNodes>>, 2, ByPolynomial<Radians>>;
-using AtanNative = ByPolynomial<RadiansNative>;
+using Atan = ExceptAt<ByNodes<Full<RadiansByNodes>>, 2, ByPolynomial<radians::Full>>;
+using AtanNative = ByPolynomial<radians::Native>;
 using Atanpi = ByNodes<Full<HalfTurnsByNodes>>;
-using AtanpiNative = ByPolynomial<HalfTurnsNative>;
+using AtanpiNative = ByPolynomial<half_turns::Native>;
 
 }  // namespace
 }  // namespace tarn::doubles

@@ -6,8 +6,8 @@
 // Worst error of atan2pi: 2.6 ulp at (0.21715009709793073, 13.053960418298065); native 2.542e+07.
 #include "callout/callouts.hpp"
 #include "double/trig/arctangent.hpp"
-#include "steps/double/arctangent_nodes.hpp"
 #include "frame/exports.hpp"
+#include "steps/double/arctangent_nodes.hpp"
 
 namespace tarn::doubles {
 namespace {
@@ -23,7 +23,7 @@ template <class Form, callout::BinaryDouble scalar> struct ByNodes : Kernel<doub
 struct Atan2AtWidth2 : Kernel<double(double, double)> {
     static constexpr auto callout = callout::atan2;
     template <class V> static TARN_INLINE auto fast(V y, V x) {
-        return Flagged{of_point<Radians>(y, x), no_coordinate(y) | no_coordinate(x)};
+        return Flagged{of_point<radians::Full>(y, x), no_coordinate(y) | no_coordinate(x)};
     }
 };
 

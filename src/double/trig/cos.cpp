@@ -6,12 +6,14 @@
 //
 // Worst error of cos: 3.802 ulp at 6238573.373332506; native 5.453e+07.
 #include "callout/callouts.hpp"
-#include "steps/double/angle_table.hpp"
 #include "double/trig/sine.hpp"
 #include "frame/exports.hpp"
+#include "steps/double/angle_table.hpp"
 
 namespace tarn::doubles {
 namespace {
+
+using namespace sine;
 
 constexpr double half_pi = f64(0x3FF921FB54442D18);  // 1.5707963267948966
 
@@ -40,5 +42,5 @@ template <class Form> struct Cos : Kernel<double(double)> {
 }  // namespace
 }  // namespace tarn::doubles
 
-TARN_EXPORT(unary, cos, full, tarn::doubles::Cos<tarn::doubles::Full>)
-TARN_EXPORT(unary, cos, native, tarn::doubles::Cos<tarn::doubles::Native>)
+TARN_EXPORT(unary, cos, full, tarn::doubles::Cos<tarn::doubles::sine::Full>)
+TARN_EXPORT(unary, cos, native, tarn::doubles::Cos<tarn::doubles::sine::Native>)

@@ -9,11 +9,13 @@
 #include "callout/callouts.hpp"
 #include "double/trig/period.hpp"
 #include "double/trig/sine.hpp"
-#include "steps/double/turns.hpp"
 #include "frame/exports.hpp"
+#include "steps/double/turns.hpp"
 
 namespace tarn::doubles {
 namespace {
+
+using namespace sine;
 
 template <class Form> struct Cospi : Kernel<double(double)> {
     template <class V> static TARN_INLINE V of_magnitude(V a) {
@@ -40,5 +42,5 @@ template <class Form> struct Cospi : Kernel<double(double)> {
 }  // namespace
 }  // namespace tarn::doubles
 
-TARN_EXPORT(unary, cospi, full, tarn::doubles::Cospi<tarn::doubles::Full>)
-TARN_EXPORT(unary, cospi, native, tarn::doubles::Cospi<tarn::doubles::Native>)
+TARN_EXPORT(unary, cospi, full, tarn::doubles::Cospi<tarn::doubles::sine::Full>)
+TARN_EXPORT(unary, cospi, native, tarn::doubles::Cospi<tarn::doubles::sine::Native>)

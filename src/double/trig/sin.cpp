@@ -6,12 +6,14 @@
 //
 // Worst error of sin: 3.815 ulp at 8101985.4936929857; native 5.453e+07.
 #include "callout/callouts.hpp"
-#include "steps/double/angle_table.hpp"
 #include "double/trig/sine.hpp"
 #include "frame/exports.hpp"
+#include "steps/double/angle_table.hpp"
 
 namespace tarn::doubles {
 namespace {
+
+using namespace sine;
 
 struct LargeArgument : Kernel<double(double)> {
     static constexpr auto callout = callout::sin;
@@ -38,5 +40,5 @@ template <class Form> struct Sin : Kernel<double(double)> {
 }  // namespace
 }  // namespace tarn::doubles
 
-TARN_EXPORT(unary, sin, full, tarn::doubles::Sin<tarn::doubles::Full>)
-TARN_EXPORT(unary, sin, native, tarn::doubles::Sin<tarn::doubles::Native>)
+TARN_EXPORT(unary, sin, full, tarn::doubles::Sin<tarn::doubles::sine::Full>)
+TARN_EXPORT(unary, sin, native, tarn::doubles::Sin<tarn::doubles::sine::Native>)

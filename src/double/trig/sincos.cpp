@@ -8,12 +8,14 @@
 // Worst error of sincos: 3.803 ulp at 7570927.5300161233; native 5.453e+07.
 // Worst error of sincosreg: 3.803 ulp at -7570927.5300161233; native 5.453e+07.
 #include "callout/callouts.hpp"
-#include "steps/double/angle_table.hpp"
 #include "double/trig/sine.hpp"
 #include "frame/exports.hpp"
+#include "steps/double/angle_table.hpp"
 
 namespace tarn::doubles {
 namespace {
+
+using namespace sine;
 
 struct LargeArgument : Kernel<Both<double, double>(double)> {
     static constexpr auto callout = callout::sincos;
@@ -49,7 +51,7 @@ template <class Form> struct Sincos : Kernel<Both<double, double>(double)> {
 }  // namespace
 }  // namespace tarn::doubles
 
-TARN_EXPORT(unary_second, sincos, full, tarn::doubles::Sincos<tarn::doubles::Full>)
-TARN_EXPORT(unary_second, sincos, native, tarn::doubles::Sincos<tarn::doubles::Native>)
-TARN_EXPORT(unary_pair, sincosreg, full, tarn::doubles::Sincos<tarn::doubles::Full>)
-TARN_EXPORT(unary_pair, sincosreg, native, tarn::doubles::Sincos<tarn::doubles::Native>)
+TARN_EXPORT(unary_second, sincos, full, tarn::doubles::Sincos<tarn::doubles::sine::Full>)
+TARN_EXPORT(unary_second, sincos, native, tarn::doubles::Sincos<tarn::doubles::sine::Native>)
+TARN_EXPORT(unary_pair, sincosreg, full, tarn::doubles::Sincos<tarn::doubles::sine::Full>)
+TARN_EXPORT(unary_pair, sincosreg, native, tarn::doubles::Sincos<tarn::doubles::sine::Native>)

@@ -4,7 +4,7 @@
 
 #include "frame/simd.hpp"
 
-namespace tarn::doubles {
+namespace tarn::doubles::sine {
 
 constexpr double pi = f64(0x400921FB54442D18);       // 3.141592653589793
 constexpr double inv_pi = f64(0x3FD45F306DC9C883);   // 0.3183098861837907
@@ -15,7 +15,7 @@ constexpr double half = 0.5;
 template <class V> TARN_INLINE BitsOf<V> parity_sign(V shifted) { return bits(shifted) << 63; }
 
 // x - n pi for whole and for half n below 2^23, in two steps: `near` the exact products, `rest` what
-// follows. Then the sine of r from r and r^2.
+// follows. Then the sine of r from r and r^2. |r| <= pi/2; fit not recorded.
 struct Full {
     static constexpr double pi_1 = f64(0x400921FB40000000);  // 3.141592502593994
     static constexpr double pi_2 = f64(0x3E84442D00000000);  // 1.5099578831723193e-07
@@ -67,4 +67,4 @@ struct Native {
     template <class V> static TARN_INLINE V cosine(V r, V z) { return sine(r, z); }
 };
 
-}  // namespace tarn::doubles
+}  // namespace tarn::doubles::sine

@@ -9,11 +9,13 @@
 #include "callout/callouts.hpp"
 #include "double/trig/period.hpp"
 #include "double/trig/sine.hpp"
-#include "steps/double/turns.hpp"
 #include "frame/exports.hpp"
+#include "steps/double/turns.hpp"
 
 namespace tarn::doubles {
 namespace {
+
+using namespace sine;
 
 template <class Form> struct Sinpi : Kernel<double(double)> {
     template <class V> static TARN_INLINE V of_magnitude(V a, V x) {
@@ -40,5 +42,5 @@ template <class Form> struct Sinpi : Kernel<double(double)> {
 }  // namespace
 }  // namespace tarn::doubles
 
-TARN_EXPORT(unary, sinpi, full, tarn::doubles::Sinpi<tarn::doubles::Full>)
-TARN_EXPORT(unary, sinpi, native, tarn::doubles::Sinpi<tarn::doubles::Native>)
+TARN_EXPORT(unary, sinpi, full, tarn::doubles::Sinpi<tarn::doubles::sine::Full>)
+TARN_EXPORT(unary, sinpi, native, tarn::doubles::Sinpi<tarn::doubles::sine::Native>)

@@ -10,18 +10,20 @@
 #include "callout/callouts.hpp"
 #include "double/trig/sine.hpp"
 #include "double/trig/tangent_quotient.hpp"
-#include "steps/double/turns.hpp"
 #include "frame/exports.hpp"
+#include "steps/double/turns.hpp"
 
 namespace tarn::doubles {
 namespace {
+
+using sine::parity_sign, sine::shifter;
 
 #include "tables/tangent_256ths.inc"
 
 constexpr double two_over_pi = f64(0x3FE45F306DC9C883);  // 0.6366197723675814
 constexpr double limit = f64(0x40FF400000000000);        // 128000.0
 
-struct TanFull : TangentFull {
+struct Full : tangent::Full {
     static constexpr double half_pi_1 = f64(0x3FF921FB40000000);  // 1.570796251296997
     static constexpr double half_pi_2 = f64(0x3E74442D00000000);  // 7.549789415861596e-08
     static constexpr double half_pi_3 = f64(0x3CF8469880000000);  // 5.390302529957765e-15
@@ -31,7 +33,7 @@ struct TanFull : TangentFull {
         return (((a - n * half_pi_1) - n * half_pi_2) - n * half_pi_3) - n * half_pi_4;
     }
 };
-struct TanNative : TangentNative {
+struct Native : tangent::Native {
     static constexpr double half_pi_1 = f64(0x3FF921FB54440000);  // 1.5707963267923333
     static constexpr double half_pi_2 = f64(0x3D868C234C4C0000);  // 2.5633441515839558e-12
     static constexpr double half_pi_3 = f64(0x3B298A2E03707345);  // 1.0562999066987428e-23
@@ -58,7 +60,7 @@ struct LargeArgument : Kernel<double(double)> {
         const V r = rest.head, z = r * r;
         const V t = r + (horner(z, t7, t5, t3) * z * r + rest.tail);
         const auto pole = row == 128;
-        const V y = head + (tail + select(pole, -1.0, slope * t) / select(pole, t, one - head * t));
+        const V y = head + (tail + select(pole, -1.0, slope * t) / select(pole, t, 1.0 - head * t));
         return Flagged{xor_bits(y, sign_bit(x)), is_infinite(x)};
     }
 };
@@ -71,7 +73,7 @@ template <class Form> struct Tan : Kernel<double(double)> {
         const V a = abs(x);
         const V shifted = a * two_over_pi + shifter;
         const BitsOf<V> parity = parity_sign(shifted);
-        const V y = tangent_quotient<Form>(Form::reduced(a, shifted - shifter), parity);
+        const V y = tangent::quotient<Form>(Form::reduced(a, shifted - shifter), parity);
         return Flagged{xor_bits(y, sign_bit(x) ^ parity), a > limit};
     }
 };
@@ -79,5 +81,5 @@ template <class Form> struct Tan : Kernel<double(double)> {
 }  // namespace
 }  // namespace tarn::doubles
 
-TARN_EXPORT(unary, tan, full, tarn::doubles::Tan<tarn::doubles::TanFull>)
-TARN_EXPORT(unary, tan, native, tarn::doubles::Tan<tarn::doubles::TanNative>)
+TARN_EXPORT(unary, tan, full, tarn::doubles::Tan<tarn::doubles::Full>)
+TARN_EXPORT(unary, tan, native, tarn::doubles::Tan<tarn::doubles::Native>)

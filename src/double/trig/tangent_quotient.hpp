@@ -1,13 +1,14 @@
-// The tangent on [-pi/4, pi/4] as a quotient of polynomials, tan r = P/Q, or inverted Q/P.
+// The tangent as a quotient of polynomials, tan r = P/Q, or inverted Q/P.
 #pragma once
 
 #include "frame/simd.hpp"
 
-namespace tarn::doubles {
+namespace tarn::doubles::tangent {
 
 constexpr double one = 1.0;
 
-struct TangentFull {
+// |r| <= pi/4; fit not recorded.
+struct Full {
     template <class V> static TARN_INLINE V numerator(V z) {
         constexpr double p1 = f64(0xBFC06B97BF03648A);  // -0.12828347040957438
         constexpr double p2 = f64(0x3F66FC6FE2982A7B);  // 0.002805918241169989
@@ -22,7 +23,7 @@ struct TangentFull {
     }
 };
 // Relative error 2.6e-11; a term less on both sides would have 1.7e-8.
-struct TangentNative {
+struct Native {
     template <class V> static TARN_INLINE V numerator(V z) {
         constexpr double p1 = f64(0xBFBC81C62C052D6B);  // -0.11135519575798518
         constexpr double p2 = f64(0x3F519BB5816E9DD5);  // 0.0010747215762679692
@@ -36,10 +37,10 @@ struct TangentNative {
 };
 
 // Inverted where `inverted` has its sign bit set.
-template <class Form, class V> TARN_INLINE V tangent_quotient(V r, BitsOf<V> inverted) {
+template <class Form, class V> TARN_INLINE V quotient(V r, BitsOf<V> inverted) {
     const V z = r * r;
     const V p = Form::numerator(z) * r, q = Form::denominator(z);
     return select(inverted, q, p) / select(inverted, p, q);
 }
 
-}  // namespace tarn::doubles
+}  // namespace tarn::doubles::tangent

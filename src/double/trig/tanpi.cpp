@@ -11,11 +11,13 @@
 #include "double/trig/period.hpp"
 #include "double/trig/sine.hpp"
 #include "double/trig/tangent_quotient.hpp"
-#include "steps/double/turns.hpp"
 #include "frame/exports.hpp"
+#include "steps/double/turns.hpp"
 
 namespace tarn::doubles {
 namespace {
+
+using sine::parity_sign, sine::pi;
 
 constexpr double half_shifter = f64(0x4328000000000000);  // 3377699720527872.0 = 1.5 * 2^51: rounds to halves
 
@@ -26,7 +28,7 @@ template <class Form> struct Tanpi : Kernel<double(double)> {
         const V shifted = a + half_shifter;
         const BitsOf<V> parity = parity_sign(shifted);
         const V r = (a - (shifted - half_shifter)) * pi;
-        const V y = tangent_quotient<Form>(r, parity);
+        const V y = tangent::quotient<Form>(r, parity);
 
         // Where r is 0, y is +0 or +inf, and every other one of each changes its sign.
         const BitsOf<V> odd = bits(shifted) << 62 & sign_mask<V>;
@@ -51,5 +53,5 @@ template <class Form> struct Tanpi : Kernel<double(double)> {
 }  // namespace
 }  // namespace tarn::doubles
 
-TARN_EXPORT(unary, tanpi, full, tarn::doubles::Tanpi<tarn::doubles::TangentFull>)
-TARN_EXPORT(unary, tanpi, native, tarn::doubles::Tanpi<tarn::doubles::TangentNative>)
+TARN_EXPORT(unary, tanpi, full, tarn::doubles::Tanpi<tarn::doubles::tangent::Full>)
+TARN_EXPORT(unary, tanpi, native, tarn::doubles::Tanpi<tarn::doubles::tangent::Native>)

@@ -22,6 +22,7 @@ struct Exp10f : Kernel<float(float)> {
     static constexpr float scale = f32(0x44D49A78);               // 1700.8271484375 = 512 log2 10
     static constexpr float log10_2_512th_head = f32(0x3A1A0000);  // 0.00058746337890625
     static constexpr float log10_2_512th_tail = f32(0x35026A14);  // 4.858313786826329e-07
+    // |r| <= 0.0003; fit not recorded.
     static constexpr float slope = f32(0x40135D8D);               // 2.3025848865509033
     static constexpr float bias = f32(0x33F5FDEA);                // 1.145488823794949e-07
 
@@ -42,6 +43,7 @@ struct Exp10fNative : Kernel<float(float)> {
     static constexpr auto callout = callout::exp10f;
 
     static constexpr float log2_10 = f32(0x40549A78);  // 3.321928024291992
+    // |r| <= 1/2; fit not recorded.
     static constexpr float d3 = f32(0x3D61FBCC);       // 0.055171772837638855
     static constexpr float d2 = f32(0x3E786F13);       // 0.24261121451854706
     static constexpr float d1 = f32(0x3F31798D);       // 0.6932609677314758

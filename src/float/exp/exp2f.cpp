@@ -21,6 +21,7 @@ constexpr std::uint32_t normal_bound = 0x42FC0000;  // 126.0
 struct Exp2f : Kernel<float(float)> {
     static constexpr auto callout = callout::exp2f;
 
+    // |r| <= 1/2; fit not recorded.
     static constexpr float c6 = f32(0x39213C8C);  // 0.00015376711962744594
     static constexpr float c5 = f32(0x3AAF7A51);  // 0.0013387893559411168
     static constexpr float c4 = f32(0x3C1D962C);  // 0.009618323296308517
@@ -40,6 +41,7 @@ struct Exp2f : Kernel<float(float)> {
 struct Exp2fNative : Kernel<float(float)> {
     static constexpr auto callout = callout::exp2f;
 
+    // |r| <= 1/2; fit not recorded.
     static constexpr float d3 = f32(0x3D61FBCC);  // 0.055171772837638855
     static constexpr float d2 = f32(0x3E786F13);  // 0.24261121451854706
     static constexpr float d1 = f32(0x3F31798D);  // 0.6932609677314758
@@ -57,6 +59,7 @@ struct Exp2fNative : Kernel<float(float)> {
 struct Exp2fTable : Kernel<float(float)> {
     static constexpr float shifter = f32(0x48400000);          // 196608.0 = 1.5 * 2^17: rounds to 64ths
     static constexpr std::uint32_t bias = 0x1FC0;              // 127 * 64
+    // |r| <= 1/128; fit not recorded.
     static constexpr float b1 = f32(0x4038AA68);               // 2.8854007720947266
     static constexpr float b0 = f32(0x40853526);               // 4.162737846374512
     static constexpr std::uint32_t normal_bound = 0x42F70000;  // 123.5
@@ -102,6 +105,7 @@ struct Exp2fTable : Kernel<float(float)> {
 struct Exp2fScalar : Kernel<float(float)> {
     static constexpr int lanes = 1;
     static constexpr double shifter = f64(0x42B8000000000000);  // 1.5 * 2^44: rounds to 256ths
+    // |r| <= 1/512; fit not recorded.
     static constexpr double c1 = f64(0x3FE62E42FEFA72C5);       // 0.6931471805615607
     static constexpr double c0 = f64(0x3FCEBFBDFF82C58E);       // 0.2402265069591007
 

@@ -20,6 +20,7 @@ constexpr std::uint32_t normal_bound = 0x42AEAC4F;  // 87.33654022216797
 struct Expf : Kernel<float(float)> {
     static constexpr auto callout = callout::expf;
 
+    // |r| <= 0.35; fit not recorded.
     static constexpr float a5 = f32(0x3C07D9FE);  // 0.008291719481348991
     static constexpr float a4 = f32(0x3D2B8392);  // 0.041873522102832794
     static constexpr float a3 = f32(0x3E2AACAC);  // 0.16667431592941284
@@ -39,6 +40,7 @@ struct Expf : Kernel<float(float)> {
 struct ExpfNative : Kernel<float(float)> {
     static constexpr auto callout = callout::expf;
 
+    // |r| <= 1/2; fit not recorded.
     static constexpr float b3 = f32(0x3D63582B);  // 0.055504005402326584
     static constexpr float b2 = f32(0x3E77D66A);  // 0.2420288622379303
     static constexpr float b1 = f32(0x3F317422);  // 0.6931782960891724

@@ -13,10 +13,11 @@
 namespace tarn::singles {
 namespace {
 
-constexpr float one = 1.0f, two = 2.0f;
+constexpr float one = 1.0f;
 constexpr float huge = f32(0x5F0AC723);      // 9.999999980506448e+18
 constexpr float ln2_head = f32(0x3F310000);  // 0.69140625
 constexpr float ln2_tail = f32(0x3AE42FF0);  // 0.0017409306019544601
+// |s| <= 0.172; fit not recorded.
 constexpr float p1 = f32(0x3F2AAABD);        // 0.6666677594184875
 constexpr float p2 = f32(0x3ECCAF68);        // 0.39977574348449707
 constexpr float p3 = f32(0x3E98F06F);        // 0.29870936274528503
@@ -42,7 +43,7 @@ template <class Form, class V> TARN_INLINE V log_of_sum(V w, V x) {
     const BitsOf<V> exponent = k << 23;
     const V carried = where(~is_huge, lost * from_bits(bits(one) - exponent));
     const V f = (from_bits(bits(sum) - exponent) - one) + carried;
-    const V s = Form::quotient(f, two + f);
+    const V s = Form::quotient(f, 2.0f + f);
     const V s2 = s * s;
     const V log_m = f - s * (f - s2 * Form::p(s2));
     const V n = to_f32(k - is_huge);

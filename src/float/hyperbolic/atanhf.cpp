@@ -17,6 +17,7 @@ constexpr float one = 1.0f, half = 0.5f;
 constexpr float ln2 = factor_of_exponent(0x3F317218);  // 0.6931471824645996
 
 struct Full {
+    // |r| <= 1/3; fit not recorded.
     static constexpr float q8 = f32(0x3E0D84ED);  // 0.13820238411426544
     static constexpr float q7 = f32(0xBE1AD9E3);  // -0.15122179687023163
     static constexpr float q6 = f32(0x3E0FCB12);  // 0.14042308926582336
@@ -40,6 +41,7 @@ struct Full {
 };
 
 struct Native {
+    // |r| <= 1/3; fit not recorded.
     static constexpr float q4 = f32(0x3E612933);  // 0.2198837250471115
     static constexpr float q3 = f32(0xBE88E8FE);  // -0.2674025893211365
     static constexpr float q2 = f32(0x3EAA7160);  // 0.33289623260498047

@@ -17,13 +17,14 @@ constexpr std::int32_t half = 0x3F000000;    // 0.5
 constexpr std::uint32_t bound = 0x42AEAC4E;  // 87.33653259277344
 
 // S, C and the hyperbolic functions of n ln 2.
-template <class V> struct Parts {
+template <class V> struct Terms {
     V odd, even, sinh_n, cosh_n;
 };
 
-struct FullParts {
+struct Full {
     static constexpr float ln2_head = f32(0x3F317200);  // 0.693145751953125
     static constexpr float ln2_tail = f32(0x35BFBE8E);  // 1.428606765330187e-06
+    // |r| <= 0.35; fit not recorded.
     static constexpr float s3 = f32(0x3E2AAA57);        // 0.16666541993618011
     static constexpr float s5 = f32(0x3C091461);        // 0.008366675116121769
     static constexpr float c2 = f32(0x3F000000);        // 0.5
@@ -35,8 +36,9 @@ struct FullParts {
     template <class V> static TARN_INLINE V even(V r2) { return r2 * (c2 + r2 * (c4 + c6 * r2)); }
 };
 
-struct NativeParts {
+struct Native {
     static constexpr float ln2 = f32(0x3F317218);  // 0.6931471824645996
+    // |r| <= 0.35; fit not recorded.
     static constexpr float e1 = f32(0x3F7FFBC9);   // 0.9999356865882874
     static constexpr float e2 = f32(0x3EFFFB2F);   // 0.49996325373649597
     static constexpr float e3 = f32(0x3E2CCD2E);   // 0.16875144839286804
@@ -47,7 +49,7 @@ struct NativeParts {
     template <class V> static TARN_INLINE V even(V r2) { return r2 * (e2 + e4 * r2); }
 };
 
-template <class Form, class V> TARN_INLINE Parts<V> parts(V a) {
+template <class Form, class V> TARN_INLINE Terms<V> terms(V a) {
     const V shifted = a * log2_e + shifter;
     const V n = shifted - shifter;
     const BitsOf<V> exponent = bits(shifted) << 23;
@@ -61,7 +63,7 @@ template <class Form, class V> TARN_INLINE Parts<V> parts(V a) {
 template <class Form> struct Sinhf : Kernel<float(float)> {
     static constexpr auto callout = callout::sinhf;
     template <class V> static TARN_INLINE auto fast(V x) {
-        const auto [odd, even, sinh_n, cosh_n] = parts<Form>(abs(x));
+        const auto [odd, even, sinh_n, cosh_n] = terms<Form>(abs(x));
         const V y = ((cosh_n * odd) + (sinh_n * even)) + sinh_n;
         return Flagged{or_bits(y, sign_bit(x)), magnitude_above(x, bound)};
     }
@@ -70,7 +72,7 @@ template <class Form> struct Sinhf : Kernel<float(float)> {
 template <class Form> struct Coshf : Kernel<float(float)> {
     static constexpr auto callout = callout::coshf;
     template <class V> static TARN_INLINE auto fast(V x) {
-        const auto [odd, even, sinh_n, cosh_n] = parts<Form>(abs(x));
+        const auto [odd, even, sinh_n, cosh_n] = terms<Form>(abs(x));
         const V y = ((sinh_n * odd) + (cosh_n * even)) + cosh_n;
         return Flagged{y, magnitude_above(x, bound - 1)};
     }
@@ -79,7 +81,7 @@ template <class Form> struct Coshf : Kernel<float(float)> {
 }  // namespace
 }  // namespace tarn::singles
 
-TARN_EXPORT(unary, sinhf, full, tarn::singles::Sinhf<tarn::singles::FullParts>)
-TARN_EXPORT(unary, sinhf, native, tarn::singles::Sinhf<tarn::singles::NativeParts>)
-TARN_EXPORT(unary, coshf, full, tarn::singles::Coshf<tarn::singles::FullParts>)
-TARN_EXPORT(unary, coshf, native, tarn::singles::Coshf<tarn::singles::NativeParts>)
+TARN_EXPORT(unary, sinhf, full, tarn::singles::Sinhf<tarn::singles::Full>)
+TARN_EXPORT(unary, sinhf, native, tarn::singles::Sinhf<tarn::singles::Native>)
+TARN_EXPORT(unary, coshf, full, tarn::singles::Coshf<tarn::singles::Full>)
+TARN_EXPORT(unary, coshf, native, tarn::singles::Coshf<tarn::singles::Native>)

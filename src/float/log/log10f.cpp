@@ -15,6 +15,7 @@ struct Log10f : Kernel<float(float)> {
 
     static constexpr float log10_2_head = factor_of_exponent(0x3E9A2100);  // 0.30103302001953125
     static constexpr float log10_2_tail = factor_of_exponent(0xB64AF600);  // -3.0243536457419395e-06
+    // |r| <= 1/3; fit not recorded.
     static constexpr float p[9] = {
         f32(0x3EDE5BD9),  // 0.4342944920063019
         f32(0xBE5E5BC5),  // -0.21714694797992706
@@ -38,6 +39,7 @@ struct Log10fNative : Kernel<float(float)> {
     static constexpr auto callout = callout::log10f;
 
     static constexpr float log10_2 = factor_of_exponent(0x3E9A209B);  // 0.3010300099849701
+    // |r| <= 1/3; fit not recorded.
     static constexpr float p5 = f32(0x3DCDC127);                      // 0.10046606510877609
     static constexpr float p4 = f32(0xBDF4ED71);                      // -0.11959350854158401
     static constexpr float p3 = f32(0x3E137DBE);                      // 0.14403435587882996

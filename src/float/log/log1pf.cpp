@@ -21,6 +21,7 @@ struct Log1pf : Kernel<float(float)> {
 
     static constexpr float ln2_head = f32(0x3F317200);  // 0.693145751953125
     static constexpr float ln2_tail = f32(0x35BFBE00);  // 1.4285906217992306e-06
+    // |R| < 2^-7; fit not recorded.
     static constexpr float c3 = f32(0x3EAAAB39);        // 0.33333757519721985
     static constexpr float c2 = f32(0xBF000036);        // -0.5000032186508179
     static constexpr float small = f32(0x39800000);     // 2^-12: 1 + x needs no cut
@@ -57,6 +58,7 @@ struct Log1pfNative : Kernel<float(float)> {
     static constexpr auto callout = callout::log1pf;
 
     static constexpr float ln2 = factor_of_exponent(0x3F317218);  // 0.6931471824645996
+    // |r| <= 1/3; fit not recorded.
     static constexpr float q3 = f32(0x3E612933);                  // 0.2198837250471115
     static constexpr float q2 = f32(0xBE88E8FE);                  // -0.2674025893211365
     static constexpr float q1 = f32(0x3EAA7160);                  // 0.33289623260498047

@@ -12,6 +12,7 @@ namespace {
 struct Log2f : Kernel<float(float)> {
     static constexpr auto callout = callout::log2f;
 
+    // |r| <= 1/3; fit not recorded.
     static constexpr float p[9] = {
         f32(0x3FB8AA3B),  // 1.4426950216293335
         f32(0xBF38AA2B),  // -0.7213465571403503
@@ -33,6 +34,7 @@ struct Log2f : Kernel<float(float)> {
 struct Log2fNative : Kernel<float(float)> {
     static constexpr auto callout = callout::log2f;
 
+    // |r| <= 1/3; fit not recorded.
     static constexpr float p5 = f32(0x3EAAE01B);  // 0.33374103903770447
     static constexpr float p4 = f32(0xBECB686C);  // -0.39728105068206787
     static constexpr float p3 = f32(0x3EF4FA41);  // 0.4784717857837677

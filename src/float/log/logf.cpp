@@ -20,6 +20,7 @@ constexpr float q0 = -0.5f;
 struct Logf : Kernel<float(float)> {
     static constexpr auto callout = callout::logf;
 
+    // |r| <= 1/3; fit not recorded.
     static constexpr float q8 = f32(0xBE0402C8);  // -0.12891685962677002
     static constexpr float q7 = f32(0x3E0F335D);  // 0.1398443728685379
     static constexpr float q6 = f32(0xBDF9889E);  // -0.12184260785579681
@@ -40,6 +41,7 @@ struct Logf : Kernel<float(float)> {
 struct LogfHalf : Kernel<float(float)> {
     static constexpr auto callout = callout::logf;
 
+    // |r| <= 1/3; fit not recorded.
     static constexpr float q6 = f32(0xBE1B6A22);  // -0.15177205204963684
     static constexpr float q5 = f32(0x3E2DB86B);  // 0.16964881122112274
     static constexpr float q4 = f32(0xBE289358);  // -0.16462457180023193
@@ -57,6 +59,7 @@ struct LogfHalf : Kernel<float(float)> {
 struct LogfNative : Kernel<float(float)> {
     static constexpr auto callout = callout::logf;
 
+    // |r| <= 1/3; fit not recorded.
     static constexpr float q2 = f32(0xBE89233C);  // -0.267846941947937
     static constexpr float q1 = f32(0x3EB4A830);  // 0.3528456687927246
 

@@ -8,6 +8,7 @@
 namespace tarn::singles {
 
 // The cubics 1 + r (c1 + r (c2 + r c3)): one fitted for real exponents, one for integers.
+// |r| <= 0.35; fit not recorded.
 struct NativeExp {
     static constexpr float c3 = f32(0x3E2963AC);  // 0.16541928052902222
     static constexpr float c2 = f32(0x3F00F2D6);  // 0.5037053823471069
@@ -22,6 +23,7 @@ struct NativeIntegerExp {
 template <class V> TARN_INLINE V native_power_log(V x) {
     constexpr float ln2_head = factor_of_exponent(0x3F317200);  // 0.693145751953125
     constexpr float ln2_tail = factor_of_exponent(0x35BFBE8E);  // 1.428606765330187e-06
+    // |r| <= 1/3; fit not recorded.
     constexpr float q5 = f32(0x3E2B350C);                       // 0.16719454526901245
     constexpr float q4 = f32(0xBE424B46);                       // -0.18974027037620544
     constexpr float q3 = f32(0x3E4B62C0);                       // 0.19861888885498047

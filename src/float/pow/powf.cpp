@@ -23,6 +23,7 @@ template <bool two_halves> struct Powf : Kernel<float(float, float)> {
     static constexpr auto callout = callout::powf;
 
     static constexpr double ln2 = f64(0x3FE62E42FEFA39EF);      // 0.6931471805599453
+    // |r| < 2^-9; fit not recorded.
     static constexpr double a3 = f64(0x3FD55555555543C5);       // 0.33333333333308374
     static constexpr double a2 = f64(0xBFDFFFFFFFFFF81F);       // -0.49999999999988803
     static constexpr double scale = f64(0x40A71547652B82FE);    // 2954.639443740597 = 2048/ln 2

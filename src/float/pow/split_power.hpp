@@ -36,7 +36,7 @@ template <class V> TARN_INLINE HeadTail<V> split_log(V x) {
     return fast_two_sum(sum, (r_tail + sum_tail) + ((k * ln2_tail + table_tail) + p));
 }
 
-// The degree-5 polynomials of e^r, r in [-0.35, 0.35].
+// The degree-5 polynomials of e^r. |r| <= 0.35; fit not recorded.
 struct RealExponentExp {
     static constexpr float a5 = f32(0x3C07D9FE);        // 0.008291719481348991
     static constexpr float a4 = f32(0x3D2B8392);        // 0.041873522102832794

@@ -21,6 +21,7 @@ constexpr float unscale = f32(0x27800000);   // 2^-48
 
 struct Full {
     static constexpr float shifter = f32(0x48000000);  // 131072.0: rounds to 64ths
+    // |h| <= 1/128; fit not recorded.
     static constexpr float u1 = f32(0xBF7FFFFC);       // -0.9999997615814209
     static constexpr float u2 = f32(0x3F2AAAA6);       // 0.6666663885116577
     static constexpr float u3 = f32(0xBEAACF22);       // -0.33361154794692993
@@ -36,7 +37,7 @@ struct Full {
 
 struct Native {
     static constexpr float shifter = f32(0x48800000);  // 262144.0: rounds to 32nds
-    // Fitted to the least error over the whole grid, the terms in h^2 alone left out.
+    // |h| <= 1/64; fitted to the least error over the whole grid, the terms in h^2 alone left out.
     static constexpr float u1 = f32(0xBF80D115);  // -1.0063806772232056
     static constexpr float u2 = f32(0x3F2A0E54);  // 0.6642811298370361
 

@@ -23,5 +23,5 @@ template <class Form> struct Acosf : Kernel<float(float)> {
 }  // namespace
 }  // namespace tarn::singles
 
-TARN_EXPORT(unary, acosf, full, tarn::singles::Acosf<tarn::singles::arcsine::Radians>)
-TARN_EXPORT(unary, acosf, native, tarn::singles::Acosf<tarn::singles::arcsine::RadiansNative>)
+TARN_EXPORT(unary, acosf, full, tarn::singles::Acosf<tarn::singles::arcsine::radians::Full>)
+TARN_EXPORT(unary, acosf, native, tarn::singles::Acosf<tarn::singles::arcsine::radians::Native>)

@@ -9,7 +9,7 @@
 namespace tarn::singles {
 namespace {
 
-struct Full : arcsine::HalfTurns {
+struct Full : arcsine::half_turns::Full {
     template <class V> static TARN_INLINE V value(V u, V z) { return (rest(z) + arcsine::inv_pi) * u; }
 };
 
@@ -27,4 +27,4 @@ template <class Form> struct Acospif : Kernel<float(float)> {
 }  // namespace tarn::singles
 
 TARN_EXPORT(unary, acospif, full, tarn::singles::Acospif<tarn::singles::Full>)
-TARN_EXPORT(unary, acospif, native, tarn::singles::Acospif<tarn::singles::arcsine::HalfTurnsNative>)
+TARN_EXPORT(unary, acospif, native, tarn::singles::Acospif<tarn::singles::arcsine::half_turns::Native>)

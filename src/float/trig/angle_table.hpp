@@ -11,6 +11,7 @@ namespace tarn::singles {
 #include "tables/sine_256ths.inc"
 
 template <class V> TARN_INLINE V from_angle_table(const float (*table)[4], const Reduced<V>& angle) {
+    // |r| <= pi/256; fit not recorded.
     constexpr float sine_3 = f32(0xBE2AAAAB);    // -0.1666666716337204
     constexpr float sine_5 = f32(0x3C08885C);    // 0.008333291858434677
     constexpr float cosine_2 = f32(0xBF000000);  // -0.5

@@ -23,13 +23,14 @@ template <class V> TARN_INLINE V twice_root_estimate(V y) {
     return (positive + positive) * rsqrt_estimate(positive);
 }
 
-// ((((a5 z + a4) z^2 + (a3 z + a2)) z + a1) z: two halves side by side.
+// (((a5 z + a4) z^2 + (a3 z + a2)) z + a1) z: two halves side by side.
 template <class V> TARN_INLINE V polynomial(V z, float a5, float a4, float a3, float a2, float a1) {
     return (((a5 * z + a4) * (z * z) + (a3 * z + a2)) * z + a1) * z;
 }
 
-// The arcsine of u on the unfolded part, in radians.
-struct Radians {
+// The arcsine of u on the unfolded part. 0 <= z <= 1/4; fit not recorded.
+namespace radians {
+struct Full {
     static constexpr float a5 = f32(0x3D2EDC07);  // 0.042690303176641464
     static constexpr float a4 = f32(0x3CC32A6B);  // 0.0238239374011755
     static constexpr float a3 = f32(0x3D3A9AB4);  // 0.045557692646980286
@@ -39,16 +40,18 @@ struct Radians {
     template <class V> static TARN_INLINE V root(V y) { return twice_root(y); }
     template <class V> static TARN_INLINE V value(V u, V z) { return polynomial(z, a5, a4, a3, a2, a1) * u + u; }
 };
-struct RadiansNative {
+struct Native {
     static constexpr float a2 = f32(0x3DC11FAB);  // 0.09429868310689926
     static constexpr float a1 = f32(0x3E2904E7);  // 0.16505776345729828
 
     template <class V> static TARN_INLINE V root(V y) { return twice_root_estimate(y); }
     template <class V> static TARN_INLINE V value(V u, V z) { return horner(z, a2, a1, one) * u; }
 };
+}  // namespace radians
 
-// The same in half turns; `polynomial` leaves out the leading u / pi.
-struct HalfTurns {
+// `rest` leaves out the leading u / pi.
+namespace half_turns {
+struct Full {
     static constexpr float a5 = f32(0x3C5EA355);  // 0.013588746078312397
     static constexpr float a4 = f32(0x3BF87E20);  // 0.007583394646644592
     static constexpr float a3 = f32(0x3C6D978C);  // 0.014501463621854782
@@ -58,13 +61,14 @@ struct HalfTurns {
     template <class V> static TARN_INLINE V root(V y) { return twice_root(y); }
     template <class V> static TARN_INLINE V rest(V z) { return polynomial(z, a5, a4, a3, a2, a1); }
 };
-struct HalfTurnsNative {
+struct Native {
     static constexpr float a2 = f32(0x3CF5E48A);  // 0.030016202479600906
     static constexpr float a1 = f32(0x3D5733AD);  // 0.05253951624035835
 
     template <class V> static TARN_INLINE V root(V y) { return twice_root_estimate(y); }
     template <class V> static TARN_INLINE V value(V u, V z) { return horner(z, a2, a1, inv_pi) * u; }
 };
+}  // namespace half_turns
 
 template <class V> struct Folded {
     V u, z;

@@ -8,7 +8,9 @@ namespace tarn::singles::arctangent {
 
 constexpr float one = 1.0f;
 
-struct Radians {
+// 0 <= t <= 1; fit not recorded.
+namespace radians {
+struct Full {
     static constexpr float quarter = f32(0x3FC90FDB);    // 1.5707963705062866 = pi/2
     static constexpr float half_turn = f32(0x40490FDB);  // 3.1415927410125732 = pi
 
@@ -28,7 +30,7 @@ struct Radians {
         return even + odd;
     }
 };
-struct RadiansNative : Radians {
+struct Native : Full {
     static constexpr float b4 = f32(0x3CCB7DDB);  // 0.024840286001563072
     static constexpr float b3 = f32(0xBDC0B66D);  // -0.09409794956445694
     static constexpr float b2 = f32(0x3E3F4C37);  // 0.18681417405605316
@@ -36,8 +38,10 @@ struct RadiansNative : Radians {
 
     template <class V> static TARN_INLINE V over_t(V t) { return horner(t * t, b4, b3, b2, b1, one); }
 };
+}  // namespace radians
 
-struct HalfTurns {
+namespace half_turns {
+struct Full {
     static constexpr float quarter = 0.5f;
     static constexpr float half_turn = 1.0f;
 
@@ -53,7 +57,7 @@ struct HalfTurns {
 
     template <class V> static TARN_INLINE V over_t(V t) { return horner(t * t, g8, g7, g6, g5, g4, g3, g2, g1, g0); }
 };
-struct HalfTurnsNative : HalfTurns {
+struct Native : Full {
     static constexpr float g4 = f32(0x3C018BFA);  // 0.007906908169388771
     static constexpr float g3 = f32(0xBCF55E8A);  // -0.029952306300401688
     static constexpr float g2 = f32(0x3D73915D);  // 0.05946480110287666
@@ -61,5 +65,6 @@ struct HalfTurnsNative : HalfTurns {
 
     template <class V> static TARN_INLINE V over_t(V t) { return horner(t * t, g4, g3, g2, g1, g0); }
 };
+}  // namespace half_turns
 
 }  // namespace tarn::singles::arctangent

@@ -23,5 +23,5 @@ template <class Form> struct Asinf : Kernel<float(float)> {
 }  // namespace
 }  // namespace tarn::singles
 
-TARN_EXPORT(unary, asinf, full, tarn::singles::Asinf<tarn::singles::arcsine::Radians>)
-TARN_EXPORT(unary, asinf, native, tarn::singles::Asinf<tarn::singles::arcsine::RadiansNative>)
+TARN_EXPORT(unary, asinf, full, tarn::singles::Asinf<tarn::singles::arcsine::radians::Full>)
+TARN_EXPORT(unary, asinf, native, tarn::singles::Asinf<tarn::singles::arcsine::radians::Native>)

@@ -11,12 +11,12 @@
 namespace tarn::singles {
 namespace {
 
-struct Full : arcsine::HalfTurns {
+struct Full : arcsine::half_turns::Full {
     template <class V> static TARN_INLINE V sum(V u, V z, V offset) {
         return rest(z) * u + (u * arcsine::inv_pi + offset);
     }
 };
-struct Native : arcsine::HalfTurnsNative {
+struct Native : arcsine::half_turns::Native {
     template <class V> static TARN_INLINE V root(V y) { return arcsine::twice_root(y); }
     template <class V> static TARN_INLINE V sum(V u, V z, V offset) { return value(u, z) + offset; }
 };

@@ -9,8 +9,8 @@
 namespace tarn::singles {
 namespace {
 
-// A special lane makes every lane of its block the scalar function's, which is more exact than beside ordinary ones.
-struct Atan2f : Atan2<arctangent::Radians> {
+// A special lane makes its group of four the scalar function's, which is more exact than beside ordinary ones.
+struct Atan2f : Atan2<arctangent::radians::Full> {
     static f32x4 finish(f32x4 y, f32x4 x, f32x4 result, unsigned) {
         for (int i = 0; i < 4; i++) {
             const float y_lane = y[i], x_lane = x[i];
@@ -22,7 +22,7 @@ struct Atan2f : Atan2<arctangent::Radians> {
     }
 };
 
-using Atan2fNative = Atan2Native<arctangent::RadiansNative, callout::atan2f>;
+using Atan2fNative = Atan2Native<arctangent::radians::Native, callout::atan2f>;
 
 }  // namespace
 }  // namespace tarn::singles

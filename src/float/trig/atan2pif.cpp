@@ -9,10 +9,10 @@
 namespace tarn::singles {
 namespace {
 
-struct Atan2pif : Atan2<arctangent::HalfTurns> {
+struct Atan2pif : Atan2<arctangent::half_turns::Full> {
     static constexpr auto callout = callout::atan2pif;
 };
-using Atan2pifNative = Atan2Native<arctangent::HalfTurnsNative, callout::atan2pif>;
+using Atan2pifNative = Atan2Native<arctangent::half_turns::Native, callout::atan2pif>;
 
 }  // namespace
 }  // namespace tarn::singles

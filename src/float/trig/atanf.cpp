@@ -11,10 +11,10 @@ namespace {
 
 using arctangent::one;
 
-struct Full : arctangent::Radians {
+struct Full : arctangent::radians::Full {
     template <class V> static TARN_INLINE V at_most_one(V a, BitsOf<V>) { return min(one, a) / max(one, a); }
 };
-struct Native : arctangent::RadiansNative {
+struct Native : arctangent::radians::Native {
     template <class V> static TARN_INLINE V at_most_one(V a, BitsOf<V> inverted) {
         return select(inverted, reciprocal_estimate(a), a);
     }

@@ -12,17 +12,15 @@ namespace tarn::singles {
 namespace {
 
 using arctangent::one;
-constexpr float two = 2.0f;
-constexpr float minus_one = -1.0f;
 
-struct Full : arctangent::HalfTurns {
+struct Full : arctangent::half_turns::Full {
     template <class V> static TARN_INLINE V argument(V a, BitsOf<V> small) {
         const V d = select(small, one, a);
         const V estimate = reciprocal_estimate(d);
-        return select(small, a, minus_one) * (estimate * (two - d * estimate));
+        return select(small, a, -1.0f) * (estimate * (2.0f - d * estimate));
     }
 };
-struct Native : arctangent::HalfTurnsNative {
+struct Native : arctangent::half_turns::Native {
     template <class V> static TARN_INLINE V argument(V a, BitsOf<V> small) {
         return select(small, a, negated(reciprocal_estimate(a)));
     }

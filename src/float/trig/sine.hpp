@@ -17,7 +17,7 @@ constexpr float pi_2 = f32(0x3A7DA000);  // 0.0009675025939941406
 template <class V> TARN_INLINE auto parity_sign(V shifted) { return bits(shifted) << 31; }
 
 // x - n pi, |n| <= 3183, for whole and for half n, in two steps: `near` the first two pieces,
-// `rest` the others. Then the sine of r from r and r^2.
+// `rest` the others. Then the sine of r from r and r^2. |r| <= pi/2; fit not recorded.
 struct Full {
     static constexpr float pi_3 = f32(0x34222000);  // 1.5099067240953445e-07
     static constexpr float pi_4 = f32(0x2CB4611A);  // 5.126688136514179e-12

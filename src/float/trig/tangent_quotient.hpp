@@ -11,6 +11,7 @@ template <class V> struct Quotient {
 
 // Lanes whose `inverted` has its sign bit set are inverted.
 template <class V> TARN_INLINE Quotient<V> tangent_quotient(V r, BitsOf<V> inverted) {
+    // |r| <= pi/4; fit not recorded.
     constexpr float numerator_1 = f32(0xBDC433B8);    // -0.09580177068710327
     constexpr float denominator_1 = f32(0xBEDBB7AF);  // -0.4291357696056366
     constexpr float denominator_2 = f32(0x3C1F3375);  // 0.00971685815602541

@@ -16,7 +16,6 @@ namespace tarn::singles {
 namespace {
 
 constexpr std::int32_t infinity = 0x7F800000;
-constexpr float zero = 0.0f;
 
 struct Tanpif : Kernel<float(float)> {
     static constexpr auto callout = callout::tanpif;
@@ -32,8 +31,8 @@ struct Tanpif : Kernel<float(float)> {
         const V y = from_tangent_table(row, r, V{});
 
         const BitsOf<V> odd = bits(shifted) << 24 & sign_mask<V>;
-        const BitsOf<V> on_pole = (BitsOf<V>)(r == zero) & (row == 64);
-        const BitsOf<V> on_zero = (BitsOf<V>)(r == zero) & (row == 0);
+        const BitsOf<V> on_pole = (r == 0.0f) & (row == 64);
+        const BitsOf<V> on_zero = (r == 0.0f) & (row == 0);
         const V at_zero = from_bits(sign_bit(x) ^ odd);
         return Flagged{select(on_pole, from_bits(infinity | odd), select(on_zero, at_zero, y)), not_finite(x)};
     }
@@ -45,7 +44,7 @@ struct TanpifNative : Kernel<float(float)> {
     static constexpr float shifter = f32(0x4AC00000);  // 6291456.0 = 1.5 * 2^22: rounds to halves
 
     template <class V> static TARN_INLINE auto fast(V x) {
-        const V within = without_periods(x) + zero;  // -0 becomes +0
+        const V within = without_periods(x) + 0.0f;  // -0 becomes +0
         const V shifted = within + shifter;
         const BitsOf<V> inverted = bits(shifted) << 31;
         const V r = (within - (shifted - shifter)) * pi;
@@ -55,7 +54,7 @@ struct TanpifNative : Kernel<float(float)> {
         // Where r is 0, y is +0 or +inf.
         const BitsOf<V> odd = bits(shifted) << 30 & sign_mask<V>;
         const BitsOf<V> exact_sign = odd ^ (sign_bit(x) & ~(inverted >> 31));
-        return Flagged{xor_bits(y, select((BitsOf<V>)(r == zero), exact_sign, inverted)), not_finite(x)};
+        return Flagged{xor_bits(y, select(r == 0.0f, exact_sign, inverted)), not_finite(x)};
     }
 };
 

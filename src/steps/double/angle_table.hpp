@@ -16,6 +16,7 @@ template <class V> struct Sum {
 };
 
 template <class V> TARN_INLINE Sum<V> sine_from_table(const Reduced<V>& angle) {
+    // |r| <= pi/512; fit not recorded.
     constexpr double sine_3 = f64(0xBFC5555555554448);    // -0.1666666666665455
     constexpr double sine_5 = f64(0x3F81110FABB3551C);    // 0.008333322932609515
     constexpr double cosine_4 = f64(0x3FA5555555554CCF);  // 0.041666666666651524

@@ -47,6 +47,7 @@ constexpr std::int64_t nodes = 33;
 
 template <class Unit> struct Full {
     template <class V> static TARN_INLINE V angle(V q, const Octant<V>& octant) {
+        // |t| < 1/64; fit not recorded.
         constexpr double a1 = f64(0xBFD55555555551C7);  // -0.3333333333332828
         constexpr double a2 = f64(0x3FC999999199999A);  // 0.1999999962747097
         constexpr double a3 = f64(0xBFC247CF3CF3CF3D);  // -0.1428164527529762

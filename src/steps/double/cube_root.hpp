@@ -11,7 +11,9 @@ namespace tarn::doubles {
 #include "tables/cube_root_pairs.inc"
 #include "tables/reciprocal_cube_root_pairs.inc"
 
+// |t| < 1/65; fit not recorded.
 struct CubeRoot {
+    static constexpr bool has_tail = true;  // of the pair
     static constexpr const auto& rows = cube_root_pairs;
     static constexpr double c7 = f64(0x3F93770EFD478A60);  // 0.019008859833670733
     static constexpr double c6 = f64(0xBF980AC5B080C379);  // -0.023478592775237204
@@ -21,16 +23,20 @@ struct CubeRoot {
     static constexpr double c2 = f64(0xBFBC71C71C71CD94);  // -0.11111111111113409
     static constexpr double c1 = f64(0x3FD5555555555555);  // 0.33333333333333331
 
-    static constexpr double native_c3 = f64(0x3FAF9C3A717169CE);  // 0.06173880228807925
-    static constexpr double native_c2 = f64(0xBFBC7241B3FB1497);  // -0.11111841816007693
-    static constexpr double native_c1 = f64(0x3FD5555554AEC3A1);  // 0.33333333272735827
-
     template <class V> static TARN_INLINE V series(V t) { return horner(t, c7, c6, c5, c4, c3, c2, c1); }
-    template <class V> static TARN_INLINE V native_series(V t) { return horner(t, native_c3, native_c2, native_c1); }
     template <class I> static TARN_INLINE I exponent(I q) { return q + (1023 - 341); }
+};
+struct CubeRootNative : CubeRoot {
+    static constexpr bool has_tail = false;
+    static constexpr double n3 = f64(0x3FAF9C3A717169CE);  // 0.06173880228807925
+    static constexpr double n2 = f64(0xBFBC7241B3FB1497);  // -0.11111841816007693
+    static constexpr double n1 = f64(0x3FD5555554AEC3A1);  // 0.33333333272735827
+
+    template <class V> static TARN_INLINE V series(V t) { return horner(t, n3, n2, n1); }
 };
 
 struct ReciprocalCubeRoot {
+    static constexpr bool has_tail = true;
     static constexpr const auto& rows = reciprocal_cube_root_pairs;
     static constexpr double c8 = f64(0x3FB791C7B3DDAFDF);  // 0.092068177616681166
     static constexpr double c7 = f64(0xBFB9B5E1E002E081);  // -0.10043155402206773
@@ -41,18 +47,20 @@ struct ReciprocalCubeRoot {
     static constexpr double c2 = f64(0x3FCC71C71C71C71C);  // 0.22222222222222221
     static constexpr double c1 = f64(0xBFD5555555555555);  // -0.33333333333333331
 
-    static constexpr double native_c3 = f64(0xBFC6209CEAE70631);  // -0.1728702685341417
-    static constexpr double native_c2 = f64(0x3FCC729DA8400E25);  // 0.22224779811232157
-    static constexpr double native_c1 = f64(0xBFD555555434E218);  // -0.33333333228395778
-
     template <class V> static TARN_INLINE V series(V t) { return horner(t, c8, c7, c6, c5, c4, c3, c2, c1); }
-    template <class V> static TARN_INLINE V native_series(V t) { return horner(t, native_c3, native_c2, native_c1); }
     template <class I> static TARN_INLINE I exponent(I q) { return (1023 + 341) - q; }
 };
+struct ReciprocalCubeRootNative : ReciprocalCubeRoot {
+    static constexpr bool has_tail = false;
+    static constexpr double n3 = f64(0xBFC6209CEAE70631);  // -0.1728702685341417
+    static constexpr double n2 = f64(0x3FCC729DA8400E25);  // 0.22224779811232157
+    static constexpr double n1 = f64(0xBFD555555434E218);  // -0.33333333228395778
 
-// The root of normal numbers of either sign; native, by a shorter polynomial and the pair's high part. Zeros,
-// subnormals, infinities and NaNs give anything, from rows that exist.
-template <class Root, bool native = false, class V> TARN_INLINE V cube_root_steps(V x) {
+    template <class V> static TARN_INLINE V series(V t) { return horner(t, n3, n2, n1); }
+};
+
+// The root of normal numbers of either sign. Zeros, subnormals, infinities and NaNs give anything, from rows that exist.
+template <class Root, class V> TARN_INLINE V cube_root_steps(V x) {
     const BitsOf<V> b = bits(x);
     const BitsOf<V> sign_and_exponent = shift_right_logical(b, 52);
     const BitsOf<V> sign = sign_and_exponent & 0x800;
@@ -69,12 +77,9 @@ template <class Root, bool native = false, class V> TARN_INLINE V cube_root_step
     const auto [table_high, minus_reciprocal] = gather_columns(Root::rows, row);
     const V t = (minus_m - minus_c) * minus_reciprocal;
     const V high = table_high * scale;
-    if constexpr (native) {
-        return Root::native_series(t) * (t * high) + high;
-    } else {
-        const V low = gather_columns<2>(Root::rows, row).first * scale;
-        return (Root::series(t) * (t * high) + low) + high;
-    }
+    const V rest = Root::series(t) * (t * high);
+    if constexpr (Root::has_tail) return (rest + gather_columns<2>(Root::rows, row).first * scale) + high;
+    else return rest + high;
 }
 
 }  // namespace tarn::doubles

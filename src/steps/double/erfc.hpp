@@ -12,6 +12,7 @@ struct ErfcSeries {
     static constexpr bool has_tail = true;
 
     template <class V> static TARN_INLINE V series(V u, V d2) {
+        // |d| <= 1/256; fit not recorded.
         constexpr double p0 = f64(0x3FE5555555555537);  // 0.6666666666666633
         constexpr double p1 = f64(0xBFD5555555555504);  // -0.33333333333332882
         constexpr double p2 = f64(0x3FC11111111645DF);  // 0.13333333334280348

@@ -37,6 +37,7 @@ template <class V> TARN_INLINE V inverse_scale(V x) {
 
 template <class V> TARN_INLINE HeadTail<V> log2_pair(V x) {
     constexpr double log2_e = f64(0x3FF7154740000000);  // 1.442694902420044
+    // |w| < 2^-10; fit not recorded.
     constexpr double k6 = f64(0xBF9B4EA0E9419F52);      // -0.026667131649815552
     constexpr double k5 = f64(0x3FA7A334DDFC9F86);      // 0.04616704187202374
     constexpr double k4 = f64(0xBFB550472A8BB463);      // -0.08325619496072671

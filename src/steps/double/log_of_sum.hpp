@@ -30,6 +30,7 @@ template <class V> TARN_INLINE V log_from(const LogRow<V>& at, V w, V w_tail) {
     constexpr double ln2_head = f64(0x3FE62E42FEFA0000);  // 0.6931471805582987
     constexpr double ln2_tail = f64(0x3D7CF79ABC9E3B3A);  // 1.6465949582897082e-12
     constexpr double c2 = -0.5;
+    // |v| < 2^-9; fit not recorded.
     constexpr double c3 = f64(0x3FD5555555552770);  // 0.3333333333326811
     constexpr double c4 = f64(0xBFCFFFFFFFFFAFAE);  // -0.2499999999994293
     constexpr double c5 = f64(0x3FC9999F53638061);  // 0.20000068256104256

@@ -12,6 +12,7 @@ template <class V> TARN_INLINE V from_row_point(const Log2Reduction<V>& x) {
     return x.m - from_bits((x.row << 42) + bits(1.0));
 }
 template <class V> TARN_INLINE V native_log2(const Log2Reduction<V>& x, V from_point) {
+    // |r| <= 2^-11; fit not recorded.
     constexpr double a3 = f64(0x3FDEC70AAC125F13);  // 0.48089854053385855
     constexpr double a2 = f64(0xBFE7154787CFD1D5);  // -0.7213475849699146
     constexpr double a1 = f64(0x3FF71547652B82D4);  // 1.442695040888954

@@ -3,9 +3,9 @@
 // remainder r, below 1/256, makes up with a polynomial of degree 5.
 #pragma once
 
+#include "frame/kernel.hpp"
 #include "steps/double/exp_parts.hpp"
 #include "steps/double/log2_pair.hpp"
-#include "frame/kernel.hpp"
 
 namespace tarn::doubles {
 
@@ -31,6 +31,7 @@ template <class V> struct Exp2Parts {
 };
 template <class V> TARN_INLINE Exp2Parts<V> exp2_parts(const HeadTail<V>& z) {
     constexpr double shifter = f64(0x42C8000000000000);  // 52776558133248.0 = 1.5 * 2^45
+    // |r| <= 1/256; fit not recorded.
     constexpr double c5 = f64(0x3F55D87FE78A6731);       // 0.0013333558146428443
     constexpr double c4 = f64(0x3F83B2AB6FBA4E77);       // 0.009618129107628477
     constexpr double c3 = f64(0x3FAC6B08D704A0BF);       // 0.055504108664821576

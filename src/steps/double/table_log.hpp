@@ -37,6 +37,7 @@ template <class V> TARN_INLINE V reduced_exactly(V m, V R) {
     return (m_head * R - 1.0) + (m - m_head) * R;
 }
 
+// |r| < 2^-8; fit not recorded.
 struct BaseE {
     static constexpr const double* rows = log_rows;
     static constexpr double c2 = f64(0xBFDFFFFFFFFFF81F);   // -0.49999999999988803

@@ -16,7 +16,7 @@ template <class V> struct TanhPlace {
 template <class V> TARN_INLINE TanhPlace<V> tanh_place(V x) {
     constexpr std::int32_t first = 0x3FBE0000;  // upper word of 0.1171875: one part below 1/8
     constexpr std::int32_t last = 59 << 17;     // 59 parts on
-    constexpr double largest = 32.0;           // no power of what lies above overflows
+    constexpr double largest = 32.0;            // no power of what lies above overflows
     const WordsOf<V> top = words(x) & 0x7FFE0000;
     const WordsOf<V> part = min(max(top - first, 0), last);
     const BitsOf<V> row = shift_right_logical((BitsOf<V>)part, 32 + 17);

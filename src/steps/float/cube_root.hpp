@@ -19,7 +19,11 @@ struct CubeRoot {
     static constexpr float c2 = f32(0xBDE38E39);  // -0.1111111119389534 = -1/9
     static constexpr float c1 = f32(0x3EAAAAAB);  // 0.3333333432674408 = 1/3
 
+    template <class V> static TARN_INLINE V series(V t) { return horner(t, c4, c3, c2, c1); }
     template <class I> static TARN_INLINE I exponent(I q) { return q + 85; }  // of 2^(q - 42)
+};
+struct CubeRootNative : CubeRoot {
+    template <class V> static TARN_INLINE float series(V) { return c1; }
 };
 
 struct ReciprocalCubeRoot {
@@ -29,12 +33,15 @@ struct ReciprocalCubeRoot {
     static constexpr float c2 = f32(0x3E638E39);  // 0.2222222238779068 = 2/9
     static constexpr float c1 = f32(0xBEAAAAAB);  // -0.3333333432674408 = -1/3
 
+    template <class V> static TARN_INLINE V series(V t) { return horner(t, c4, c3, c2, c1); }
     template <class I> static TARN_INLINE I exponent(I q) { return 169 - q; }  // of 2^(42 - q)
 };
+struct ReciprocalCubeRootNative : ReciprocalCubeRoot {
+    template <class V> static TARN_INLINE float series(V) { return c1; }
+};
 
-// The root of normal numbers of either sign by all terms of the series or, short, by its linear one.
-// Special lanes read row 0, which keeps the load inside the table.
-template <class Root, bool short_series = false, class V> TARN_INLINE V cube_root_steps(V x, BitsOf<V> special) {
+// The root of normal numbers of either sign. Special lanes read row 0, which keeps the load inside the table.
+template <class Root, class V> TARN_INLINE V cube_root_steps(V x, BitsOf<V> special) {
     const BitsOf<V> b = bits(x);
     const BitsOf<V> sign_and_exponent = shift_right_logical(b, 23);
     const BitsOf<V> sign = sign_and_exponent & 0x100;
@@ -52,11 +59,7 @@ template <class Root, bool short_series = false, class V> TARN_INLINE V cube_roo
 
     const V scale = from_bits((Root::exponent(q) | sign) << 23);
     const V high = table_high * scale, low = table_low * scale;
-    const auto series = [&]() __attribute__((always_inline)) {
-        if constexpr (short_series) return Root::c1;
-        else return horner(t, Root::c4, Root::c3, Root::c2, Root::c1);
-    }();
-    return (series * (t * high) + low) + high;
+    return (Root::series(t) * (t * high) + low) + high;
 }
 
 }  // namespace tarn::singles
