@@ -1,6 +1,13 @@
-# make install: the module, its header, a CMake package and a pkg-config file.
+# cmake --install: the module, its header, a CMake package and a pkg-config file.
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
+
+# The module for x86-64-v3 goes where the C library's loader looks first on such a processor, beside a plain one that
+# brings everything else: who asks for the plain file gets this one.
+if(TARN_X86_64_V3)
+  install(TARGETS ocl_tarn_k1 LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/glibc-hwcaps/x86-64-v3)
+  return()
+endif()
 
 target_include_directories(ocl_tarn_k1 INTERFACE $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>
                                                  $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>)

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # The C callers' test from gcc and clang, with and without AVX2.   callers.sh MODULE TARN-EXPORTS SOURCE-DIRECTORY
+# The environment's TARN_MODULE is called instead of MODULE.
 set -euo pipefail
-module=$1 exports=$2 source=$3
+module=${TARN_MODULE:-$1} exports=$2 source=$3
 work=$(mktemp -d); trap 'rm -rf "$work"' EXIT
 "$exports" calls > "$work/calls.inc"
 compilers=0

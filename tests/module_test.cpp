@@ -17,6 +17,13 @@ namespace {
 
 const std::string path = '"' + Module::built_path() + '"';
 
+// Whether the module is the one for x86-64-v3, as its note tells loaders.
+bool of_v3() {
+    for (const auto& line : output("readelf -nW " + path))
+        if (line.find("x86-64-v3") != std::string::npos) return true;
+    return false;
+}
+
 TEST(ModuleFile, ExportsExactlyTheTable) {
     std::set<std::string> stated;
     for (const Family& f : families())
@@ -42,11 +49,14 @@ TEST(ModuleFile, NeedsNothing) {
             EXPECT_EQ(line.find(section), std::string::npos) << line;
 }
 
-TEST(ModuleFile, HoldsNothingBeyondSSE41) {
-    // tzcnt is allowed: older processors run it as bsf, and gcc writes it where the two agree.
-    // VEX and EVEX instructions begin with v; crc32 and pcmp?str? are SSE4.2. The control register of the
-    // vector unit is not touched.
-    const std::regex beyond(R"(^\s+[0-9a-f]+:\s+(v[a-z]|crc32|pcmp[ei]str|popcnt|lzcnt|andn |ldmxcsr|stmxcsr))");
+TEST(ModuleFile, HoldsNothingBeyondItsLevel) {
+    // SSE4.1: tzcnt is allowed, older processors run it as bsf, and gcc writes it where the two agree. VEX and EVEX
+    // instructions begin with v; crc32 and pcmp?str? are SSE4.2.
+    // x86-64-v3: what only EVEX encodes, and what came later in VEX.
+    // The control register of the vector unit is not touched in either.
+    const std::regex beyond(
+        of_v3() ? R"(%zmm|%[xy]mm(1[6-9]|2\d|3[01])\b|%k[0-7]|\s(vpdp|vpmadd52|vaes|vpclmul|vgf2p8|vsha|vsm[34]|ad[co]x|v?ldmxcsr|v?stmxcsr))"
+                : R"(^\s+[0-9a-f]+:\s+(v[a-z]|crc32|pcmp[ei]str|popcnt|lzcnt|andn |ldmxcsr|stmxcsr))");
     int instructions = 0;
     for (const auto& line : output("objdump -d --no-show-raw-insn " + path)) {
         instructions++;
@@ -55,19 +65,24 @@ TEST(ModuleFile, HoldsNothingBeyondSSE41) {
     EXPECT_GT(instructions, 1000);
 }
 
-// The instructions of a function up to its first return.
-std::vector<std::string> hot_path(const std::string& name) {
-    std::vector<std::string> lines;
-    bool inside = false;
-    for (const auto& line : output("objdump -d --no-show-raw-insn " + path)) {
-        if (line.ends_with("<" + name + ">:")) inside = true;
-        else if (inside) {
-            const auto tab = line.rfind('\t');
-            lines.push_back(tab == std::string::npos ? line : line.substr(tab + 1));
-            if (lines.back().starts_with("ret")) break;
+// The instructions of each export up to its first return.
+const std::map<std::string, std::vector<std::string>>& hot_paths() {
+    static const auto all = [] {
+        std::map<std::string, std::vector<std::string>> paths;
+        std::vector<std::string>* inside = nullptr;
+        for (const auto& line : output("objdump -d --no-show-raw-insn " + path)) {
+            if (line.ends_with(">:")) {
+                const std::string name = line.substr(line.find('<') + 1, line.size() - line.find('<') - 3);
+                inside = name.starts_with("__ocl_tarn_k1_") ? &paths[name] : nullptr;
+            } else if (inside) {
+                const auto tab = line.rfind('\t');
+                inside->push_back(tab == std::string::npos ? line : line.substr(tab + 1));
+                if (inside->back().starts_with("ret")) inside = nullptr;
+            }
         }
-    }
-    return lines;
+        return paths;
+    }();
+    return all;
 }
 
 TEST(HotPath, OfExpIsStraightLineCode) {
@@ -75,12 +90,13 @@ TEST(HotPath, OfExpIsStraightLineCode) {
     GTEST_SKIP() << "a property of the reference compiler's code";
 #endif
     int jumps = 0, constants = 0;
-    for (const auto& line : hot_path("__ocl_tarn_k1_expf4")) {
+    for (const auto& line : hot_paths().at("__ocl_tarn_k1_expf4")) {
         jumps += line.starts_with('j');
         constants += line.find("(%rip)") != std::string::npos;
         EXPECT_FALSE(line.starts_with("call")) << line;
         EXPECT_EQ(line.find("%rsp"), std::string::npos) << line;
-        EXPECT_FALSE(line.starts_with("movss") || line.starts_with("shufps") || line.starts_with("push")) << line;
+        const std::string operation = line.substr(line.starts_with('v'));
+        EXPECT_FALSE(operation.starts_with("movss") || operation.starts_with("shufps") || operation.starts_with("push")) << line;
     }
     EXPECT_EQ(jumps, 1);
     EXPECT_GE(constants, 12);
@@ -88,16 +104,40 @@ TEST(HotPath, OfExpIsStraightLineCode) {
 
 // Wide calls compute all their blocks before the one test of the mask, so that the blocks overlap.
 TEST(HotPath, OfWideExpTestsOnce) {
-    for (const char* name : {"__ocl_tarn_k1_expf8", "__ocl_tarn_k1_expf16"}) {
+    const int lanes = of_v3() ? 8 : 4;
+    for (const int width : {8, 16}) {
+        const std::string name = export_name("expf", width, Variant::full);
         int jumps = 0, products = 0;
-        for (const auto& line : hot_path(name)) {
+        for (const auto& line : hot_paths().at(name)) {
             jumps += line.starts_with('j');
-            products += line.starts_with("mulps");
+            products += line.starts_with(lanes == 8 ? "vmulps" : "mulps");
             EXPECT_FALSE(line.starts_with("call")) << line;
         }
         EXPECT_EQ(jumps, 1) << name;
-        EXPECT_EQ(products, 8 * (std::string(name).ends_with("16") ? 4 : 2)) << name;
+        EXPECT_EQ(products, 8 * width / lanes) << name;
     }
+}
+
+// Callers write the vectors of wide calls in pieces of 16 bytes, and a longer load waits for the last of them.
+TEST(HotPath, LoadsArgumentsInHalves) {
+    if (!of_v3()) GTEST_SKIP() << "has no longer vectors";
+    // Conversions, broadcasts and insertions read 16 bytes or fewer.
+    const std::regex longer(R"(^v(?!cvt|pmov[sz]x|broadcast|pbroadcast|insert)\S+\s+(?:\$\w+,)?(?:0x([0-9a-f]+))?\(%rsp\),%ymm.*)"), frame(R"(^sub\s+\$0x([0-9a-f]+),%rsp)");
+    std::size_t halves = 0;
+    for (const auto& [name, lines] : hot_paths()) {
+        Export e;
+        if (parse_export(name, e) && e.width == 3) continue;  // single lanes in memory
+        unsigned long own = 8;  // the return address
+        for (const auto& line : lines) {
+            std::smatch found;
+            if (line.starts_with("push")) own += 8;
+            else if (std::regex_search(line, found, frame)) own += std::stoul(found[1], nullptr, 16);
+            else if (line.starts_with("vinsertf128") || line.starts_with("vinserti128")) halves++;
+            else if (std::regex_match(line, found, longer))
+                EXPECT_LT(found[1].length() ? std::stoul(found[1], nullptr, 16) : 0, own) << name << ": " << line;
+        }
+    }
+    EXPECT_GT(halves, 500u);
 }
 
 TEST(Names, AreTakenApartByTheTable) {

@@ -65,7 +65,8 @@ TEST(Tools, RefuseBadInputInOneLine) {
         "tarn-ulp expf4 --samples many", "tarn-ulp expf4 --samples 10 --plot x.txt", "tarn-ulp expf4 --samples 10 --log /nowhere/log",
         "tarn-ulp expf4 --all --plot /nowhere/x.svg", "PATH=/nowhere tarn-ulp expf4 --all --plot x.svg", "tarn-ulp expf4 --all --samples 10",
         "tarn-ulp powf4 --all", "tarn-ulp exp4 --search 1 --samples 10", "tarn-ulp exp4 --search 1 --log x", "tarn-ulp exp4 --search 0",
-        "tarn-ulp exp4 --csv --json", "tarn-bench nothing", "tarn-bench expf --rounds 0", "tarn-tables /nowhere"};
+        "tarn-ulp exp4 --csv --json", "tarn-bench nothing", "tarn-bench expf --rounds 0", "tarn-bench expf --v3 /nowhere.so",
+        "tarn-bench expf --json --markdown", "tarn-tables /nowhere"};
     for (const auto& command : commands) {
         const Ran ran = run(command + " 2>&1 >/dev/null");
         EXPECT_EQ(ran.status, 2) << command;

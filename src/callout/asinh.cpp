@@ -29,9 +29,10 @@ int asinh(const double* x, double* result) {
 }
 
 int acosh(const double* x, double* result) {
+    if (is_nan(*x)) return give(result, *x + *x);
     if (*x < 1) return give(result, invalid(), domain_error);
     if (*x == 1) return give(result, 0.0);
-    if (not_finite(*x)) return give(result, *x + *x);
+    if (not_finite(*x)) return give(result, *x);
     return give(result, *x < 0x1p511 ? inverse_hyperbolic::acosh(filled<f64x2>(*x))[0] : log_of_twice(*x));
 }
 

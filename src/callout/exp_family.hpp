@@ -1,6 +1,8 @@
 // What the callouts of the single-precision exponentials share: a power of two from 64 pairs.
 #pragma once
 
+#include <limits>
+
 #include "callout/scalar.hpp"
 
 namespace tarn::callout {
@@ -38,7 +40,7 @@ TARN_INLINE double scaled_up(double v, int exponent) {
 
 // The exponentials of an infinity or a NaN.
 template <class Real> TARN_INLINE int exp_not_finite(Real x, Real* result) {
-    *result = x < 0 ? Real(0) : x * x;
+    *result = x == -std::numeric_limits<Real>::infinity() ? Real(0) : x * x;
     return ordinary;
 }
 

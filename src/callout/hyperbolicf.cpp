@@ -17,7 +17,7 @@ int half_exponential(float x, double sign, float* result) {
 
 }  // namespace
 
-int sinhf(const float* x, float* result) { return half_exponential(*x, *x < 0 ? -1.0 : 1.0, result); }
+int sinhf(const float* x, float* result) { return half_exponential(*x, has_sign(*x) ? -1.0 : 1.0, result); }
 int coshf(const float* x, float* result) { return half_exponential(*x, 1.0, result); }
 
 int tanhf(const float* x, float* result) {

@@ -10,7 +10,7 @@ namespace {
 
 // The value of what is not positive and finite; `of` gives ln(x 2^moved) to its base for what is.
 template <class Of> int give_log(double x, double* result, Of of) {
-    if (not_finite(x) && !(x < 0)) return give(result, x * x);
+    if (not_finite(x) && (is_nan(x) || !has_sign(x))) return give(result, x * x);
     if (x == 0) return give(result, -infinity_from(0.0), pole);
     if (x < 0) return give(result, invalid(), domain_error);
     const bool subnormal = x < 0x1p-1022;
@@ -30,7 +30,7 @@ int log2(const double* x, double* result) { return give_log(*x, result, by_table
 int log10(const double* x, double* result) { return give_log(*x, result, by_table<Base10>); }
 
 int log1p(const double* x, double* result) {
-    if (*x > -1.0 && !not_finite(*x)) return give(result, log1p_of(*x));
+    if (!not_finite(*x) && *x > -1.0) return give(result, log1p_of(*x));
     return give_log(*x + 1.0, result, natural);
 }
 

@@ -52,7 +52,7 @@ namespace {
 
 // The logarithm to the base e^(1/multiple); `x` or `1 + x` is X.
 int give_log(double X, double multiple, float* result) {
-    if (not_finite(X) && !(X < 0)) return give(result, X * X);
+    if (not_finite(X) && (is_nan(X) || !has_sign(X))) return give(result, X * X);
     if (X == 0) return give(result, -infinity_from(0.0), pole);
     if (X < 0) return give(result, invalid(), domain_error);
     return give(result, multiple * log_of(X));
@@ -65,7 +65,7 @@ int log2f(const float* x, float* result) { return give_log(*x, log2_e, result); 
 int log10f(const float* x, float* result) { return give_log(*x, log10_e, result); }
 
 int log1pf(const float* x, float* result) {
-    if (*x > -1.0f && *x < f32(0x7F800000)) return give(result, log1p_of(*x));
+    if (!not_finite(*x) && *x > -1.0f) return give(result, log1p_of(*x));
     return give_log(1.0 + static_cast<double>(*x), 1.0, result);
 }
 

@@ -20,18 +20,20 @@ template <class Real> Real larger(Real x, Real y) {
 template <class Real> int fmin(const Real* x, const Real* y, Real* result) { return give(result, smaller(*x, *y)); }
 template <class Real> int fmax(const Real* x, const Real* y, Real* result) { return give(result, larger(*x, *y)); }
 
-// A NaN's magnitude compares as neither larger nor smaller, and is left to the other two.
+// Magnitudes compare as their patterns do; NaNs are left to the other two.
 template <class Real> int maxmag(const Real* x, const Real* y, Real* result) {
-    const Real ax = number<Real>(magnitude(*x)), ay = number<Real>(magnitude(*y));
+    if (is_nan(*x) || is_nan(*y)) return give(result, ignoring_nan(*x, *y));
+    const auto ax = magnitude(*x), ay = magnitude(*y);
     return give(result, ax > ay ? *x : ay > ax ? *y : larger(*x, *y));
 }
 template <class Real> int minmag(const Real* x, const Real* y, Real* result) {
-    const Real ax = number<Real>(magnitude(*x)), ay = number<Real>(magnitude(*y));
+    if (is_nan(*x) || is_nan(*y)) return give(result, ignoring_nan(*x, *y));
+    const auto ax = magnitude(*x), ay = magnitude(*y);
     return give(result, ax < ay ? *x : ay < ax ? *y : smaller(*x, *y));
 }
 
 template <class Real> int fdim(const Real* x, const Real* y, Real* result) {
-    return give(result, *x <= *y ? Real(0) : *x - *y);
+    return give(result, !is_nan(*x) && !is_nan(*y) && *x <= *y ? Real(0) : *x - *y);
 }
 
 #define TARN_BINARY(name)                                       \

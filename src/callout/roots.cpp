@@ -28,7 +28,7 @@ int inv(const double* x, double* result) {
 }
 
 int rsqrt(const double* x, double* result) {
-    if (*x < 0) return give(result, invalid(), domain_error);
+    if (!is_nan(*x) && *x < 0) return give(result, invalid(), domain_error);
     if (*x == 0) return give(result, infinity_from(*x), pole);
     if (not_finite(*x)) return give(result, 1.0 / *x);
     if (*x < 0x1p-900) return give(result, corrected_rsqrt(filled<f64x2>(*x * 0x1p600))[0] * 0x1p300);
@@ -50,7 +50,7 @@ int rcbrt(const double* x, double* result) {
 }
 
 int hypot(const double* px, const double* py, double* result) {
-    const double x = size_of(*px), y = size_of(*py), larger = x > y ? x : y;
+    const double x = size_of(*px), y = size_of(*py), larger = pattern(x) > pattern(y) ? x : y;
     if (is_infinite(x) || is_infinite(y)) return give(result, __builtin_inf());
     if (is_nan(*px) || is_nan(*py)) return give(result, *px + *py);
     if (larger == 0) return give(result, 0.0);

@@ -9,11 +9,13 @@ namespace tarn::callout {
 TARN_INLINE std::uint32_t pattern(float x) { return static_cast<std::uint32_t>(bits(x)); }
 TARN_INLINE std::uint64_t pattern(double x) { return static_cast<std::uint64_t>(bits(x)); }
 
+// Comparisons but == and != raise invalid for any NaN: callouts ask for NaNs, or for bit patterns, first.
 TARN_INLINE bool is_nan(float x) { return x != x; }
 TARN_INLINE bool is_nan(double x) { return x != x; }
 
 // Set for -0 too.
-TARN_INLINE bool has_sign(float x) { return (pattern(x) & 0x80000000) != 0; }
+TARN_INLINE bool has_sign(float x) { return bits(x) < 0; }
+TARN_INLINE bool has_sign(double x) { return bits(x) < 0; }
 
 // Infinity or NaN.
 TARN_INLINE bool not_finite(float x) { return (pattern(x) & 0x7F800000) == 0x7F800000; }

@@ -3,7 +3,6 @@
 // what else the machine does falls on all alike.
 #include <benchmark/benchmark.h>
 #include <dlfcn.h>
-#include <emmintrin.h>
 
 #include <algorithm>
 #include <cmath>
@@ -11,6 +10,7 @@
 #include <memory>
 #include <random>
 
+#include "bench/peers.hpp"
 #include "common/cli.hpp"
 
 namespace {
@@ -26,7 +26,7 @@ struct Buffers {
 
 // A way to compute a family on 1024 elements.
 struct Entrant {
-    std::string family, column;
+    std::string family, level, column;
     std::function<void(Buffers&)> run;
     std::shared_ptr<Buffers> buffers;
 };
@@ -61,42 +61,28 @@ std::function<void(Buffers&)> ours(const Function& f) {
     };
 }
 
-// Vectors of type V, which may be a scalar, in a buffer.
-template <class V> std::size_t vectors(const Buffers& b) {
-    return elements * static_cast<std::size_t>(bytes(b.result.type())) / sizeof(V);
-}
-
-// A peer's function of one to three vectors. The loop holds the call and nothing that could be outside.
-template <class V> std::function<void(Buffers&)> peer(void* address, std::size_t arity) {
-    const auto over = [=](auto call) {
-        return [=](Buffers& b) {
-            V* out = reinterpret_cast<V*>(b.result.data());
-            const V* in[3] = {};
-            for (std::size_t a = 0; a < b.args.size(); a++) in[a] = reinterpret_cast<const V*>(b.args[a].data());
-            for (std::size_t i = 0, count = vectors<V>(b); i < count; i++) out[i] = call(in, i);
-        };
-    };
-    if (arity == 1) return over([f = reinterpret_cast<V (*)(V)>(address)](const V* const* in, std::size_t i) { return f(in[0][i]); });
-    if (arity == 2) return over([f = reinterpret_cast<V (*)(V, V)>(address)](const V* const* in, std::size_t i) { return f(in[0][i], in[1][i]); });
-    return over([f = reinterpret_cast<V (*)(V, V, V)>(address)](const V* const* in, std::size_t i) { return f(in[0][i], in[1][i], in[2][i]); });
-}
-
-// A peer's sine and cosine, returned as two vectors.
-template <class V> std::function<void(Buffers&)> peer_pair(void* address) {
-    struct Two { V first, second; };
-    return [f = reinterpret_cast<Two (*)(V)>(address)](Buffers& b) {
-        const V* in = reinterpret_cast<const V*>(b.args[0].data());
-        for (std::size_t i = 0, count = vectors<V>(b); i < count; i++) {
-            const Two both = f(in[i]);
-            reinterpret_cast<V*>(b.result.data())[i] = both.first;
-            reinterpret_cast<V*>(b.second.data())[i] = both.second;
-        }
+// A peer's function, of the arity of the family or with sine and cosine as its two results.
+std::function<void(Buffers&)> peer(const bench::Runs& runs, void* address, std::size_t arity, bool pair) {
+    return [=, run = pair ? runs.pair : runs.of[arity - 1]](Buffers& b) {
+        const std::byte* in[3] = {};
+        for (std::size_t a = 0; a < b.args.size(); a++) in[a] = b.args[a].data();
+        run(address, in, b.result.data(), b.second.data(), elements * static_cast<std::size_t>(bytes(b.result.type())));
     };
 }
 
-// The peers, by their naming rules: SLEEF's 128-bit SSE4 functions, the C library's vector functions for
-// SSE4 and its scalar ones. All keep within 4 ulp.
-void add_peers(const Family& f, const std::string& row, const std::shared_ptr<Buffers>& b, std::vector<Entrant>& to) {
+// A module, and what stands beside it: functions for the same processors, with vectors of the same size.
+struct Level {
+    std::string name, key;
+    const bench::Runs &f32, &f64;
+    std::string sleef_f32, sleef_f64, sleef, mvec_f32, mvec_f64;
+    bool scalars;
+};
+const Level plain = {"plain", "plain", bench::of_16_bytes_f32, bench::of_16_bytes_f64, "f4", "d2", "sse4", "_ZGVbN4", "_ZGVbN2", true};
+const Level v3 = {"x86-64-v3", "v3", bench::of_32_bytes_f32, bench::of_32_bytes_f64, "f8", "d4", "avx2", "_ZGVdN8", "_ZGVdN4", false};
+
+// The peers, by their naming rules: SLEEF's functions of a level, the C library's vector functions and its scalar ones.
+// All keep within 4 ulp.
+void add_peers(const Family& f, const Level& level, const std::string& row, const std::shared_ptr<Buffers>& b, std::vector<Entrant>& to) {
     static void* const sleef = dlopen("libsleef.so.3", RTLD_NOW);
     static void* const mvec = dlopen("libmvec.so.1", RTLD_NOW);
     static void* const libm = dlopen("libm.so.6", RTLD_NOW);
@@ -110,30 +96,22 @@ void add_peers(const Family& f, const std::string& row, const std::shared_ptr<Bu
     else if (f.shape.second != Lane::none) return;
     for (const Lane arg : f.shape.args) if (arg != type) return;
 
-    const auto add = [&](const char* column, void* library, const std::string& symbol, auto vector) {
-        using V = decltype(vector);
+    const auto add = [&](const char* column, void* library, const std::string& symbol, const bench::Runs& runs) {
         void* address = library ? dlsym(library, symbol.c_str()) : nullptr;
-        if (!address) return false;
-        to.push_back({row, column, pair ? peer_pair<V>(address) : peer<V>(address, arity), b});
-        return true;
+        if (address) to.push_back({row, level.key, column, peer(runs, address, arity, pair), b});
+        return address != nullptr;
     };
+    const bench::Runs& runs = single ? level.f32 : level.f64;
     const auto sleef_function = [&](const char* column, std::initializer_list<const char*> accuracies) {
-        for (const char* accuracy : accuracies) {
-            const std::string symbol = "Sleef_" + name + (single ? "f4" : "d2") + accuracy + "sse4";
-            if (single ? add(column, sleef, symbol, __m128{}) : add(column, sleef, symbol, __m128d{})) return;
-        }
+        for (const char* accuracy : accuracies)
+            if (add(column, sleef, "Sleef_" + name + (single ? level.sleef_f32 : level.sleef_f64) + accuracy + level.sleef, runs)) return;
     };
     sleef_function("SLEEF u10", {"_u05", "_u10", "_u15", "_"});
     sleef_function("SLEEF u35", {"_u35"});
     if (pair) return;
-    const std::string v(arity, 'v');
-    if (single) {
-        add("libmvec", mvec, "_ZGVbN4" + v + '_' + name + 'f', __m128{});
-        add("libm", libm, name + 'f', float{});
-    } else {
-        add("libmvec", mvec, "_ZGVbN2" + v + '_' + name, __m128d{});
-        add("libm", libm, name, double{});
-    }
+    const std::string type_letter = single ? "f" : "";
+    add("libmvec", mvec, (single ? level.mvec_f32 : level.mvec_f64) + std::string(arity, 'v') + '_' + name + type_letter, runs);
+    if (level.scalars) add("libm", libm, name + type_letter, single ? bench::runs<float> : bench::runs<double>);
 }
 
 // Keeps the least time of each entrant and prints the table at the end.
@@ -157,18 +135,41 @@ public:
         for (const auto& p : peers) std::printf("%11s", p.c_str());
         std::printf("%8s\n", "ratio");
         for (const Row& row : rows(entrants)) {
-            std::printf("%-22s", row.name.c_str());
+            std::printf("%-22s", (row.level == plain.key ? row.name : "  " + v3.name).c_str());
             for (const double ns : row.ours) cell(ns, 8, 3);
             for (const double ns : row.theirs) cell(ns, 11, 3);
             cell(row.ratio(), 8, 2);
             std::puts("");
         }
+        const auto [gain, families] = mean_gain(rows(entrants));
+        if (families != 0) std::printf("%s at width 16: %.2f times as fast, the geometric mean of %d families\n", v3.name.c_str(), gain, families);
+    }
+
+    // What matters of each family, as a page shows it; then the whole.
+    void print_markdown(const std::vector<Entrant>& entrants) const {
+        std::puts("Nanoseconds an element, each module at its best width; a peer is the best of its size, scalar functions among\n"
+                  "those of 128 bits. Ahead: the peer's time over ours. Gain: the plain module's time over the other's at width 16.\n\n"
+                  "| function | plain | v3 | best 128-bit peer | best 256-bit peer | plain ahead | v3 ahead | gain |\n"
+                  "|---|---|---|---|---|---|---|---|");
+        const auto all = rows(entrants);
+        for (const Row& row : all) {
+            if (row.level != plain.key) continue;
+            const Row none{row.name, v3.key, std::vector<double>(row.ours.size(), INFINITY), std::vector<double>(peers.size(), INFINITY)};
+            const Row* wide = &none;
+            for (const Row& other : all) if (other.name == row.name && other.level == v3.key) wide = &other;
+            std::printf("| `%s` | %s | %s | %s | %s | %s | %s | %s |\n", row.name.c_str(), number(row.best(), 3).c_str(),
+                        number(wide->best(), 3).c_str(), row.best_peer().c_str(), wide->best_peer().c_str(),
+                        number(row.ratio(), 2).c_str(), number(wide->ratio(), 2).c_str(), number(row.ours.back() / wide->ours.back(), 2).c_str());
+        }
+        std::puts("\nEvery width, with the peers of the module's size:\n\n```");
+        print(entrants);
+        std::puts("```");
     }
 
     void print_json(const std::vector<Entrant>& entrants) const {
         const char* comma = "[";
         for (const Row& row : rows(entrants)) {
-            std::printf("%s{\"row\": \"%s\", \"unit\": \"ns an element\", \"widths\": {", comma, row.name.c_str());
+            std::printf("%s{\"row\": \"%s\", \"module\": \"%s\", \"unit\": \"ns an element\", \"widths\": {", comma, row.name.c_str(), row.level.c_str());
             for (std::size_t i = 0; i < row.ours.size(); i++)
                 std::printf("%s\"%d\": %.4g", i ? ", " : "", widths[i], row.ours[i]);
             std::printf("}, \"peers\": {");
@@ -186,22 +187,40 @@ private:
 
     // Infinite where there is no such entrant.
     struct Row {
-        std::string name;
+        std::string name, level;
         std::vector<double> ours, theirs;
-        double ratio() const {
-            return *std::min_element(theirs.begin(), theirs.end()) / *std::min_element(ours.begin(), ours.end());
+        double best() const { return *std::min_element(ours.begin(), ours.end()); }
+        double ratio() const { return *std::min_element(theirs.begin(), theirs.end()) / best(); }
+        std::string best_peer() const {
+            const auto least = std::min_element(theirs.begin(), theirs.end());
+            return std::isfinite(*least) ? number(*least, 3) + ' ' + peers[static_cast<std::size_t>(least - theirs.begin())] : "-";
         }
     };
     std::vector<Row> rows(const std::vector<Entrant>& entrants) const {
         std::vector<Row> all;
         for (const auto& e : entrants) {
-            if (!all.empty() && all.back().name == e.family) continue;
-            Row row{e.family, {}, {}};
-            for (const int w : widths) row.ours.push_back(time_of(row.name + '/' + std::to_string(w)));
-            for (const auto& p : peers) row.theirs.push_back(time_of(row.name + '/' + p));
+            if (!all.empty() && all.back().name == e.family && all.back().level == e.level) continue;
+            Row row{e.family, e.level, {}, {}};
+            const std::string key = row.name + '/' + row.level + '/';
+            for (const int w : widths) row.ours.push_back(time_of(key + std::to_string(w)));
+            for (const auto& p : peers) row.theirs.push_back(time_of(key + p));
             all.push_back(row);
         }
         return all;
+    }
+    // How much faster the wide module is at width 16, over the families whose lanes are ordinary.
+    static std::pair<double, int> mean_gain(const std::vector<Row>& all) {
+        double sum = 0;
+        int count = 0;
+        for (std::size_t i = 1; i < all.size(); i++)
+            if (all[i].level == v3.key && all[i].name.find(", large x") == std::string::npos)
+                sum += std::log(all[i - 1].ours.back() / all[i].ours.back()), count++;
+        return {std::exp(sum / std::max(count, 1)), count};
+    }
+    static std::string number(double v, int digits) {
+        char text[32];
+        std::snprintf(text, sizeof text, "%.*f", digits, v);
+        return std::isfinite(v) ? text : "-";
     }
     double time_of(const std::string& key) const {
         for (const auto& [name, ns] : least_)
@@ -209,7 +228,7 @@ private:
         return INFINITY;
     }
     static void cell(double v, int space, int digits) {
-        std::isfinite(v) ? std::printf("%*.*f", space, digits, v) : std::printf("%*s", space, "-");
+        std::printf("%*s", space, number(v, digits).c_str());
     }
     std::map<std::string, double> least_;
 };
@@ -220,16 +239,21 @@ int main(int argc, char** argv) {
     CLI::App app{"Times exports beside the vector math libraries found on the machine.", "tarn-bench"};
     std::vector<std::string> bases;
     int rounds = 25;
-    bool variants = false, json = false;
-    std::string module_path = Module::built_path();
+    bool variants = false, json = false, markdown = false;
+    std::string module_path = Module::built_path(), v3_path;
     app.add_option("FAMILY", bases, "families, such as expf (all that the module has, if none is named)");
     app.add_option("--rounds", rounds, "interleaved rounds, of which the least counts")->check(CLI::Range(1, 10000));
     app.add_flag("--variants", variants, "native and half forms too");
-    app.add_flag("--json", json, "the times as JSON");
-    app.add_option("--module", module_path, "another module file");
+    auto* as_json = app.add_flag("--json", json, "the times as JSON");
+    app.add_flag("--markdown", markdown, "the times as a page shows them")->excludes(as_json);
+    app.add_option("--module", module_path, "another module file (in the environment: TARN_MODULE)");
+    app.add_option("--v3", v3_path, "the module for x86-64-v3 beside it, with the peers' 256-bit functions");
 
     return cli::run(app, argc, argv, [&] {
         const Module module(module_path);
+        std::vector<std::pair<const Level*, const Module*>> modules = {{&plain, &module}};
+        std::optional<Module> wide;
+        if (!v3_path.empty()) modules.emplace_back(&v3, &wide.emplace(v3_path));
         if (bases.empty())
             for (const Family& f : families())
                 if (module.has(f)) bases.push_back(f.base);
@@ -237,20 +261,23 @@ int main(int argc, char** argv) {
         for (const auto& base : bases) {
             const Family* f = find_family(base);
             if (!f) throw cli::Refused("no family is called '" + base + "'");
-            if (!module.has(*f)) throw cli::Refused("the module has no '" + base + "'");
+            for (const auto& [level, m] : modules)
+                if (!m->has(*f)) throw cli::Refused("the module has no '" + base + "'");
             for (const bool large : {false, true}) {
                 if (large && f->switches_above == 0) continue;
                 const auto b = inputs(*f, large);
                 for (const Variant v : all_variants) {
                     if (!f->has(v) || (v != Variant::full && (!variants || large))) continue;
                     const std::string row = base + suffix(v) + (large ? ", large x" : "");
-                    for (const int w : widths) entrants.push_back({row, std::to_string(w), ours(*module.find({f, w, v})), b});
-                    add_peers(*f, row, b, entrants);
+                    for (const auto& [level, m] : modules) {
+                        for (const int w : widths) entrants.push_back({row, level->key, std::to_string(w), ours(*m->find({f, w, v})), b});
+                        add_peers(*f, *level, row, b, entrants);
+                    }
                 }
             }
         }
         for (const auto& e : entrants)
-            benchmark::RegisterBenchmark((e.family + '/' + e.column).c_str(), [&e](benchmark::State& state) {
+            benchmark::RegisterBenchmark((e.family + '/' + e.level + '/' + e.column).c_str(), [&e](benchmark::State& state) {
                 for (auto _ : state) {
                     e.run(*e.buffers);
                     benchmark::ClobberMemory();
@@ -262,7 +289,7 @@ int main(int argc, char** argv) {
         benchmark::Initialize(&flag_count, flags);
         Table table;
         benchmark::RunSpecifiedBenchmarks(&table);
-        json ? table.print_json(entrants) : table.print(entrants);
+        json ? table.print_json(entrants) : markdown ? table.print_markdown(entrants) : table.print(entrants);
         return 0;
     });
 }

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <cstdlib>
 #include <stdexcept>
 #include <tuple>
 
@@ -132,9 +133,9 @@ void Function::operator()(const std::vector<Lanes>& args, Lanes& result, Lanes* 
     if (stored == width && n % width == 0) {
         for (std::size_t a = 0; a < args.size(); a++) pointers[a] = args[a].data();
         result = Lanes(shape.result, n);
-        Lanes own(shape.second, second ? 0 : n);
-        if (second) *second = Lanes(shape.second, n);
-        batch_(address_, pointers, result.data(), (second ? *second : own).data(), calls);
+        Lanes seconds(shape.second, shape.second == Lane::none ? 0 : n);
+        batch_(address_, pointers, result.data(), seconds.data(), calls);
+        if (second) *second = std::move(seconds);
         return;
     }
 
@@ -164,7 +165,10 @@ Module::Module(const std::string& path) : handle_(dlopen(path.c_str(), RTLD_NOW 
     if (!handle_) throw std::runtime_error(std::string("cannot load the module: ") + dlerror());
 }
 
-std::string Module::built_path() { return TARN_MODULE_PATH; }
+std::string Module::built_path() {
+    const char* other = std::getenv("TARN_MODULE");
+    return other && *other ? other : TARN_MODULE_PATH;
+}
 
 std::optional<Function> Module::find(const Export& e) const {
     Function f;

@@ -17,30 +17,34 @@ namespace tarn {
 class Lanes {
 public:
     Lanes() = default;
-    Lanes(Lane type, std::size_t count) : type_(type), size_(count), bytes_(count * tarn::bytes(type)) {}
+    Lanes(Lane type, std::size_t count)
+        : type_(type), size_(count), lines_((count * static_cast<std::size_t>(tarn::bytes(type)) + sizeof(Line) - 1) / sizeof(Line)) {}
 
     Lane type() const { return type_; }
     std::size_t size() const { return size_; }
-    std::byte* data() { return bytes_.data(); }
-    const std::byte* data() const { return bytes_.data(); }
+    std::byte* data() { return reinterpret_cast<std::byte*>(lines_.data()); }
+    const std::byte* data() const { return reinterpret_cast<const std::byte*>(lines_.data()); }
 
     std::uint64_t pattern(std::size_t i) const { return wide() ? load<std::uint64_t>(i) : load<std::uint32_t>(i); }
     void set(std::size_t i, std::uint64_t pattern) {
-        if (wide()) std::memcpy(bytes_.data() + i * 8, &pattern, 8);
-        else std::memcpy(bytes_.data() + i * 4, &pattern, 4);
+        if (wide()) std::memcpy(data() + i * 8, &pattern, 8);
+        else std::memcpy(data() + i * 4, &pattern, 4);
     }
 
 private:
+    // Vectors of any size lie within a line of the cache.
+    struct alignas(64) Line { std::byte bytes[64]; };
+
     bool wide() const { return tarn::bytes(type_) == 8; }
     template <class Word> Word load(std::size_t i) const {
         Word word;
-        std::memcpy(&word, bytes_.data() + i * sizeof word, sizeof word);
+        std::memcpy(&word, data() + i * sizeof word, sizeof word);
         return word;
     }
 
     Lane type_ = Lane::none;
     std::size_t size_ = 0;
-    std::vector<std::byte> bytes_;
+    std::vector<Line> lines_;
 };
 
 // A pattern of a lane type as a number (exact for all but the largest 64-bit integers), and back.
@@ -76,7 +80,8 @@ private:
 
 class Module {
 public:
-    // The module beside the build that this program belongs to, or the one named.
+    // The module of the build that this program belongs to, the one that the environment's TARN_MODULE names, or the
+    // one named here.
     explicit Module(const std::string& path = built_path());
     static std::string built_path();
 
