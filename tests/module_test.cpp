@@ -130,11 +130,15 @@ TEST(HotPath, LoadsArgumentsInHalves) {
         unsigned long own = 8;  // the return address
         for (const auto& line : lines) {
             std::smatch found;
-            if (line.starts_with("push")) own += 8;
-            else if (std::regex_search(line, found, frame)) own += std::stoul(found[1], nullptr, 16);
-            else if (line.starts_with("vinsertf128") || line.starts_with("vinserti128")) halves++;
-            else if (std::regex_match(line, found, longer))
+            if (line.starts_with("push")) {
+                own += 8;
+            } else if (std::regex_search(line, found, frame)) {
+                own += std::stoul(found[1], nullptr, 16);
+            } else if (line.starts_with("vinsertf128") || line.starts_with("vinserti128")) {
+                halves++;
+            } else if (std::regex_match(line, found, longer)) {
                 EXPECT_LT(found[1].length() ? std::stoul(found[1], nullptr, 16) : 0, own) << name << ": " << line;
+            }
         }
     }
     EXPECT_GT(halves, 500u);
