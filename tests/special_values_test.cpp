@@ -124,6 +124,11 @@ class SpecialValue : public testing::TestWithParam<Member> {};
 
 bool has_nan(const Case& c) { return std::any_of(c.args.begin(), c.args.end(), [](double arg) { return std::isnan(arg); }); }
 
+// The square of a tiny argument vanishes, which may show.
+bool has_tiny(const Case& c) {
+    return std::any_of(c.args.begin(), c.args.end(), [](double arg) { return arg != 0 && std::fabs(arg) <= 1e-30; });
+}
+
 // Exceptions that a result deserves and a form does not raise: a pole that tanpif writes as bits, and a signalling NaN
 // that goes into an estimate of the processor's, which raises nothing.
 bool is_silent(const Member& m, const Case& c) {
@@ -177,7 +182,8 @@ TEST_P(SpecialValue, RaisesNothingElse) {
     const Family& f = *GetParam().family;
     const Spurious spurious = spurious_of(f);
     for (const Case* c : cases_of(GetParam())) {
-        const int allowed = c->raises | FE_INEXACT | (has_nan(*c) ? spurious.at_nan : spurious.elsewhere);
+        const int allowed = c->raises | FE_INEXACT | (has_nan(*c) ? spurious.at_nan : spurious.elsewhere) |
+                            (has_tiny(*c) ? FE_UNDERFLOW : 0);
         for (const int width : widths) {
             const Function function = GetParam().at(width);
             const auto lanes = splat(f, width, patterns(f, *c));
@@ -208,7 +214,7 @@ TEST(SpecialValues, StillRaiseWhatIsSpurious) {
                 for (const Case* c : cases_of(m))
                     for (const int width : widths) {
                         const Called got = call(m.at(width), splat(*f, width, patterns(*f, *c)));
-                        (has_nan(*c) ? at_nan : elsewhere) |= got.raised & ~c->raises;
+                        (has_nan(*c) ? at_nan : elsewhere) |= got.raised & ~(c->raises | (has_tiny(*c) ? FE_UNDERFLOW : 0));
                     }
             }
             EXPECT_EQ(names_of(s.at_nan & ~at_nan), "nothing") << name << " of a NaN";
