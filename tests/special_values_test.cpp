@@ -122,24 +122,38 @@ std::vector<std::uint64_t> ordinary(const Family& f) {
 
 class SpecialValue : public testing::TestWithParam<Member> {};
 
+bool has_nan(const Case& c) { return std::any_of(c.args.begin(), c.args.end(), [](double arg) { return std::isnan(arg); }); }
+
+// The square of a tiny argument vanishes, which may show.
+bool has_tiny(const Case& c) {
+    return std::any_of(c.args.begin(), c.args.end(), [](double arg) { return arg != 0 && std::fabs(arg) <= 1e-30; });
+}
+
+// Exceptions that a result deserves and a form does not raise: a pole that tanpif writes as bits, and a signalling NaN
+// that goes into an estimate of the processor's, which raises nothing.
+bool is_silent(const Member& m, const Case& c) {
+    const auto& estimates = m.family->estimates;
+    const bool estimates_first = std::find(estimates.begin(), estimates.end(), m.variant) != estimates.end();
+    return (m.family->base == "tanpif" && c.raises == pole) || (m.variant != Variant::full && estimates_first && has_nan(c));
+}
+
 TEST_P(SpecialValue, InEveryLane) {
     const Family& f = *GetParam().family;
     for (const Case* c : cases_of(GetParam())) {
         const auto special = patterns(f, *c);
+        const int wanted = c->raises == any || is_silent(GetParam(), *c) ? 0 : c->raises & ~FE_INEXACT;
         for (const int width : widths) {
             const Function function = GetParam().at(width);
-            for (int position = 0; position < width; position++) {
+            // There a NaN comes back as it went.
+            const bool gives_nan_back = function.name() == "__ocl_tarn_k1_exp2f4";
+            for (std::size_t position = 0; position < static_cast<std::size_t>(width); position++) {
                 auto lanes = splat(f, width, ordinary(f));
-                for (std::size_t a = 0; a < special.size(); a++) lanes[a].set(static_cast<std::size_t>(position), special[a]);
+                for (std::size_t a = 0; a < special.size(); a++) lanes[a].set(position, special[a]);
                 const Called got = call(function, lanes);
-                const auto lane = got.result.pattern(static_cast<std::size_t>(position));
-                // At this width a NaN comes back as it went.
-                const bool itself = function.name() == "__ocl_tarn_k1_exp2f4" && lane == special[0];
-                EXPECT_TRUE(right(f, *c, lane) || itself) << function.name() << '(' << lanes_text(lanes, static_cast<std::size_t>(position)) << ") in lane " << position << " = " << hex(lane);
-                const int wanted = c->raises & ~FE_INEXACT;
-                // A pole that tanpif writes as bits.
-                const bool written = f.base == "tanpif" && c->raises == pole;
-                if (c->raises != any && !written) { EXPECT_EQ(got.raised & wanted, wanted) << function.name() << '(' << lanes_text(lanes, static_cast<std::size_t>(position)) << ") in lane " << position << " raises " << names_of(got.raised); }
+                const auto lane = got.result.pattern(position);
+                const std::string text = function.name() + '(' + lanes_text(lanes, position) + ") in lane " + std::to_string(position);
+                EXPECT_TRUE(right(f, *c, lane) || (gives_nan_back && lane == special[0])) << text << " = " << hex(lane);
+                EXPECT_EQ(names_of(wanted & ~got.raised), "nothing") << text << " does not raise it";
             }
         }
     }
@@ -164,13 +178,12 @@ Spurious spurious_of(const Family& f) {
     return {"", 0, 0};
 }
 
-bool has_nan(const Case& c) { return std::any_of(c.args.begin(), c.args.end(), [](double arg) { return std::isnan(arg); }); }
-
 TEST_P(SpecialValue, RaisesNothingElse) {
     const Family& f = *GetParam().family;
     const Spurious spurious = spurious_of(f);
     for (const Case* c : cases_of(GetParam())) {
-        const int allowed = c->raises | FE_INEXACT | (has_nan(*c) ? spurious.at_nan : spurious.elsewhere);
+        const int allowed = c->raises | FE_INEXACT | (has_nan(*c) ? spurious.at_nan : spurious.elsewhere) |
+                            (has_tiny(*c) ? FE_UNDERFLOW : 0);
         for (const int width : widths) {
             const Function function = GetParam().at(width);
             const auto lanes = splat(f, width, patterns(f, *c));
@@ -194,13 +207,14 @@ TEST(SpecialValues, StillRaiseWhatIsSpurious) {
         for (std::string name; names >> name;) {
             const Family* f = find_family(name);
             ASSERT_TRUE(f) << name;
+            if (name == "fma") continue;  // nothing, where the processor fuses
             int at_nan = 0, elsewhere = 0;
             for (const Member& m : with_cases()) {
                 if (m.family != f) continue;
                 for (const Case* c : cases_of(m))
                     for (const int width : widths) {
                         const Called got = call(m.at(width), splat(*f, width, patterns(*f, *c)));
-                        (has_nan(*c) ? at_nan : elsewhere) |= got.raised & ~c->raises;
+                        (has_nan(*c) ? at_nan : elsewhere) |= got.raised & ~(c->raises | (has_tiny(*c) ? FE_UNDERFLOW : 0));
                     }
             }
             EXPECT_EQ(names_of(s.at_nan & ~at_nan), "nothing") << name << " of a NaN";
