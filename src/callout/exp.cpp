@@ -32,7 +32,7 @@ int exp(const double* x, double* result) {
 }
 
 int expm1(const double* x, double* result) {
-    if (!is_nan(*x) && *x < 0) return give(result, -1.0);
+    if (is_below(*x, 0)) return give(result, -1.0);
     if (not_finite(*x)) return exp_not_finite(*x, result);
     return exp_of_any(*x, result);
 }

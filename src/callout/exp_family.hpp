@@ -40,7 +40,8 @@ TARN_INLINE double scaled_up(double v, int exponent) {
 
 // The exponentials of an infinity or a NaN.
 template <class Real> TARN_INLINE int exp_not_finite(Real x, Real* result) {
-    *result = x == -std::numeric_limits<Real>::infinity() ? Real(0) : x * x;
+    constexpr Real infinity = std::numeric_limits<Real>::infinity();
+    *result = bits(x) == bits(-infinity) ? Real(0) : x * x;
     return ordinary;
 }
 

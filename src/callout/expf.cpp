@@ -53,7 +53,7 @@ int expf(const float* x, float* result) {
 
 // Subtracting 1 from e^x is below half a unit at every magnitude that reaches the callout.
 int expm1f(const float* x, float* result) {
-    if (!is_nan(*x) && *x < 0) return give(result, -1.0);
+    if (is_below(*x, 0)) return give(result, -1.0);
     if (not_finite(*x)) return exp_not_finite(*x, result);
     return exp_of_finite(*x, result);
 }

@@ -62,9 +62,6 @@ template <class Real> TARN_INLINE Real with_sign(Real magnitude, Pattern<Real> s
     return number<Real>(pattern(magnitude) | sign);
 }
 
-// A quiet NaN from a signalling one, raising invalid.
-template <class Real> TARN_INLINE Real quiet(Real nan) { return opaque(nan) + nan; }
-
 // The NaN of an invalid operation, raising its flag.
 template <class Real> TARN_INLINE Real invalid() {
     const Real zero = opaque(Real(0));

@@ -75,7 +75,7 @@ double gamma_of_negative(double x) {
 // What is not positive, or infinite, or too large.
 [[gnu::noinline]] int gamma_elsewhere(double x, double* result) {
     if (not_finite(x)) {
-        if (x < 0) return give(result, invalid(), domain_error);
+        if (is_below(x, 0)) return give(result, invalid(), domain_error);
         return give(result, x * x);
     }
     if (x == 0) return give(result, infinity_from(x), pole);
@@ -91,7 +91,7 @@ double gamma_of_negative(double x) {
 }  // namespace
 
 int tgamma(const double* x, double* result) {
-    if (__builtin_expect(*x > 0 && *x < gamma_largest, 1)) {
+    if (__builtin_expect(is_above(*x, 0) && *x < gamma_largest, 1)) {
         const double y = gamma_of_positive(*x);
         return give(result, y, not_finite(y) ? overflow : ordinary);
     }

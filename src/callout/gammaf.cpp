@@ -100,7 +100,7 @@ double log_gamma_of_negative(double x) {
 TARN_INLINE int log_gamma(float x, float* result, std::int32_t* sign) {
     *sign = 1;
     // At 1 the polynomial gives -0.
-    if (__builtin_expect(x > 0 && x < lgammaf_overflow, 1)) return give(result, log_gamma_of_positive(x) + 0.0);
+    if (__builtin_expect(is_above(x, 0) && x < lgammaf_overflow, 1)) return give(result, log_gamma_of_positive(x) + 0.0);
     return log_gamma_elsewhere(x, result, sign);
 }
 

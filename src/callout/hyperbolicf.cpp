@@ -21,12 +21,12 @@ int sinhf(const float* x, float* result) { return half_exponential(*x, has_sign(
 int coshf(const float* x, float* result) { return half_exponential(*x, 1.0, result); }
 
 int tanhf(const float* x, float* result) {
-    if (is_nan(*x)) return give(result, *x + *x);
-    return give(result, *x < 0 ? -1.0 : 1.0);
+    if (is_nan(*x)) return give(result, quiet(*x));
+    return give(result, has_sign(*x) ? -1.0 : 1.0);
 }
 
 // Infinite, or so small that it is its own value.
-int asinhf(const float* x, float* result) { return give(result, is_nan(*x) ? *x * *x : *x); }
+int asinhf(const float* x, float* result) { return give(result, is_nan(*x) ? quiet(*x) : *x); }
 
 int acoshf(const float* x, float* result) {
     if (is_nan(*x)) return give(result, *x * *x);

@@ -118,7 +118,7 @@ double log_gamma_of_negative(double x) {
 // ln |gamma x| and the sign of gamma(x), +1 at its poles but for -0.
 TARN_INLINE int log_gamma(double x, double* result, std::int32_t* sign) {
     *sign = 1;
-    if (__builtin_expect(x > 0 && x < lgamma_overflow, 1)) return give(result, log_gamma_of_positive(x) + 0.0);
+    if (__builtin_expect(is_above(x, 0) && x < lgamma_overflow, 1)) return give(result, log_gamma_of_positive(x) + 0.0);
     return log_gamma_elsewhere(x, result, sign);
 }
 

@@ -30,7 +30,7 @@ int log2(const double* x, double* result) { return give_log(*x, result, by_table
 int log10(const double* x, double* result) { return give_log(*x, result, by_table<Base10>); }
 
 int log1p(const double* x, double* result) {
-    if (!not_finite(*x) && *x > -1.0) return give(result, log1p_of(*x));
+    if (is_above(*x, -1.0) && !not_finite(*x)) return give(result, log1p_of(*x));
     return give_log(*x + 1.0, result, natural);
 }
 

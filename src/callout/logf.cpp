@@ -65,7 +65,7 @@ int log2f(const float* x, float* result) { return give_log(*x, log2_e, result); 
 int log10f(const float* x, float* result) { return give_log(*x, log10_e, result); }
 
 int log1pf(const float* x, float* result) {
-    if (!not_finite(*x) && *x > -1.0f) return give(result, log1p_of(*x));
+    if (is_above(*x, -1.0f) && !not_finite(*x)) return give(result, log1p_of(*x));
     return give_log(1.0 + static_cast<double>(*x), 1.0, result);
 }
 

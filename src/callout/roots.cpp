@@ -28,7 +28,7 @@ int inv(const double* x, double* result) {
 }
 
 int rsqrt(const double* x, double* result) {
-    if (!is_nan(*x) && *x < 0) return give(result, invalid(), domain_error);
+    if (is_below(*x, 0)) return give(result, invalid(), domain_error);
     if (*x == 0) return give(result, infinity_from(*x), pole);
     if (not_finite(*x)) return give(result, 1.0 / *x);
     if (*x < 0x1p-900) return give(result, corrected_rsqrt(filled<f64x2>(*x * 0x1p600))[0] * 0x1p300);

@@ -21,12 +21,12 @@ int invf(const float* x, float* result) {
 }
 
 int sqrtf(const float* x, float* result) {
-    if (!is_nan(*x) && *x < 0) return give(result, invalid(), domain_error);
+    if (is_below(*x, 0)) return give(result, invalid(), domain_error);
     return give(result, __builtin_sqrt(*x));
 }
 
 int rsqrtf(const float* x, float* result) {
-    if (!is_nan(*x) && *x < 0) return give(result, invalid(), domain_error);
+    if (is_below(*x, 0)) return give(result, invalid(), domain_error);
     if (*x == 0) return give(result, infinity_from(*x), pole);
     return give(result, 1.0 / __builtin_sqrt(*x));
 }

@@ -9,9 +9,17 @@ namespace tarn::callout {
 TARN_INLINE std::uint32_t pattern(float x) { return static_cast<std::uint32_t>(bits(x)); }
 TARN_INLINE std::uint64_t pattern(double x) { return static_cast<std::uint64_t>(bits(x)); }
 
-// Comparisons but == and != raise invalid for any NaN: callouts ask for NaNs, or for bit patterns, first.
 TARN_INLINE bool is_nan(float x) { return x != x; }
 TARN_INLINE bool is_nan(double x) { return x != x; }
+
+// Comparisons for what may be a NaN: the language's own but == and != raise invalid for a quiet one, with some compilers.
+// They are for branches: of a choice between two values the compiler may make a comparison of vectors, which raises it
+// again.
+template <class Real> TARN_INLINE bool is_below(Real x, std::type_identity_t<Real> y) { return __builtin_isless(x, y); }
+template <class Real> TARN_INLINE bool is_above(Real x, std::type_identity_t<Real> y) { return __builtin_isgreater(x, y); }
+
+// A NaN made quiet, raising invalid if it was not; and no operation on what is none.
+template <class Real> TARN_INLINE Real quiet(Real nan) { return opaque(nan) + nan; }
 
 // Set for -0 too.
 TARN_INLINE bool has_sign(float x) { return bits(x) < 0; }

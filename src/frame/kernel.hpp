@@ -265,11 +265,13 @@ private:
         else return result;
     }
 
-    // Lanes beyond those of a short vector are computed like the others, to the last operation: the compiler would
-    // take anything for a lane that does not count, and what it takes may raise flags.
+    // All lanes are computed, to the last operation, whatever becomes of them: for a lane that a short vector does not
+    // have the compiler would take anything, whose flags are nobody's; and with another path to go some compilers
+    // would compute nothing, and raise less than others do.
     template <class G> static TARN_INLINE G all_lanes(G g) {
+        constexpr bool may_be_dropped = requires { typename K::long_path; } && !in_memory<R, width>;
         if constexpr (Floats<G>)
-            if constexpr (lane_count<G> > stored_lanes(width)) return opaque(g);
+            if constexpr (lane_count<G> > stored_lanes(width) || may_be_dropped) return opaque(g);
         return g;
     }
 

@@ -55,7 +55,8 @@ template <Floats V> TARN_INLINE V negated(V x) { return xor_bits(x, sign_mask<V>
 
 // Choice -----------------------------------------------------------------------------------------
 
-// Lane by lane: `yes` where the sign of the mask lane is set, else `no`; either may be a single lane.
+// Lane by lane: `yes` where the sign of the mask lane is set, else `no`; either may be a single lane. Between
+// integers the mask lanes are all ones or all zeros.
 template <Integers M, class A, class B> TARN_INLINE auto select(M mask, A yes, B no) {
     using V = Beside<M, A, B>;
     return blended(mask, filled<V>(yes), filled<V>(no));
