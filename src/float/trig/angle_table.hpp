@@ -18,7 +18,7 @@ template <class V> TARN_INLINE V from_angle_table(const float (*table)[4], const
     constexpr float cosine_4 = f32(0x3D2AAA7C);  // 0.04166649281978607
 
     const auto [c_low, s_high, s_low, c_high] = gather_quads(table, angle.row);
-    const V r = angle.head, z = r * r;
+    const V r = angle.rest.head, z = r * r;
     const V u = s_high + c_high * r;
     const V u_error = (s_high - u) + c_high * r;
     const V v = u + c_low * r;
@@ -26,7 +26,7 @@ template <class V> TARN_INLINE V from_angle_table(const float (*table)[4], const
     const V slope = (c_low + c_high) - r * s_high;
     const V sine_part = (sine_5 * z + sine_3) * z * r * slope;
     const V cosine_part = (cosine_4 * z + cosine_2) * z * s_high;
-    return v + ((cosine_part + (angle.tail * slope + s_low)) + (sine_part + (v_error + u_error)));
+    return v + ((cosine_part + (angle.rest.tail * slope + s_low)) + (sine_part + (v_error + u_error)));
 }
 
 }  // namespace tarn::singles

@@ -47,8 +47,8 @@ struct LargeArgument : Kernel<float(float)> {
     static constexpr int blocks_at_a_time = 2;
 
     template <class V> static TARN_INLINE auto fast(V x) {
-        const Reduced<V> angle = reduce_exactly<HalfTurns>(x);
-        const V y = from_tangent_table(angle.row, angle.head, angle.tail);
+        const auto [row, rest] = reduce_exactly<HalfTurns>(x);
+        const V y = from_tangent_table(row, rest.head, rest.tail);
         return Flagged{select(x == 0.0f, x, y), not_finite(x)};
     }
 };

@@ -32,10 +32,10 @@ struct HalfTurns {
     static constexpr float unit_tail = f32(0xB715777A);  // -8.90890987648163e-06
 };
 
-// The angle of grid point `row`, plus head + tail radians.
+// The angle of grid point `row`, plus a rest in radians.
 template <class V> struct Reduced {
     BitsOf<V> row;
-    V head, tail;
+    HeadTail<V> rest;
 };
 
 template <class V> struct Fraction {
@@ -88,7 +88,7 @@ template <class Unit, class V> TARN_INLINE Reduced<V> reduce_exactly(V x) {
 
     // Too small for the fraction's bits: row 0, and x is its own remainder.
     const BitsOf<V> tiny = abs(x) <= f32(0x35800000);  // 2^-20
-    return {bits(shifted) & Unit::row_mask, select(tiny, x, r), where(~tiny, r_tail)};
+    return {bits(shifted) & Unit::row_mask, {select(tiny, x, r), where(~tiny, r_tail)}};
 }
 
 }  // namespace tarn::singles

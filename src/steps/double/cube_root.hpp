@@ -59,7 +59,7 @@ struct ReciprocalCubeRootNative : ReciprocalCubeRoot {
     template <class V> static TARN_INLINE V series(V t) { return horner(t, n3, n2, n1); }
 };
 
-// The root of normal numbers of either sign. Zeros, subnormals, infinities and NaNs give anything, from rows that exist.
+// The root of normal numbers of either sign. Anything else gives anything, from rows that exist.
 template <class Root, class V> TARN_INLINE V cube_root_steps(V x) {
     const BitsOf<V> b = bits(x);
     const BitsOf<V> sign_and_exponent = shift_right_logical(b, 52);
