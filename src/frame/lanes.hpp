@@ -49,7 +49,7 @@ template <class V> TARN_INLINE V join_halves(V low, V high) { return V{low[0], l
 template <class Lane, int width>
 TARN_INLINE Vector<Lane, 32> two_blocks(const Vec<Lane, width>& v, int i) {
     if constexpr (width == 3) {
-        return join(block<Lane, width>(v, i), block<Lane, width>(v, i + 1));
+        return join(opaque(v.block[i]), block<Lane, width>(v, i + 1));
     } else {
         Vector<Lane, 32> both;
         asm("vinsertf128 $1, %2, %t1, %0" : "=x"(both) : "x"(v.block[i]), "m"(v.block[i + 1]));
