@@ -170,7 +170,7 @@ std::string flag_names(unsigned bits) {
     static const char* const names[] = {"invalid", "denormal", "divide", "overflow", "underflow", "inexact"};
     std::string text;
     for (int i = 0; i < 6; i++)
-        if (bits >> i & 1) text += (text.empty() ? "" : " ") + std::string(names[i]);
+        if (bits >> i & 1) (text += text.empty() ? "" : " ") += names[i];
     return text;
 }
 
