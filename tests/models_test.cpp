@@ -32,8 +32,12 @@ std::vector<Model> all_models() {
     using models::FullSine, models::NativeSine;
     return {
         {"pownf", full, evaluate<models::pownf>},
+        {"pownf", native, evaluate<models::pownf_native>},
         {"rootnf", full, evaluate<models::rootnf>},
+        {"rootnf", native, evaluate<models::rootnf_native>},
         {"powrf", full, evaluate<models::powrf>},
+        {"powrf", native, evaluate<models::powrf_native>},
+        {"powrf", half, evaluate<models::powrf_native>},
         {"expf", full, evaluate<models::expf>},
         {"expf", native, evaluate<models::expf_native>},
         {"expf", half, evaluate<models::expf_native>},
@@ -73,6 +77,12 @@ std::vector<Model> all_models() {
         {"sinhf", full, evaluate<models::sinhf>},
         {"coshf", full, evaluate<models::coshf>},
         {"tanhf", full, evaluate<models::tanhf>},
+        {"tanhf", native, evaluate<models::tanhf>},
+        {"tanf", full, evaluate<models::tanf>},
+        {"sinpif", full, evaluate<models::sinpif>},
+        {"cospif", full, evaluate<models::cospif>},
+        {"erff", full, evaluate<models::erff>},
+        {"erfcf", full, evaluate<models::erfcf>},
         {"exp", full, evaluate<models::exp>, {1, 3, 4, 8, 16}},
         {"exp", full, evaluate<models::exp_width_2>, {2}},
         {"exp", native, evaluate<models::exp_native_form>},
@@ -80,6 +90,10 @@ std::vector<Model> all_models() {
         {"exp10", full, evaluate<models::exp10>},
         {"sinh", full, evaluate<models::sinh>},
         {"erf", full, evaluate<models::erf>},
+        {"sin", full, evaluate<models::sin>},
+        {"cos", full, evaluate<models::cos>},
+        {"tan", full, evaluate<models::tan>},
+        {"sinpi", full, evaluate<models::sinpi>},
     };
 }
 

@@ -1,4 +1,4 @@
-// Scalar models of the exponentials and of what is made like them, in both precisions.
+// Scalar models of the exponentials, of the hyperbolic functions and of the error functions, in both precisions.
 #pragma once
 
 #include "model.hpp"
@@ -6,6 +6,8 @@
 namespace tarn::test::models {
 
 #include "tables/erf_points.inc"
+#include "tables/erfcf_points.inc"
+#include "tables/erff_points.inc"
 #include "tables/exp2_128ths.inc"
 #include "tables/exp2_256ths.inc"
 #include "tables/exp2f_512ths.inc"
@@ -171,6 +173,33 @@ inline std::optional<float> tanhf(float x) {
     const double a = magnitude(x);
     const double y = horner(a, c[3], c[2], c[1], c[0]);
     return single(bits(static_cast<float>(y)) | sign(x));
+}
+
+inline std::optional<float> erff(float x) {
+    if (x != x) return std::nullopt;
+    const float a = magnitude(x);
+    const float clamped = a < 3.9296875f ? a : 3.9296875f;
+    const float grid = clamped + 65536.0f;
+    const float d = grid - 65536.0f;
+    const float* row = erff_points[bits(grid) - 0x47800000];
+    const float h = clamped - d;
+    const float squared = clamped > 0x1p-32f ? h : 0.0f;
+    const float q = ((squared * squared) * single(0xBEAAAADE) - d * h) * h + h;
+    return single(bits(row[0] + row[1] * q) | sign(x));
+}
+
+inline std::optional<float> erfcf(float x) {
+    if (!(x < single(0x4120DDFB))) return std::nullopt;
+    const float a = magnitude(x) < 10.0625f ? magnitude(x) : 10.0625f;
+    const float grid = a + 131072.0f;
+    const float d = grid - 131072.0f;
+    const float* row = erfcf_points[bits(grid) - 0x48000000];
+    const float h = (a > 0x1p-48f ? a : 0x1p-48f) - d;
+    const float u = d * h;
+    const float in_u = u * horner(u, single(0x3E08A7CA), single(0xBEAACF22), single(0x3F2AAAA6), single(0xBF7FFFFC));
+    const float p = in_u + h * h * (single(0xBEAB4EDB) + single(0x3F005B36) * u);
+    const float f = row[0] - h * (row[1] + row[1] * p);
+    return x < 0 ? (f - 0x1p49f) * -0x1p-48f : f * 0x1p-48f;
 }
 
 inline std::optional<double> exp(double x) {

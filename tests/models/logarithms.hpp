@@ -140,6 +140,28 @@ inline std::optional<float> rootnf(float x, std::int32_t n) {
     return integer_power(x, y, static_cast<float>(remainder) * y);
 }
 
+// The native powers: y ln x unsplit, and a cubic of the highest coefficients first.
+inline std::optional<float> native_power(float x, float y, const std::uint32_t (&c)[3]) {
+    if (!positive_normal(x) || x == 0x1.fffffep127f || !(magnitude(y) < __builtin_inff())) return std::nullopt;
+    const auto [k, r] = decompose(x);
+    const float q = horner(r, single(0x3E2B350C), single(0xBE424B46), single(0x3E4B62C0), single(0xBE7F0F0F), single(0x3EAAAD03), -0.5f);
+    const float p = q * r * r + r;
+    const float log = k * single(0x3F317200) + (k * single(0x35BFBE8E) + p);
+    const float z = log * y;
+    if (as_signed(bits(magnitude(z))) > 0x42AE9A00) return std::nullopt;
+    const float shifted = z * single(0x3FB8AA3B) + 12582912.0f;
+    const float rest = z - (shifted - 12582912.0f) * single(0x3F317218);
+    const float power = horner(rest, single(c[0]), single(c[1]), single(c[2]), 1.0f);
+    return single(bits(power) + (bits(shifted) << 23));
+}
+inline std::optional<float> powrf_native(float x, float y) { return native_power(x, y, {0x3E2963AC, 0x3F00F2D6, 0x3F8003DE}); }
+inline std::optional<float> pownf_native(float x, std::int32_t n) {
+    return native_power(x, static_cast<float>(n), {0x3E2C359F, 0x3F014935, 0x3F7FFB0D});
+}
+inline std::optional<float> rootnf_native(float x, std::int32_t n) {
+    return native_power(x, 1.0f / static_cast<float>(n), {0x3E2C359F, 0x3F014935, 0x3F7FFB0D});
+}
+
 // The third part q of the exponent, what is left of it, and t, the relative distance from the interval's middle.
 struct CubeRootParts {
     std::uint32_t q, row, sign;

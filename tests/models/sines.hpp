@@ -1,4 +1,4 @@
-// Scalar models of the sines and cosines in single precision, up to the limit of the fast path.
+// Scalar models of the circular functions, up to the limit of the short reduction.
 #pragma once
 
 #include "model.hpp"
@@ -62,6 +62,99 @@ template <class Form> std::optional<std::pair<float, float>> sincosf(float x) {
     const float of_sine = flipped(Form::minus_pi_tail(t, n), parity);
     const float of_cosine = flipped(Form::minus_pi_tail(minus_pi_head(a, m), m), 0x80000000 ^ side ^ parity);
     return std::pair(flipped(sine_of_reduced<Form>(of_sine), sign(x)), sine_of_reduced<Form>(of_cosine));
+}
+
+inline std::optional<float> tanf(float x) {
+    if (!(magnitude(x) <= 8256.0f)) return std::nullopt;
+    const float a = magnitude(x);
+    const float shifted = a * single(0x3F22F983) + 12582912.0f;
+    const float n = shifted - 12582912.0f;
+    float r = a - n * single(0x3FC90000);
+    r = r - n * single(0x39FD8000);
+    r = r - n * single(0x34A88000);
+    r = r - n * single(0x2E85A309);
+    const float z = r * r;
+    const float q = (single(0xBDC433B8) * z + 1.0f) * r;
+    const float p = (single(0x3C1F3375) * z + single(0xBEDBB7AF)) * z + 1.0f;
+    const bool odd = bits(shifted) & 1;
+    return flipped(odd ? p / q : q / p, sign(x) ^ (bits(shifted) << 31));
+}
+
+inline std::optional<float> sinpif(float x) {
+    const float a = magnitude(x);
+    if (!(a <= 0x1p22f)) return std::nullopt;
+    const float shifted = a + 12582912.0f;
+    const float r = (a - (shifted - 12582912.0f)) * single(0x40490FDB);
+    return flipped(sine_of_reduced<FullSine>(flipped(r, bits(shifted) << 31)), sign(x));
+}
+inline std::optional<float> cospif(float x) {
+    const float a = magnitude(x);
+    if (!(a <= 0x1p22f)) return std::nullopt;
+    const float shifted = (a + 0.5f) + 12582912.0f;
+    const float m = (shifted - 12582912.0f) - 0.5f;
+    const float r = (a - m) * single(0x40490FDB);
+    return sine_of_reduced<FullSine>(flipped(r, bits(shifted) << 31));
+}
+
+inline double flipped(double x, std::uint64_t sign_bit) { return dual(bits(x) ^ sign_bit); }
+inline double less_four_pieces(double x, double n, double first, double second, double third, double fourth) {
+    double r = x - n * first;
+    r = r - n * second;
+    r = r - n * third;
+    return r - n * fourth;
+}
+inline double less_multiple_of_pi(double x, double n) {
+    return less_four_pieces(x, n, dual(0x400921FB40000000), dual(0x3E84442D00000000), dual(0x3D08469880000000), dual(0x3B88CC51701B839A));
+}
+inline double sine_of_reduced(double r, const std::uint64_t (&c)[7]) {
+    const double z = r * r;
+    const double q = horner(z, dual(c[6]), dual(c[5]), dual(c[4]), dual(c[3]), dual(c[2]), dual(c[1]), dual(c[0])) * z;
+    return q * r + r;
+}
+// The second set gives 1 at pi/2 rounded.
+inline constexpr std::uint64_t sine_terms[] = {0xBFC55555555554A8, 0x3F8111111110A573, 0xBF2A01A019A659DD, 0x3EC71DE3806ADD1A,
+                                               0xBE5AE6355AAA4A53, 0x3DE60E6BEE01D83E, 0xBD69F1517E9F65F0};
+inline constexpr std::uint64_t cosine_terms[] = {0xBFC55555555554A7, 0x3F8111111110A4A8, 0xBF2A01A019A5B86D, 0x3EC71DE38030FEA0,
+                                                 0xBE5AE63546002231, 0x3DE60E6857A2F220, 0xBD69F0D60811AAC8};
+
+inline std::optional<double> sin(double x) {
+    const double a = magnitude(x);
+    if (!(a <= 0x1p24)) return std::nullopt;
+    const double shifted = a * dual(0x3FD45F306DC9C883) + dual(0x4338000000000000);
+    const double n = shifted - dual(0x4338000000000000);
+    const double r = flipped(less_multiple_of_pi(a, n), bits(shifted) << 63);
+    return flipped(sine_of_reduced(r, sine_terms), sign(x));
+}
+
+inline std::optional<double> cos(double x) {
+    const double v = x + dual(0x3FF921FB54442D18);
+    if (!(magnitude(v) <= 0x1p23)) return std::nullopt;
+    const double shifted = v * dual(0x3FD45F306DC9C883) + dual(0x4338000000000000);
+    const double n = (shifted - dual(0x4338000000000000)) - 0.5;
+    const double r = flipped(less_multiple_of_pi(x, n), bits(shifted) << 63);
+    return sine_of_reduced(r, cosine_terms);
+}
+
+inline std::optional<double> tan(double x) {
+    const double a = magnitude(x);
+    if (!(a <= 128000)) return std::nullopt;
+    const double shifted = a * dual(0x3FE45F306DC9C883) + dual(0x4338000000000000);
+    const double n = shifted - dual(0x4338000000000000);
+    const double r = less_four_pieces(a, n, dual(0x3FF921FB40000000), dual(0x3E74442D00000000), dual(0x3CF8469880000000), dual(0x3B78CC51701B839A));
+    const double z = r * r;
+    const double p = r * horner(z, dual(0xBEDF637DEA7C0B2C), dual(0x3F66FC6FE2982A7B), dual(0xBFC06B97BF03648A), 1.0);
+    const double q = horner(z, dual(0xBF2B525B10D0A168), dual(0x3F97E7B68D9A55F3), dual(0xBFDD8B2134D70767), 1.0);
+    const bool odd = bits(shifted) & 1;
+    return flipped(odd ? q / p : p / q, sign(x) ^ (bits(shifted) << 63));
+}
+
+inline std::optional<double> sinpi(double x) {
+    const double a = magnitude(x);
+    if (!(a <= 0x1p51)) return std::nullopt;
+    const double shifted = a + dual(0x4338000000000000);
+    const double f = a - (shifted - dual(0x4338000000000000));
+    const double r = flipped(f * dual(0x400921FB54442D18), bits(shifted) << 63);
+    return flipped(sine_of_reduced(r, cosine_terms), sign(x));
 }
 
 }  // namespace tarn::test::models
