@@ -23,7 +23,9 @@ struct Model {
     std::vector<int> at{std::begin(widths), std::end(widths)};
 
     const Family& family() const { return *find_family(base); }
-    std::string name() const { return base + suffix(variant) + (at.size() == 1 ? "_width_" + std::to_string(at[0]) : ""); }
+    std::string name() const {
+        return base + suffix(variant) + (at.size() == 1 ? "_width_" + std::to_string(at[0]) : "");
+    }
 };
 void PrintTo(const Model& m, std::ostream* out) { *out << m.name(); }
 
@@ -121,13 +123,15 @@ Row in_range_power(const Family& f, bool exponent_first, std::mt19937_64& random
         const double exponent = log_of_result / std::log(value_of(Lane::f32, any_base));
         return {any_base, pattern_of(f.shape.args[1], std::clamp(root ? 1 / exponent : exponent, -0x1p30, 0x1p30))};
     }
-    double exponent = std::ldexp(uniform(1, 2, random), static_cast<int>(random() % 30));
+    const int least = f.shape.args[1] == Lane::i32 ? 0 : -12;
+    double exponent = std::ldexp(uniform(1, 2, random), least + static_cast<int>(random() % 30));
     if (random() & 1) exponent = -exponent;
     if (root) return {any_base, pattern_of(Lane::i32, exponent)};
     return {pattern_of(Lane::f32, std::exp(log_of_result / exponent)), pattern_of(f.shape.args[1], exponent)};
 }
 
-// The structured inputs, then as many from the usual interval as dense in the binades and of any pattern.
+// The structured inputs, then `count` more: half of them usual ones, the rest dense in the binades and of any pattern,
+// for powers of any size.
 std::vector<Row> inputs(const Family& f, std::size_t count) {
     std::mt19937_64 random(6);
     const std::size_t arity = f.shape.args.size();
@@ -138,13 +142,10 @@ std::vector<Row> inputs(const Family& f, std::size_t count) {
             for (const auto y : structured(f, 1)) rows.push_back({x, y});
     }
     for (std::size_t i = 0; i < count; i++) {
-        if (arity == 2 && i % 4 >= 2) {
-            rows.push_back(in_range_power(f, i % 4 == 2, random));
-            continue;
-        }
-        rows.emplace_back();
-        for (std::size_t a = 0; a < arity; a++)
-            rows.back().push_back(arity == 1 && i % 4 == 2 ? in_every_binade(f, random) : random_lane(f, a, arity == 2 || i % 4 < 2, random));
+        const std::size_t kind = i % 4;
+        if (arity == 1) rows.push_back({kind == 2 ? in_every_binade(f, random) : random_lane(f, 0, kind < 2, random)});
+        else if (kind < 2) rows.push_back({random_lane(f, 0, true, random), random_lane(f, 1, true, random)});
+        else rows.push_back(in_range_power(f, kind == 2, random));
     }
     return rows;
 }
@@ -171,15 +172,18 @@ TEST_P(Models, FastLanesAreTheStepsToTheBit) {
         Lanes first, second;
         f(args, first, &second);
         for (std::size_t i = 0; i < fast.size(); i++) {
-            ASSERT_TRUE(first.pattern(i) == expected[i].first && (second.size() == 0 || second.pattern(i) == expected[i].second))
-                << f.name() << '(' << lanes_text(args, i) << ") is " << hex(first.pattern(i)) << ", the model's " << hex(expected[i].first)
-                << (second.size() == 0 ? "" : "; second " + hex(second.pattern(i)) + ", the model's " + hex(expected[i].second));
+            const bool same_second = second.size() == 0 || second.pattern(i) == expected[i].second;
+            ASSERT_TRUE(first.pattern(i) == expected[i].first && same_second)
+                << f.name() << '(' << lanes_text(args, i) << ") is " << hex(first.pattern(i)) << ", the model's "
+                << hex(expected[i].first)
+                << (same_second ? "" : "; second " + hex(second.pattern(i)) + " and " + hex(expected[i].second));
         }
     }
     RecordProperty("lanes", static_cast<int>(fast.size() * model.at.size()));
 }
 
-INSTANTIATE_TEST_SUITE_P(Module, Models, testing::ValuesIn(all_models()), [](const auto& info) { return info.param.name(); });
+INSTANTIATE_TEST_SUITE_P(Module, Models, testing::ValuesIn(all_models()),
+                         [](const auto& info) { return info.param.name(); });
 
 }  // namespace
 }  // namespace tarn::test

@@ -17,64 +17,67 @@ struct Decomposed {
 };
 inline Decomposed decompose(float x) {
     const std::uint32_t t = bits(x) - 0x3F2AAAAB;
-    return {static_cast<float>(as_signed(t) >> 23), single((t & 0x007FFFFF) + 0x3F2AAAAB) - 1.0f};
+    return {static_cast<float>(as_signed(t) >> 23), f32((t & 0x007FFFFF) + 0x3F2AAAAB) - 1.0f};
 }
 
 inline std::optional<float> logf(float x) {
     if (!positive_normal(x)) return std::nullopt;
     const auto [k, r] = decompose(x);
-    const float q = horner(r, single(0xBE0402C8), single(0x3E0F335D), single(0xBDF9889E), single(0x3E0F6B8C), single(0xBE2ACEE6),
-                           single(0x3E4CE814), single(0xBE7FFF78), single(0x3EAAAA83), -0.5f);
+    const float q = horner(r, f32(0xBE0402C8), f32(0x3E0F335D), f32(0xBDF9889E), f32(0x3E0F6B8C), f32(0xBE2ACEE6),
+                           f32(0x3E4CE814), f32(0xBE7FFF78), f32(0x3EAAAA83), -0.5f);
     const float p = q * r * r + r;
-    return k * single(0x3F317200) + (k * single(0x35BFBE8E) + p);
+    return k * f32(0x3F317200) + (k * f32(0x35BFBE8E) + p);
 }
 inline std::optional<float> logf_half(float x) {
     if (!positive_normal(x)) return std::nullopt;
     const auto [k, r] = decompose(x);
-    const float q = horner(r, single(0xBE1B6A22), single(0x3E2DB86B), single(0xBE289358), single(0x3E4AFB81), single(0xBE80061D),
-                           single(0x3EAAAEE7), -0.5f);
+    const float q = horner(r, f32(0xBE1B6A22), f32(0x3E2DB86B), f32(0xBE289358), f32(0x3E4AFB81), f32(0xBE80061D),
+                           f32(0x3EAAAEE7), -0.5f);
     const float p = q * r * r + r;
-    return k * single(0x3F317218) + p;
+    return k * f32(0x3F317218) + p;
 }
 inline std::optional<float> logf_native(float x) {
     if (!positive_normal(x)) return std::nullopt;
     const auto [k, r] = decompose(x);
-    const float q = horner(r, single(0xBE89233C), single(0x3EB4A830), -0.5f);
+    const float q = horner(r, f32(0xBE89233C), f32(0x3EB4A830), -0.5f);
     const float p = q * r * r + r;
-    return k * single(0x3F317218) + p;
+    return k * f32(0x3F317218) + p;
 }
 
 // Nine coefficients, the lowest first, in pairs by r^2.
 inline float in_pairs(float r, const std::uint32_t (&p)[9]) {
     const float r2 = r * r;
-    float a = single(p[8]) * r + single(p[7]);
-    a = a * r2 + (single(p[6]) * r + single(p[5]));
-    a = a * r2 + (single(p[4]) * r + single(p[3]));
-    a = a * r2 + (single(p[2]) * r + single(p[1]));
-    a = a * r + single(p[0]);
+    float a = f32(p[8]) * r + f32(p[7]);
+    a = a * r2 + (f32(p[6]) * r + f32(p[5]));
+    a = a * r2 + (f32(p[4]) * r + f32(p[3]));
+    a = a * r2 + (f32(p[2]) * r + f32(p[1]));
+    a = a * r + f32(p[0]);
     return a * r;
 }
 inline std::optional<float> log2f(float x) {
     if (!positive_normal(x)) return std::nullopt;
     const auto [k, r] = decompose(x);
-    const float p = in_pairs(r, {0x3FB8AA3B, 0xBF38AA2B, 0x3EF637C0, 0xBEB8B969, 0x3E93DD07, 0xBE727824, 0x3E4D660B, 0xBE638E14, 0x3E554012});
+    const float p = in_pairs(r, {0x3FB8AA3B, 0xBF38AA2B, 0x3EF637C0, 0xBEB8B969, 0x3E93DD07, 0xBE727824, 0x3E4D660B,
+                                 0xBE638E14, 0x3E554012});
     return p + k;
 }
 inline std::optional<float> log10f(float x) {
     if (!positive_normal(x)) return std::nullopt;
     const auto [k, r] = decompose(x);
-    const float p = in_pairs(r, {0x3EDE5BD9, 0xBE5E5BC5, 0x3E143CE5, 0xBDDE6E20, 0x3DB20B96, 0xBD91FB27, 0x3D775317, 0xBD890073, 0x3D8063B4});
-    return k * single(0x3E9A2100) + (k * single(0xB64AF600) + p);
+    const float p = in_pairs(r, {0x3EDE5BD9, 0xBE5E5BC5, 0x3E143CE5, 0xBDDE6E20, 0x3DB20B96, 0xBD91FB27, 0x3D775317,
+                                 0xBD890073, 0x3D8063B4});
+    return k * f32(0x3E9A2100) + (k * f32(0xB64AF600) + p);
 }
 inline std::optional<float> log2f_native(float x) {
     if (!positive_normal(x)) return std::nullopt;
     const auto [k, r] = decompose(x);
-    return k + r * horner(r, single(0x3EAAE01B), single(0xBECB686C), single(0x3EF4FA41), single(0xBF38658A), single(0x3FB8AAED));
+    return k + r * horner(r, f32(0x3EAAE01B), f32(0xBECB686C), f32(0x3EF4FA41), f32(0xBF38658A), f32(0x3FB8AAED));
 }
 inline std::optional<float> log10f_native(float x) {
     if (!positive_normal(x)) return std::nullopt;
     const auto [k, r] = decompose(x);
-    return k * single(0x3E9A209B) + r * horner(r, single(0x3DCDC127), single(0xBDF4ED71), single(0x3E137DBE), single(0xBE5E0922), single(0x3EDE5CAE));
+    return k * f32(0x3E9A209B) + r * horner(r, f32(0x3DCDC127), f32(0xBDF4ED71), f32(0x3E137DBE), f32(0xBE5E0922),
+                                            f32(0x3EDE5CAE));
 }
 
 // A rounded result and what the rounding took. Sums and products are exact in the way that needs no condition: what
@@ -96,31 +99,32 @@ inline Rounded split_log(float x) {
     const std::uint32_t rounded = bits(x) + 0x8000;
     const std::uint32_t row = (rounded >> 16) & 127;
     const float k = static_cast<float>(static_cast<int>(rounded >> 23) - 127 + (row >= 54 ? 1 : 0));
-    const float m = single(bits(x) - (rounded & 0x7F800000) + 0x3F800000);
+    const float m = f32(bits(x) - (rounded & 0x7F800000) + 0x3F800000);
     const float reciprocal = powrf_logs[row][0];
-    const float m_head = single(bits(m) & 0x7FFFC000), m_tail = m - m_head;
+    const float m_head = f32(bits(m) & 0x7FFFC000), m_tail = m - m_head;
     const float u = m_head * reciprocal - 1.0f, v = m_tail * reciprocal;
     const Rounded r = sum_of(u, v);
-    const float p = horner(r.head, -0.25f, single(0x3EAAAAAB), -0.5f) * (r.head * r.head);
-    const Rounded sum = sum_of(k * single(0x3F317000) + powrf_logs[row][1], r.head);
-    const float rest = k * single(0x3805FDF4) + powrf_logs[row][2];
+    const float p = horner(r.head, -0.25f, f32(0x3EAAAAAB), -0.5f) * (r.head * r.head);
+    const Rounded sum = sum_of(k * f32(0x3F317000) + powrf_logs[row][1], r.head);
+    const float rest = k * f32(0x3805FDF4) + powrf_logs[row][2];
     return sum_of(sum.head, (r.tail + sum.tail) + (rest + p));
 }
 
-// x^(y + y_tail); the coefficients from the highest on.
-inline std::optional<float> split_power(float x, float y, float y_tail, const std::uint32_t (&a)[5], std::uint32_t bound) {
+// x^(y + y_tail); the coefficients from the highest on. The largest base may go either way.
+inline std::optional<float> split_power(float x, float y, float y_tail, const std::uint32_t (&a)[5],
+                                        std::uint32_t bound) {
     if (!positive_normal(x) || x == 0x1.fffffep127f || !(magnitude(y) < __builtin_inff())) return std::nullopt;
     const Rounded log = split_log(x);
     const Rounded z = product_of(log.head, y);
     const float z_tail = z.tail + (log.tail * y + log.head * y_tail);
     if (as_signed(bits(magnitude(z.head + z_tail))) > as_signed(bound)) return std::nullopt;
-    const float shifted = z.head * single(0x3FB8AA3B) + 12582912.0f;
+    const float shifted = z.head * f32(0x3FB8AA3B) + 12582912.0f;
     const float n = shifted - 12582912.0f;
-    float r = z.head - n * single(0x3F317200);
-    r = r - n * single(0x35BFBE8E);
+    float r = z.head - n * f32(0x3F317200);
+    r = r - n * f32(0x35BFBE8E);
     r = r + z_tail;
-    const float p = horner(r, single(a[0]), single(a[1]), single(a[2]), single(a[3]), single(a[4]), 1.0f);
-    return single(bits(p) + (bits(shifted) << 23));
+    const float p = horner(r, f32(a[0]), f32(a[1]), f32(a[2]), f32(a[3]), f32(a[4]), 1.0f);
+    return f32(bits(p) + (bits(shifted) << 23));
 }
 inline std::optional<float> powrf(float x, float y) {
     return split_power(x, y, 0.0f, {0x3C07D9FE, 0x3D2B8392, 0x3E2AACAC, 0x3EFFFF34, 0x3F7FFFFE}, 0x42819F00);
@@ -144,17 +148,20 @@ inline std::optional<float> rootnf(float x, std::int32_t n) {
 inline std::optional<float> native_power(float x, float y, const std::uint32_t (&c)[3]) {
     if (!positive_normal(x) || x == 0x1.fffffep127f || !(magnitude(y) < __builtin_inff())) return std::nullopt;
     const auto [k, r] = decompose(x);
-    const float q = horner(r, single(0x3E2B350C), single(0xBE424B46), single(0x3E4B62C0), single(0xBE7F0F0F), single(0x3EAAAD03), -0.5f);
+    const float q = horner(r, f32(0x3E2B350C), f32(0xBE424B46), f32(0x3E4B62C0), f32(0xBE7F0F0F), f32(0x3EAAAD03),
+                           -0.5f);
     const float p = q * r * r + r;
-    const float log = k * single(0x3F317200) + (k * single(0x35BFBE8E) + p);
+    const float log = k * f32(0x3F317200) + (k * f32(0x35BFBE8E) + p);
     const float z = log * y;
     if (as_signed(bits(magnitude(z))) > 0x42AE9A00) return std::nullopt;
-    const float shifted = z * single(0x3FB8AA3B) + 12582912.0f;
-    const float rest = z - (shifted - 12582912.0f) * single(0x3F317218);
-    const float power = horner(rest, single(c[0]), single(c[1]), single(c[2]), 1.0f);
-    return single(bits(power) + (bits(shifted) << 23));
+    const float shifted = z * f32(0x3FB8AA3B) + 12582912.0f;
+    const float rest = z - (shifted - 12582912.0f) * f32(0x3F317218);
+    const float power = horner(rest, f32(c[0]), f32(c[1]), f32(c[2]), 1.0f);
+    return f32(bits(power) + (bits(shifted) << 23));
 }
-inline std::optional<float> powrf_native(float x, float y) { return native_power(x, y, {0x3E2963AC, 0x3F00F2D6, 0x3F8003DE}); }
+inline std::optional<float> powrf_native(float x, float y) {
+    return native_power(x, y, {0x3E2963AC, 0x3F00F2D6, 0x3F8003DE});
+}
 inline std::optional<float> pownf_native(float x, std::int32_t n) {
     return native_power(x, static_cast<float>(n), {0x3E2C359F, 0x3F014935, 0x3F7FFB0D});
 }
@@ -168,9 +175,9 @@ struct CubeRootParts {
     float t;
 };
 inline std::optional<CubeRootParts> cube_root_parts(float x) {
-    if (!positive_normal(magnitude(x)) || magnitude(x) == 0x1.fffffep127f) return std::nullopt;
+    if (!positive_normal(magnitude(x))) return std::nullopt;
     const std::uint32_t b = bits(x), j = (b >> 18) & 31, exponent = (b >> 23) & 0xFF;
-    const float minus_m = single((b & 0x007FFFFF) | 0xBF800000), minus_c = single((b & 0x007E0000) | 0xBF820000);
+    const float minus_m = f32((b & 0x007FFFFF) | 0xBF800000), minus_c = f32((b & 0x007E0000) | 0xBF820000);
     const std::uint32_t q = (1365 * exponent) >> 12;
     const std::uint32_t row = 32 * (exponent - 1 - 3 * q) + j;
     return CubeRootParts{q, row, (b >> 23) & 0x100, (minus_m - minus_c) * cube_root_rows[row][2]};
@@ -185,25 +192,29 @@ inline std::optional<float> cbrtf(float x) {
     const auto parts = cube_root_parts(x);
     if (!parts) return std::nullopt;
     const float t = parts->t;
-    const float series = horner(t, single(0xBD288F47), single(0x3D7CD6EA), single(0xBDE38E39)) * t;
-    return scaled_row(cube_root_rows[parts->row], single(((parts->q + 85) | parts->sign) << 23), t, series, single(0x3EAAAAAB));
+    const float series = horner(t, f32(0xBD288F47), f32(0x3D7CD6EA), f32(0xBDE38E39)) * t;
+    return scaled_row(cube_root_rows[parts->row], f32(((parts->q + 85) | parts->sign) << 23), t, series,
+                      f32(0x3EAAAAAB));
 }
 inline std::optional<float> cbrtf_native(float x) {
     const auto parts = cube_root_parts(x);
     if (!parts) return std::nullopt;
-    return scaled_row(cube_root_rows[parts->row], single(((parts->q + 85) | parts->sign) << 23), parts->t, 0.0f, single(0x3EAAAAAB));
+    return scaled_row(cube_root_rows[parts->row], f32(((parts->q + 85) | parts->sign) << 23), parts->t, 0.0f,
+                      f32(0x3EAAAAAB));
 }
 inline std::optional<float> rcbrtf(float x) {
     const auto parts = cube_root_parts(x);
     if (!parts) return std::nullopt;
     const float t = parts->t;
-    const float series = horner(t, single(0x3E137D5E), single(0xBE30FCD7), single(0x3E638E39)) * t;
-    return scaled_row(reciprocal_cube_root_rows[parts->row], single(((169 - parts->q) | parts->sign) << 23), t, series, single(0xBEAAAAAB));
+    const float series = horner(t, f32(0x3E137D5E), f32(0xBE30FCD7), f32(0x3E638E39)) * t;
+    return scaled_row(reciprocal_cube_root_rows[parts->row], f32(((169 - parts->q) | parts->sign) << 23), t, series,
+                      f32(0xBEAAAAAB));
 }
 inline std::optional<float> rcbrtf_native(float x) {
     const auto parts = cube_root_parts(x);
     if (!parts) return std::nullopt;
-    return scaled_row(reciprocal_cube_root_rows[parts->row], single(((169 - parts->q) | parts->sign) << 23), parts->t, 0.0f, single(0xBEAAAAAB));
+    return scaled_row(reciprocal_cube_root_rows[parts->row], f32(((169 - parts->q) | parts->sign) << 23), parts->t,
+                      0.0f, f32(0xBEAAAAAB));
 }
 
 }  // namespace tarn::test::models
