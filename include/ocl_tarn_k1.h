@@ -120,8 +120,8 @@ tarn_float8 __ocl_tarn_k1_expf8_half(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_expf16_half(tarn_float16 x) TARN_CONST;
 
 /* exp: e^x. Domain: every x. Special values: +inf gives +inf, -inf +0; overflow gives +inf, underflow a
-   subnormal or +0. Worst error 2.658 ulp, width 2 3.004 (OpenCL allows 3, exceeded at width 2); native
-   5.944e+07; measured over directed search, 1193 million evaluations (native 362 million; width 2 1328
+   subnormal or +0. Worst error 2.658 ulp, width 2 3.009 (OpenCL allows 3, exceeded at width 2); native
+   5.944e+07; measured over directed search, 1193 million evaluations (native 362 million; width 2 4127
    million). Width 2 has a kernel of its own (full). exp(+-0) is one unit below 1, but at width 2. */
 double __ocl_tarn_k1_exp1(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_exp2(tarn_double2 x) TARN_CONST;
@@ -267,7 +267,7 @@ tarn_float8 __ocl_tarn_k1_logf8_half(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_logf16_half(tarn_float16 x) TARN_CONST;
 
 /* log: ln x. Domain: x >= 0. Special values: zeros give -inf, +inf +inf, negative x NaN. Worst error 1.589
-   ulp (OpenCL allows 3); native 2.095e+06; measured over directed search, 513 million evaluations (native
+   ulp (OpenCL allows 3); native 2.095e+06; measured over directed search, 1549 million evaluations (native
    429 million). Last bits may differ between processor makers (full and native). */
 double __ocl_tarn_k1_log1(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_log2(tarn_double2 x) TARN_CONST;
@@ -305,7 +305,7 @@ tarn_float8 __ocl_tarn_k1_log2f8_half(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_log2f16_half(tarn_float16 x) TARN_CONST;
 
 /* log2: log2 x. Domain: x >= 0. Special values: zeros give -inf, +inf +inf, negative x NaN; exact at powers
-   of two. Worst error 2.089 ulp (OpenCL allows 3); native 2.426e+06; measured over directed search, 499
+   of two. Worst error 2.089 ulp (OpenCL allows 3); native 2.426e+06; measured over directed search, 1052
    million evaluations (native by samples). Last bits may differ between processor makers (full and native). */
 double __ocl_tarn_k1_log21(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_log22(tarn_double2 x) TARN_CONST;
@@ -802,7 +802,7 @@ tarn_float8 __ocl_tarn_k1_sinf8_half(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_sinf16_half(tarn_float16 x) TARN_CONST;
 
 /* sin: sin x. Domain: radians, every finite x. Special values: infinities give NaN; zeros keep their sign.
-   Worst error 3.815 ulp (OpenCL allows 4); native 5.453e+07; measured over directed search, 830 million
+   Worst error 3.821 ulp (OpenCL allows 4); native 5.453e+07; measured over directed search, 1969 million
    evaluations (native 192 million). One lane beyond |x| = 16777216 sends the whole call down another path. */
 double __ocl_tarn_k1_sin1(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_sin2(tarn_double2 x) TARN_CONST;
@@ -840,7 +840,7 @@ tarn_float8 __ocl_tarn_k1_cosf8_half(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_cosf16_half(tarn_float16 x) TARN_CONST;
 
 /* cos: cos x. Domain: radians, every finite x. Special values: infinities give NaN. Worst error 3.802 ulp
-   (OpenCL allows 4); native 5.453e+07; measured over directed search, 962 million evaluations (native 503
+   (OpenCL allows 4); native 5.453e+07; measured over directed search, 3074 million evaluations (native 503
    million). One lane beyond |x| = 8388608 sends the whole call down another path. */
 double __ocl_tarn_k1_cos1(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_cos2(tarn_double2 x) TARN_CONST;
@@ -947,7 +947,7 @@ tarn_float16 __ocl_tarn_k1_tanf16_half(tarn_float16 x) TARN_CONST;
 
 /* tan: tan x. Domain: radians, every finite x. Special values: infinities give NaN; zeros keep their sign.
    Worst error 5.012 ulp (OpenCL allows 5, exceeded at every width); native 2.261e+05; measured over
-   directed search, 517 million evaluations (native 363 million). One lane beyond |x| = 128000 sends the
+   directed search, 1644 million evaluations (native 363 million). One lane beyond |x| = 128000 sends the
    whole call down another path. */
 double __ocl_tarn_k1_tan1(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_tan2(tarn_double2 x) TARN_CONST;
@@ -1044,8 +1044,8 @@ tarn_float8 __ocl_tarn_k1_tanpif8_native(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_tanpif16_native(tarn_float16 x) TARN_CONST;
 
 /* tanpi: tan(pi x). Domain: half turns, every finite x. Special values: infinities give NaN; tanpi(n) is
-   copysign(0, n) for even n, copysign(0, -n) for odd n. Worst error 5.084 ulp (OpenCL allows 6); native
-   2.261e+05; measured over directed search, 440 million evaluations (native 104 million). */
+   copysign(0, n) for even n, copysign(0, -n) for odd n. Worst error 5.184 ulp (OpenCL allows 6); native
+   2.261e+05; measured over directed search, 2088 million evaluations (native 104 million). */
 double __ocl_tarn_k1_tanpi1(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_tanpi2(tarn_double2 x) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_tanpi3(tarn_double3 x) TARN_CONST;
@@ -1142,9 +1142,9 @@ tarn_float8 __ocl_tarn_k1_atanf8_native(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_atanf16_native(tarn_float16 x) TARN_CONST;
 
 /* atan: arctan x. Domain: every x; radians. Special values: infinities give +-pi/2; zeros keep their sign.
-   Worst error 2.2 ulp, width 2 5.407 (OpenCL allows 5, exceeded at width 2); native 2.3e+07; measured over
-   directed search, 803 million evaluations (native 477 million; width 2 1632 million). Width 2 has a kernel
-   of its own (full). */
+   Worst error 2.201 ulp, width 2 5.634 (OpenCL allows 5, exceeded at width 2); native 2.3e+07; measured
+   over directed search, 2232 million evaluations (native 477 million; width 2 3773 million). Width 2 has a
+   kernel of its own (full). */
 double __ocl_tarn_k1_atan1(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_atan2(tarn_double2 x) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_atan3(tarn_double3 x) TARN_CONST;
@@ -1534,8 +1534,8 @@ tarn_float8 __ocl_tarn_k1_erff8_native(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_erff16_native(tarn_float16 x) TARN_CONST;
 
 /* erf: 2/sqrt(pi) times the integral of e^(-t^2) from 0 to x. Domain: every x. Special values: infinities
-   give +-1; zeros keep their sign. Worst error 2.543 ulp (OpenCL allows 16); native 1.152e+06; measured
-   over directed search, 496 million evaluations (native 93 million). */
+   give +-1; zeros keep their sign. Worst error 2.545 ulp (OpenCL allows 16); native 1.152e+06; measured
+   over directed search, 1407 million evaluations (native 93 million). */
 double __ocl_tarn_k1_erf1(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_erf2(tarn_double2 x) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_erf3(tarn_double3 x) TARN_CONST;
@@ -1609,7 +1609,7 @@ tarn_float8 __ocl_tarn_k1_lgammaf8(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_lgammaf16(tarn_float16 x) TARN_CONST;
 
 /* lgamma: ln |gamma(x)|. Domain: every x. Special values: poles and infinities give +inf; 1 and 2 give +0.
-   Worst error 0.7109 ulp; measured over directed search, 190 million evaluations. */
+   Worst error 0.7123 ulp; measured over directed search, 474 million evaluations. */
 double __ocl_tarn_k1_lgamma1(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_lgamma2(tarn_double2 x) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_lgamma3(tarn_double3 x) TARN_CONST;
@@ -1627,7 +1627,7 @@ tarn_float8 __ocl_tarn_k1_lgammarf8(tarn_float8 x, int32_t* second);
 tarn_float16 __ocl_tarn_k1_lgammarf16(tarn_float16 x, int32_t* second);
 
 /* lgammar: ln |gamma(x)|, and the sign of gamma(x) through the pointer. Domain: every x. Special values: as
-   lgamma; the sign is +1 at poles, -1 at -0. Worst error 0.708 ulp; measured over directed search, 52
+   lgamma; the sign is +1 at poles, -1 at -0. Worst error 0.7123 ulp; measured over directed search, 336
    million evaluations. */
 double __ocl_tarn_k1_lgammar1(double x, int32_t* second);
 tarn_double2 __ocl_tarn_k1_lgammar2(tarn_double2 x, int32_t* second);
