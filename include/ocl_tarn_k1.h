@@ -743,9 +743,10 @@ tarn_double8 __ocl_tarn_k1_rcbrt8_native(tarn_double8 x) TARN_CONST;
 tarn_double16 __ocl_tarn_k1_rcbrt16_native(tarn_double16 x) TARN_CONST;
 
 /* hypotf: (x^2 + y^2)^(1/2). Domain: every x and y. Special values: an infinity gives +inf, also beside a
-   NaN; in the native form infinities, and sums of squares beyond the range, give NaN. Worst error 1.408 ulp
-   (OpenCL allows 4); native 4156; measured over 60 million samples. Last bits may differ between processor
-   makers (full and native). Native keeps its error for x from 1e-15 to 1e+18 and y from 1e-15 to 1e+18. */
+   NaN; in the native form infinities, and sums of squares beyond the range, give NaN. Worst error 1.466 ulp
+   (OpenCL allows 4); native 4156; measured over directed search, 1850 million evaluations (native by 60
+   million samples). Last bits may differ between processor makers (full and native). Native keeps its error
+   for x from 1e-15 to 1e+18 and y from 1e-15 to 1e+18. */
 float __ocl_tarn_k1_hypotf1(float x, float y) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_hypotf2(tarn_float2 x, tarn_float2 y) TARN_CONST;
 tarn_float3 __ocl_tarn_k1_hypotf3(tarn_float3 x, tarn_float3 y) TARN_CONST;
