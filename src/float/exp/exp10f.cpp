@@ -6,6 +6,7 @@
 //
 // Worst error of exp10f: 2.922 ulp at -2.38619773e-08; native and half 1304.
 #include "callout/callouts.hpp"
+#include "float/exp/native_exp2.hpp"
 #include "frame/exports.hpp"
 
 namespace tarn::singles {
@@ -43,18 +44,9 @@ struct Exp10fNative : Kernel<float(float)> {
     static constexpr auto callout = callout::exp10f;
 
     static constexpr float log2_10 = f32(0x40549A78);  // 3.321928024291992
-    // |r| <= 1/2; fit not recorded.
-    static constexpr float d3 = f32(0x3D61FBCC);       // 0.055171772837638855
-    static constexpr float d2 = f32(0x3E786F13);       // 0.24261121451854706
-    static constexpr float d1 = f32(0x3F31798D);       // 0.6932609677314758
-    static constexpr float d0 = f32(0x3F7FFB49);       // 0.9999280571937561
 
     template <class V> static TARN_INLINE auto fast(V x) {
-        const V t = x * log2_10;
-        const V shifted = t + shifter;
-        const V r = t - (shifted - shifter);
-        const V p = horner(r, d3, d2, d1, d0);
-        return Flagged{from_bits(bits(p) + (bits(shifted) << 23)), magnitude_above(x, normal_bound)};
+        return Flagged{native_exp2(x * log2_10), magnitude_above(x, normal_bound)};
     }
 };
 

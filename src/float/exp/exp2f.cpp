@@ -7,6 +7,7 @@
 //
 // Worst error of exp2f: 1.102 ulp at -0.499960393, width 1 0.5069, width 4 2.555; native and half 1230.
 #include "callout/scalar.hpp"
+#include "float/exp/native_exp2.hpp"
 #include "frame/exports.hpp"
 
 namespace tarn::singles {
@@ -41,17 +42,8 @@ struct Exp2f : Kernel<float(float)> {
 struct Exp2fNative : Kernel<float(float)> {
     static constexpr auto callout = callout::exp2f;
 
-    // |r| <= 1/2; fit not recorded.
-    static constexpr float d3 = f32(0x3D61FBCC);  // 0.055171772837638855
-    static constexpr float d2 = f32(0x3E786F13);  // 0.24261121451854706
-    static constexpr float d1 = f32(0x3F31798D);  // 0.6932609677314758
-    static constexpr float d0 = f32(0x3F7FFB49);  // 0.9999280571937561
-
     template <class V> static TARN_INLINE auto fast(V x) {
-        const V shifted = x + shifter;
-        const V r = x - (shifted - shifter);
-        const V p = horner(r, d3, d2, d1, d0);
-        return Flagged{from_bits(bits(p) + (bits(shifted) << 23)), magnitude_above(x, normal_bound)};
+        return Flagged{native_exp2(x), magnitude_above(x, normal_bound)};
     }
 };
 
