@@ -1,0 +1,12 @@
+// What tarn-exports writes, each on standard output. Those that renew a file take its name and give an exit status.
+#pragma once
+
+namespace tarn {
+
+void header();
+void calls();
+void accuracy();
+int comments(const char* file);
+int contract(const char* file);
+
+}  // namespace tarn

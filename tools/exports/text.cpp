@@ -1,0 +1,139 @@
+#include "exports/text.hpp"
+
+#include <bit>
+#include <cstdio>
+
+namespace tarn {
+
+const char* c_type(Lane t) {
+    switch (t) {
+        case Lane::f32: return "float";
+        case Lane::f64: return "double";
+        case Lane::i32: return "int32_t";
+        case Lane::u32: return "uint32_t";
+        case Lane::i64: return "int64_t";
+        case Lane::u64: return "uint64_t";
+        case Lane::none: break;
+    }
+    return "void";
+}
+
+const char* stem(Lane t) {
+    switch (t) {
+        case Lane::f32: return "float";
+        case Lane::f64: return "double";
+        case Lane::i32: return "int";
+        case Lane::u32: return "uint";
+        case Lane::i64: return "long";
+        case Lane::u64: return "ulong";
+        case Lane::none: break;
+    }
+    return "void";
+}
+
+std::string vector_type(Lane t, int width) {
+    return width == 1 ? c_type(t) : "tarn_" + std::string(stem(t)) + std::to_string(width);
+}
+
+std::string result_type(const Shape& s, int width) {
+    return s.pair ? "tarn_sincos_" + std::string(stem(s.result)) + std::to_string(width) : vector_type(s.result, width);
+}
+
+bool is_pure(const Family& f) {
+    return (f.shape.second == Lane::none || f.shape.pair) && !f.base.starts_with("rint") &&
+           !f.base.starts_with("nearbyint") && f.base != "fmaf" && f.base != "fma";
+}
+
+std::string ulps(double u) {
+    char text[32];
+    std::snprintf(text, sizeof text, "%.4g", u);
+    return text;
+}
+
+std::string listed(const std::vector<std::string>& words) {
+    std::string text;
+    for (std::size_t i = 0; i < words.size(); i++) text += (i == 0 ? "" : i + 1 == words.size() ? " and " : ", ") + words[i];
+    return text;
+}
+
+std::string listed(const std::vector<int>& numbers) {
+    std::vector<std::string> words;
+    for (const int n : numbers) words.push_back(std::to_string(n));
+    return listed(words);
+}
+
+std::string widths_text(const std::vector<int>& numbers) {
+    if (numbers.size() == std::size(widths)) return "at every width";
+    return (numbers.size() == 1 ? "at width " : "at widths ") + listed(numbers);
+}
+
+namespace {
+
+std::string forms(const std::vector<Variant>& variants) {
+    std::vector<std::string> words;
+    for (const Variant v : variants) words.push_back(v == Variant::full ? "full" : suffix(v) + 1);
+    return listed(words);
+}
+
+std::string magnitude(double limit) {
+    char text[32];
+    std::snprintf(text, sizeof text, "%.0f", limit);
+    return text;
+}
+
+}  // namespace
+
+std::vector<std::string> exceptions(const Family& f) {
+    std::vector<std::string> all;
+    if (!f.width_full.empty()) {
+        std::vector<int> own;
+        for (const auto& [width, worst] : f.width_full) own.push_back(width);
+        all.push_back((own.size() > 1 ? "Widths " : "Width ") + listed(own) + (own.size() > 1 ? " have kernels" : " has a kernel") +
+                      " of " + (own.size() > 1 ? "their" : "its") + " own (full).");
+    }
+    if (f.switches_above != 0)
+        all.push_back("One lane beyond |x| = " + magnitude(f.switches_above) + " sends the whole call down another path.");
+    if (f.shares_blocks) all.push_back("A special lane makes its 16-byte block more exact (full).");
+    if (!f.estimates.empty())
+        all.push_back("Last bits may differ between processor makers (" + forms(f.estimates) + ").");
+    if (!f.native_domain.empty()) {
+        static const char* const names[] = {"x", "y"};
+        std::vector<std::string> parts;
+        for (std::size_t a = 0; a < f.native_domain.size(); a++) {
+            char text[64];
+            std::snprintf(text, sizeof text, "%s from %g to %g", names[a], f.native_domain[a].low, f.native_domain[a].high);
+            parts.push_back(text);
+        }
+        all.push_back("Native keeps its error for " + listed(parts) + ".");
+    }
+    if (!f.also.empty()) all.push_back(f.also);
+    return all;
+}
+
+std::string number(Lane type, std::uint64_t pattern) {
+    char text[32];
+    if (type == Lane::f32) std::snprintf(text, sizeof text, "%.9g", static_cast<double>(std::bit_cast<float>(static_cast<std::uint32_t>(pattern))));
+    else if (type == Lane::f64) std::snprintf(text, sizeof text, "%.17g", std::bit_cast<double>(pattern));
+    else std::snprintf(text, sizeof text, "%d", static_cast<std::int32_t>(pattern));
+    return text;
+}
+
+std::string error_line(const Family& f) {
+    if (f.full.ulp == 0) return f.allowed == 0 && f.formula.find("twice") == std::string::npos ? "Exact, or rounded once." : "";
+    // Of all inputs one is the worst; of others, one is the worst that was found.
+    const bool settled = f.measured.starts_with("all") || f.measured.starts_with("every");
+    std::string text = (settled ? "Worst error " : "Largest error found ") + ulps(f.full.ulp) + " ulp";
+    for (const auto& [width, own] : f.width_full) text += ", width " + std::to_string(width) + " " + ulps(own.ulp);
+    if (f.allowed > 0) {
+        text += " (OpenCL allows " + ulps(f.allowed);
+        if (!f.exceeds_bound.empty()) text += ", exceeded " + widths_text(f.exceeds_bound);
+        text += ')';
+    }
+    if (f.native_worst.ulp != 0) text += f.half_worst.ulp != 0 ? "; native " : f.has(Variant::half) ? "; native and half " : "; native ";
+    if (f.native_worst.ulp != 0) text += ulps(f.native_worst.ulp);
+    if (f.half_worst.ulp != 0) text += ", half " + ulps(f.half_worst.ulp);
+    if (!f.measured.empty()) text += (settled ? "; measured over " : "; by ") + f.measured;
+    return text + '.';
+}
+
+}  // namespace tarn

@@ -1,0 +1,34 @@
+// How exports, their types and what is known of them are written, for every text made from the table of families.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "families/families.hpp"
+
+namespace tarn {
+
+// C's names: of a lane's type, its stem in the names of vectors, a vector, a result.
+const char* c_type(Lane t);
+const char* stem(Lane t);
+std::string vector_type(Lane t, int width);
+std::string result_type(const Shape& s, int width);
+
+// A pointer is written through; some read the rounding mode or the x87 control word: the others depend on their
+// arguments alone.
+bool is_pure(const Family& f);
+
+std::string ulps(double u);
+// "a", "a and b", "a, b and c".
+std::string listed(const std::vector<std::string>& words);
+std::string listed(const std::vector<int>& numbers);
+std::string widths_text(const std::vector<int>& numbers);
+// An argument for people: a pattern as the number it is.
+std::string number(Lane type, std::uint64_t pattern);
+
+// Where a result depends on more than its own lane, or surprises: a sentence each.
+std::vector<std::string> exceptions(const Family& f);
+std::string error_line(const Family& f);
+
+}  // namespace tarn
