@@ -6,6 +6,7 @@ namespace tarn {
 void header();
 void calls();
 void accuracy();
+void opencl_header();
 int comments(const char* file);
 int contract(const char* file);
 
