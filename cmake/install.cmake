@@ -1,4 +1,4 @@
-# cmake --install: the module, its header, a CMake package and a pkg-config file.
+# cmake --install: the module, its headers, its catalogue, a CMake package and a pkg-config file.
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
@@ -12,7 +12,10 @@ endif()
 target_include_directories(ocl_tarn_k1 INTERFACE $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>
                                                  $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>)
 install(TARGETS ocl_tarn_k1 EXPORT ocl_tarn_k1 LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
-install(FILES include/ocl_tarn_k1.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+install(FILES include/ocl_tarn_k1.h include/ocl_tarn_k1.cl.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+if(TARGET catalogue)
+  install(FILES ${PROJECT_BINARY_DIR}/exports.json docs/exports.schema.json DESTINATION ${CMAKE_INSTALL_DATADIR}/ocl_tarn_k1)
+endif()
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/ocl_tarn_k1)
 install(EXPORT ocl_tarn_k1 NAMESPACE ocl_tarn_k1:: FILE ocl_tarn_k1-config.cmake DESTINATION ${package_dir})

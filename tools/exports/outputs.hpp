@@ -7,6 +7,7 @@ void header();
 void calls();
 void accuracy();
 void opencl_header();
+void catalogue();
 int comments(const char* file);
 int contract(const char* file);
 

@@ -44,6 +44,8 @@ bool is_pure(const Family& f) {
            !f.base.starts_with("nearbyint") && f.base != "fmaf" && f.base != "fma";
 }
 
+bool rounds_once(const Family& f) { return f.full.ulp == 0 && f.allowed == 0 && f.formula.find("twice") == std::string::npos; }
+
 std::string ulps(double u) {
     char text[32];
     std::snprintf(text, sizeof text, "%.4g", u);
@@ -119,7 +121,7 @@ std::string number(Lane type, std::uint64_t pattern) {
 }
 
 std::string error_line(const Family& f) {
-    if (f.full.ulp == 0) return f.allowed == 0 && f.formula.find("twice") == std::string::npos ? "Exact, or rounded once." : "";
+    if (f.full.ulp == 0) return rounds_once(f) ? "Exact, or rounded once." : "";
     // Of all inputs one is the worst; of others, one is the worst that was found.
     const bool settled = f.measured.starts_with("all") || f.measured.starts_with("every");
     std::string text = (settled ? "Worst error " : "Largest error found ") + ulps(f.full.ulp) + " ulp";

@@ -19,6 +19,9 @@ std::string result_type(const Shape& s, int width);
 // arguments alone.
 bool is_pure(const Family& f);
 
+// Where OpenCL allows no error; mad and madf round twice, and it says nothing of them.
+bool rounds_once(const Family& f);
+
 std::string ulps(double u);
 // "a", "a and b", "a, b and c".
 std::string listed(const std::vector<std::string>& words);
