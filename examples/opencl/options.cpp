@@ -7,6 +7,7 @@
 #define CL_HPP_MINIMUM_OPENCL_VERSION 120
 #include <CL/opencl.hpp>
 #include <ocl_tarn_k1.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <chrono>
@@ -114,7 +115,7 @@ public:
             once(kernel, whose);
             run.seconds = std::min(run.seconds, seconds_since(begin));
         }
-        std::fprintf(stderr, "\r%40s\r", "");
+        if (isatty(STDERR_FILENO)) std::fprintf(stderr, "\r%40s\r", "");
         queue_.enqueueReadBuffer(results_, CL_TRUE, 0, run.results.size() * sizeof(double), run.results.data());
         return run;
     }
@@ -130,7 +131,7 @@ private:
         for (std::size_t c = 0; c < chunks; c++) {
             queue_.enqueueNDRangeKernel(kernel, cl::NDRange(c * items), cl::NDRange(items), cl::NDRange(group));
             queue_.finish();
-            if (shown) std::fprintf(stderr, "\r%s: %3zu %%", shown, (c + 1) * 100 / chunks);
+            if (shown && isatty(STDERR_FILENO)) std::fprintf(stderr, "\r%s: %3zu %%", shown, (c + 1) * 100 / chunks);
         }
     }
 
@@ -146,7 +147,7 @@ void draw(const std::string& file, const Book& book, const std::vector<double>& 
     std::string quoted;
     for (const char c : file) quoted += c == '\'' ? std::string("''") : std::string(1, c);
     std::fprintf(gnuplot, "set terminal pngcairo size 900,700\nset output '%s'\nset title 'Gamma of a million call options, spot %g'\n"
-                          "set xlabel 'strike'\nset ylabel 'years to expiry'\nset logscale cb\nset cbrange [1e-5:*]\nset cblabel 'gamma'\n"
+                          "set xlabel 'strike'\nset ylabel 'years to expiry'\nset logscale cb\nset cbrange [1e-5:*]\nset cblabel 'gamma'\nset format cb '10^{%%T}'\n"
                           "set xrange [50:200]\nset yrange [0.02:3]\nplot '-' using 1:2:3 with image notitle\n", quoted.c_str(), spot);
     constexpr std::size_t step = 4;
     for (std::size_t e = 0; e < expiries; e += step)

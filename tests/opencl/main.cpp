@@ -7,7 +7,7 @@
 #include <map>
 #include <set>
 
-#include "device.hpp"
+#include "common/opencl.hpp"
 #include "exports/opencl.hpp"
 #include "exports/text.hpp"
 #include "samples.hpp"

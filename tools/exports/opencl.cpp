@@ -47,8 +47,8 @@ std::string key(const Family& f, Variant v) {
 bool in_opencl(const Family& f, Variant v) {
     if (is_conversion(f)) return true;
     const std::string name = spelled(f);
-    if (v != Variant::full)
-        return std::find(half_or_native_in_opencl.begin(), half_or_native_in_opencl.end(), name) != half_or_native_in_opencl.end();
+    if (v != Variant::full)  // of single precision alone
+        return precision(f) == Lane::f32 && std::find(half_or_native_in_opencl.begin(), half_or_native_in_opencl.end(), name) != half_or_native_in_opencl.end();
     static const std::set<std::string> ours = {"divide", "recip", "rcbrt", "nearbyint", "sincosreg"};
     return !ours.contains(name);
 }
