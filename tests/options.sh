@@ -1,12 +1,17 @@
 #!/usr/bin/env bash
-# The OpenCL example: its results, its picture, and what it says of bad input.
-#   options.sh PROGRAM SOURCE_DIR
+# The OpenCL example and the commands of the README's section on OpenCL: results, the picture, what is said of bad input.
+#   options.sh BUILD_DIR SOURCE_DIR
 set -euo pipefail
-program=$1 source=$2
+build=$1 source=$2 program=$1/examples/options
 work=$(mktemp -d); trap 'rm -rf "$work"' EXIT
 export POCL_CACHE_DIR=$work
 status=0
-"$program" "$source/examples/opencl/options.cl" "$source/include" "$work/gamma.png" > "$work/out" 2> "$work/err" || status=$?
+commands=$(awk '/^## / { inside = $0 == "## OpenCL" } inside' "$source/README.md" | awk '/^```/ { block = block ? "" : $0; next } block == "```"')
+[ "$(wc -l <<< "$commands")" -ge 2 ] || { echo "README.md has no commands for OpenCL"; exit 1; }
+# Of this build, the picture elsewhere; programs that this build has not are left out.
+[ -x "$build/tools/tarn-bench-opencl" ] || commands=$(grep -v tarn-bench-opencl <<< "$commands")
+commands=${commands//build\/release\/gamma/"$work/gamma"}
+(cd "$source" && bash -euc "${commands//build\/release/"$build"}") > "$work/out" 2> "$work/err" || status=$?
 if grep -q 'no OpenCL runtime' "$work/err"; then
     echo "skipped: $(cat "$work/err")"
     exit 77

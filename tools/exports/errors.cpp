@@ -115,20 +115,6 @@ int comments(const char* file) {
     return 0;
 }
 
-int contract(const char* file) {
-    std::ifstream in(file);
-    if (!in) return std::fprintf(stderr, "tarn-exports: cannot read %s\n", file), 2;
-    bool inside = false, seen = false;
-    for (std::string line; std::getline(in, line);) {
-        if (line == mark_end) inside = false;
-        if (!inside) std::puts(line.c_str());
-        if (line == mark_begin) {
-            inside = seen = true;
-            std::fputs(exceptions_table().c_str(), stdout);
-        }
-    }
-    if (!seen || inside) return std::fprintf(stderr, "tarn-exports: %s lacks its marks\n", file), 2;
-    return 0;
-}
+int contract(const char* file) { return renew_between(file, mark_begin, mark_end, exceptions_table()); }
 
 }  // namespace tarn

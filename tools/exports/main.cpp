@@ -1,7 +1,9 @@
-// Writes what follows from the table of families: the public header and that for OpenCL C, the version script, the pages of measured
-// errors and of exceptions, the catalogue, the calls of the C callers' test; and a source file with its worst errors renewed.
+// Writes what follows from the table of families: the public header and the one for OpenCL C, the version script, the
+// pages of measured errors, of exceptions and of OpenCL's built-ins, the catalogue, the calls of the C callers' test; and a
+// source file with its worst errors renewed.
 //   tarn-exports header|map|names|accuracy|calls|opencl|json > FILE
 //   tarn-exports contract docs/contract.md > FILE
+//   tarn-exports mapping docs/opencl.md > FILE
 #include <cstdio>
 #include <cstring>
 
@@ -30,12 +32,13 @@ int main(int argc, char** argv) {
     else if (argc == 2 && !std::strcmp(argv[1], "json")) catalogue();
     else if (argc == 3 && !std::strcmp(argv[1], "comments")) return comments(argv[2]);
     else if (argc == 3 && !std::strcmp(argv[1], "contract")) return contract(argv[2]);
+    else if (argc == 3 && !std::strcmp(argv[1], "mapping")) return mapping(argv[2]);
     else if (argc == 2 && !std::strcmp(argv[1], "map")) {
         std::puts("/* Generated from the table of families by tarn-exports. */\n{\nglobal:");
         names("    ", ";");
         std::puts("local:\n    *;\n};");
     } else {
-        std::fputs("usage: tarn-exports header|map|names|accuracy|calls|opencl|json, or comments|contract FILE\n", stderr);
+        std::fputs("usage: tarn-exports header|map|names|accuracy|calls|opencl|json, or comments|contract|mapping FILE\n", stderr);
         return 2;
     }
 }

@@ -10,5 +10,6 @@ void opencl_header();
 void catalogue();
 int comments(const char* file);
 int contract(const char* file);
+int mapping(const char* file);
 
 }  // namespace tarn

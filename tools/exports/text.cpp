@@ -2,6 +2,7 @@
 
 #include <bit>
 #include <cstdio>
+#include <fstream>
 
 namespace tarn {
 
@@ -136,6 +137,22 @@ std::string error_line(const Family& f) {
     if (f.half_worst.ulp != 0) text += ", half " + ulps(f.half_worst.ulp);
     if (!f.measured.empty()) text += (settled ? "; measured over " : "; by ") + f.measured;
     return text + '.';
+}
+
+int renew_between(const char* file, const std::string& begin, const std::string& end, const std::string& text) {
+    std::ifstream in(file);
+    if (!in) return std::fprintf(stderr, "tarn-exports: cannot read %s\n", file), 2;
+    bool inside = false, seen = false;
+    for (std::string line; std::getline(in, line);) {
+        if (line == end) inside = false;
+        if (!inside) std::puts(line.c_str());
+        if (line == begin) {
+            inside = seen = true;
+            std::fputs(text.c_str(), stdout);
+        }
+    }
+    if (!seen || inside) return std::fprintf(stderr, "tarn-exports: %s lacks its marks\n", file), 2;
+    return 0;
 }
 
 }  // namespace tarn

@@ -34,4 +34,7 @@ std::string number(Lane type, std::uint64_t pattern);
 std::vector<std::string> exceptions(const Family& f);
 std::string error_line(const Family& f);
 
+// Prints a page with `text` in the place of what it holds between two lines. An exit status.
+int renew_between(const char* file, const std::string& begin, const std::string& end, const std::string& text);
+
 }  // namespace tarn
