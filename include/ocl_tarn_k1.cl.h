@@ -1,16 +1,18 @@
-/* Vector math in OpenCL C: built-in functions of a kernel that includes this are those of the module __ocl_tarn_k1.
+/* Vector math in OpenCL C: built-in functions of a kernel that includes this are the module's, __ocl_tarn_k1.
  *
  *     #include <ocl_tarn_k1.cl.h>
  *     kernel void k(global float4* x) { size_t i = get_global_id(0); x[i] = pow(sin(x[i]), 2.5f); }
  *
- * sin(x), pow(x, y), native_exp(x), half_log(x), convert_int4_sat_rtz(x), sincos(x, &c) and the others, of every width and
- * in both precisions, then mean tarn_sin(x) and so on: those names are always there, and every export has one.
- * OpenCL C has no name for tarn_divide, tarn_recip, tarn_rcbrt, tarn_nearbyint, tarn_sincosreg, and for most of
- * tarn_native_acos and its like. Conversions without a rounding mode (convert_int4, convert_int4_sat) stay the runtime's.
+ * sin(x), pow(x, y), native_exp(x), half_log(x), convert_int4_sat_rtz(x), sincos(x, &c) and the others, of every
+ * width and in both precisions, then mean tarn_sin(x) and so on: those names are always there, and every export
+ * has one. OpenCL C has no name for tarn_divide, tarn_recip, tarn_rcbrt, tarn_nearbyint, tarn_sincosreg, and for
+ * most of tarn_native_acos and its like. Conversions without a rounding mode (convert_int4, convert_int4_sat) stay
+ * the runtime's.
  *
  * Macros, as options of the build (-D NAME) or before the header:
- *   TARN_ONLY           only what TARN_USE_<name> asks for, as in -D TARN_ONLY -D TARN_USE_sin -D TARN_USE_native_exp; of a
- *                       conversion the name of width 1 (TARN_USE_convert_int_sat_rtz). Programs build faster with less.
+ *   TARN_ONLY           only what TARN_USE_<name> asks for, as in -D TARN_ONLY -D TARN_USE_sin -D TARN_USE_native_exp;
+ *                       of a conversion the name of width 1 (TARN_USE_convert_int_sat_rtz). Programs build faster
+ *                       with less, and functions of a few instructions are better left to the runtime.
  *   TARN_PREFIXED_ONLY  OpenCL's own names stay the runtime's: sin(x) beside tarn_sin(x).
  *
  * For runtimes on x86-64 that compile kernels with clang in the process that runs them. The module has to be in
@@ -33,6 +35,7 @@
 #define TARN_INLINE static inline __attribute__((always_inline))
 #define TARN_OVERLOAD static inline __attribute__((always_inline, overloadable))
 #define TARN_JUMP static inline __attribute__((naked))
+#define TARN_PURE static inline __attribute__((naked, const))
 
 /* Vectors as C passes them: a vector beyond 16 bytes would change its registers with the target. ------- */
 typedef float tarn_c_float1;
@@ -48,11 +51,15 @@ typedef float4 tarn_c_float4;
 #define tarn_pack_float4(x) (x)
 #define tarn_lanes_float4(c) (c)
 typedef struct { float4 block[2]; } tarn_c_float8;
-TARN_INLINE tarn_c_float8 tarn_pack_float8(float8 x) { tarn_c_float8 c = {{x.s0123, x.s4567}}; return c; }
-TARN_INLINE float8 tarn_lanes_float8(tarn_c_float8 c) { return (float8)(c.block[0], c.block[1]); }
+TARN_INLINE tarn_c_float8 tarn_pack_float8(float8 x) {
+    tarn_c_float8 c = {{x.s0123, x.s4567}}; return c; }
+TARN_INLINE float8 tarn_lanes_float8(tarn_c_float8 c) {
+    return (float8)(c.block[0], c.block[1]); }
 typedef struct { float4 block[4]; } tarn_c_float16;
-TARN_INLINE tarn_c_float16 tarn_pack_float16(float16 x) { tarn_c_float16 c = {{x.s0123, x.s4567, x.s89ab, x.scdef}}; return c; }
-TARN_INLINE float16 tarn_lanes_float16(tarn_c_float16 c) { return (float16)(c.block[0], c.block[1], c.block[2], c.block[3]); }
+TARN_INLINE tarn_c_float16 tarn_pack_float16(float16 x) {
+    tarn_c_float16 c = {{x.s0123, x.s4567, x.s89ab, x.scdef}}; return c; }
+TARN_INLINE float16 tarn_lanes_float16(tarn_c_float16 c) {
+    return (float16)(c.block[0], c.block[1], c.block[2], c.block[3]); }
 #ifdef cl_khr_fp64
 typedef double tarn_c_double1;
 #define tarn_pack_double1(x) (x)
@@ -64,14 +71,20 @@ typedef struct { double2 block[2]; } tarn_c_double3;
 TARN_INLINE tarn_c_double3 tarn_pack_double3(double3 x) { tarn_c_double3 c = {{x.s01, x.s22}}; return c; }
 TARN_INLINE double3 tarn_lanes_double3(tarn_c_double3 c) { return (double3)(c.block[0], c.block[1].x); }
 typedef struct { double2 block[2]; } tarn_c_double4;
-TARN_INLINE tarn_c_double4 tarn_pack_double4(double4 x) { tarn_c_double4 c = {{x.s01, x.s23}}; return c; }
-TARN_INLINE double4 tarn_lanes_double4(tarn_c_double4 c) { return (double4)(c.block[0], c.block[1]); }
+TARN_INLINE tarn_c_double4 tarn_pack_double4(double4 x) {
+    tarn_c_double4 c = {{x.s01, x.s23}}; return c; }
+TARN_INLINE double4 tarn_lanes_double4(tarn_c_double4 c) {
+    return (double4)(c.block[0], c.block[1]); }
 typedef struct { double2 block[4]; } tarn_c_double8;
-TARN_INLINE tarn_c_double8 tarn_pack_double8(double8 x) { tarn_c_double8 c = {{x.s01, x.s23, x.s45, x.s67}}; return c; }
-TARN_INLINE double8 tarn_lanes_double8(tarn_c_double8 c) { return (double8)(c.block[0], c.block[1], c.block[2], c.block[3]); }
+TARN_INLINE tarn_c_double8 tarn_pack_double8(double8 x) {
+    tarn_c_double8 c = {{x.s01, x.s23, x.s45, x.s67}}; return c; }
+TARN_INLINE double8 tarn_lanes_double8(tarn_c_double8 c) {
+    return (double8)(c.block[0], c.block[1], c.block[2], c.block[3]); }
 typedef struct { double2 block[8]; } tarn_c_double16;
-TARN_INLINE tarn_c_double16 tarn_pack_double16(double16 x) { tarn_c_double16 c = {{x.s01, x.s23, x.s45, x.s67, x.s89, x.sab, x.scd, x.sef}}; return c; }
-TARN_INLINE double16 tarn_lanes_double16(tarn_c_double16 c) { return (double16)(c.block[0], c.block[1], c.block[2], c.block[3], c.block[4], c.block[5], c.block[6], c.block[7]); }
+TARN_INLINE tarn_c_double16 tarn_pack_double16(double16 x) {
+    tarn_c_double16 c = {{x.s01, x.s23, x.s45, x.s67, x.s89, x.sab, x.scd, x.sef}}; return c; }
+TARN_INLINE double16 tarn_lanes_double16(tarn_c_double16 c) {
+    return (double16)(c.block[0], c.block[1], c.block[2], c.block[3], c.block[4], c.block[5], c.block[6], c.block[7]); }
 #endif
 typedef int tarn_c_int1;
 #define tarn_pack_int1(x) (x)
@@ -86,11 +99,15 @@ typedef int4 tarn_c_int4;
 #define tarn_pack_int4(x) (x)
 #define tarn_lanes_int4(c) (c)
 typedef struct { int4 block[2]; } tarn_c_int8;
-TARN_INLINE tarn_c_int8 tarn_pack_int8(int8 x) { tarn_c_int8 c = {{x.s0123, x.s4567}}; return c; }
-TARN_INLINE int8 tarn_lanes_int8(tarn_c_int8 c) { return (int8)(c.block[0], c.block[1]); }
+TARN_INLINE tarn_c_int8 tarn_pack_int8(int8 x) {
+    tarn_c_int8 c = {{x.s0123, x.s4567}}; return c; }
+TARN_INLINE int8 tarn_lanes_int8(tarn_c_int8 c) {
+    return (int8)(c.block[0], c.block[1]); }
 typedef struct { int4 block[4]; } tarn_c_int16;
-TARN_INLINE tarn_c_int16 tarn_pack_int16(int16 x) { tarn_c_int16 c = {{x.s0123, x.s4567, x.s89ab, x.scdef}}; return c; }
-TARN_INLINE int16 tarn_lanes_int16(tarn_c_int16 c) { return (int16)(c.block[0], c.block[1], c.block[2], c.block[3]); }
+TARN_INLINE tarn_c_int16 tarn_pack_int16(int16 x) {
+    tarn_c_int16 c = {{x.s0123, x.s4567, x.s89ab, x.scdef}}; return c; }
+TARN_INLINE int16 tarn_lanes_int16(tarn_c_int16 c) {
+    return (int16)(c.block[0], c.block[1], c.block[2], c.block[3]); }
 typedef uint tarn_c_uint1;
 #define tarn_pack_uint1(x) (x)
 #define tarn_lanes_uint1(c) (c)
@@ -104,11 +121,15 @@ typedef uint4 tarn_c_uint4;
 #define tarn_pack_uint4(x) (x)
 #define tarn_lanes_uint4(c) (c)
 typedef struct { uint4 block[2]; } tarn_c_uint8;
-TARN_INLINE tarn_c_uint8 tarn_pack_uint8(uint8 x) { tarn_c_uint8 c = {{x.s0123, x.s4567}}; return c; }
-TARN_INLINE uint8 tarn_lanes_uint8(tarn_c_uint8 c) { return (uint8)(c.block[0], c.block[1]); }
+TARN_INLINE tarn_c_uint8 tarn_pack_uint8(uint8 x) {
+    tarn_c_uint8 c = {{x.s0123, x.s4567}}; return c; }
+TARN_INLINE uint8 tarn_lanes_uint8(tarn_c_uint8 c) {
+    return (uint8)(c.block[0], c.block[1]); }
 typedef struct { uint4 block[4]; } tarn_c_uint16;
-TARN_INLINE tarn_c_uint16 tarn_pack_uint16(uint16 x) { tarn_c_uint16 c = {{x.s0123, x.s4567, x.s89ab, x.scdef}}; return c; }
-TARN_INLINE uint16 tarn_lanes_uint16(tarn_c_uint16 c) { return (uint16)(c.block[0], c.block[1], c.block[2], c.block[3]); }
+TARN_INLINE tarn_c_uint16 tarn_pack_uint16(uint16 x) {
+    tarn_c_uint16 c = {{x.s0123, x.s4567, x.s89ab, x.scdef}}; return c; }
+TARN_INLINE uint16 tarn_lanes_uint16(tarn_c_uint16 c) {
+    return (uint16)(c.block[0], c.block[1], c.block[2], c.block[3]); }
 typedef long tarn_c_long1;
 #define tarn_pack_long1(x) (x)
 #define tarn_lanes_long1(c) (c)
@@ -119,14 +140,20 @@ typedef struct { long2 block[2]; } tarn_c_long3;
 TARN_INLINE tarn_c_long3 tarn_pack_long3(long3 x) { tarn_c_long3 c = {{x.s01, x.s22}}; return c; }
 TARN_INLINE long3 tarn_lanes_long3(tarn_c_long3 c) { return (long3)(c.block[0], c.block[1].x); }
 typedef struct { long2 block[2]; } tarn_c_long4;
-TARN_INLINE tarn_c_long4 tarn_pack_long4(long4 x) { tarn_c_long4 c = {{x.s01, x.s23}}; return c; }
-TARN_INLINE long4 tarn_lanes_long4(tarn_c_long4 c) { return (long4)(c.block[0], c.block[1]); }
+TARN_INLINE tarn_c_long4 tarn_pack_long4(long4 x) {
+    tarn_c_long4 c = {{x.s01, x.s23}}; return c; }
+TARN_INLINE long4 tarn_lanes_long4(tarn_c_long4 c) {
+    return (long4)(c.block[0], c.block[1]); }
 typedef struct { long2 block[4]; } tarn_c_long8;
-TARN_INLINE tarn_c_long8 tarn_pack_long8(long8 x) { tarn_c_long8 c = {{x.s01, x.s23, x.s45, x.s67}}; return c; }
-TARN_INLINE long8 tarn_lanes_long8(tarn_c_long8 c) { return (long8)(c.block[0], c.block[1], c.block[2], c.block[3]); }
+TARN_INLINE tarn_c_long8 tarn_pack_long8(long8 x) {
+    tarn_c_long8 c = {{x.s01, x.s23, x.s45, x.s67}}; return c; }
+TARN_INLINE long8 tarn_lanes_long8(tarn_c_long8 c) {
+    return (long8)(c.block[0], c.block[1], c.block[2], c.block[3]); }
 typedef struct { long2 block[8]; } tarn_c_long16;
-TARN_INLINE tarn_c_long16 tarn_pack_long16(long16 x) { tarn_c_long16 c = {{x.s01, x.s23, x.s45, x.s67, x.s89, x.sab, x.scd, x.sef}}; return c; }
-TARN_INLINE long16 tarn_lanes_long16(tarn_c_long16 c) { return (long16)(c.block[0], c.block[1], c.block[2], c.block[3], c.block[4], c.block[5], c.block[6], c.block[7]); }
+TARN_INLINE tarn_c_long16 tarn_pack_long16(long16 x) {
+    tarn_c_long16 c = {{x.s01, x.s23, x.s45, x.s67, x.s89, x.sab, x.scd, x.sef}}; return c; }
+TARN_INLINE long16 tarn_lanes_long16(tarn_c_long16 c) {
+    return (long16)(c.block[0], c.block[1], c.block[2], c.block[3], c.block[4], c.block[5], c.block[6], c.block[7]); }
 typedef ulong tarn_c_ulong1;
 #define tarn_pack_ulong1(x) (x)
 #define tarn_lanes_ulong1(c) (c)
@@ -137,47 +164,65 @@ typedef struct { ulong2 block[2]; } tarn_c_ulong3;
 TARN_INLINE tarn_c_ulong3 tarn_pack_ulong3(ulong3 x) { tarn_c_ulong3 c = {{x.s01, x.s22}}; return c; }
 TARN_INLINE ulong3 tarn_lanes_ulong3(tarn_c_ulong3 c) { return (ulong3)(c.block[0], c.block[1].x); }
 typedef struct { ulong2 block[2]; } tarn_c_ulong4;
-TARN_INLINE tarn_c_ulong4 tarn_pack_ulong4(ulong4 x) { tarn_c_ulong4 c = {{x.s01, x.s23}}; return c; }
-TARN_INLINE ulong4 tarn_lanes_ulong4(tarn_c_ulong4 c) { return (ulong4)(c.block[0], c.block[1]); }
+TARN_INLINE tarn_c_ulong4 tarn_pack_ulong4(ulong4 x) {
+    tarn_c_ulong4 c = {{x.s01, x.s23}}; return c; }
+TARN_INLINE ulong4 tarn_lanes_ulong4(tarn_c_ulong4 c) {
+    return (ulong4)(c.block[0], c.block[1]); }
 typedef struct { ulong2 block[4]; } tarn_c_ulong8;
-TARN_INLINE tarn_c_ulong8 tarn_pack_ulong8(ulong8 x) { tarn_c_ulong8 c = {{x.s01, x.s23, x.s45, x.s67}}; return c; }
-TARN_INLINE ulong8 tarn_lanes_ulong8(tarn_c_ulong8 c) { return (ulong8)(c.block[0], c.block[1], c.block[2], c.block[3]); }
+TARN_INLINE tarn_c_ulong8 tarn_pack_ulong8(ulong8 x) {
+    tarn_c_ulong8 c = {{x.s01, x.s23, x.s45, x.s67}}; return c; }
+TARN_INLINE ulong8 tarn_lanes_ulong8(tarn_c_ulong8 c) {
+    return (ulong8)(c.block[0], c.block[1], c.block[2], c.block[3]); }
 typedef struct { ulong2 block[8]; } tarn_c_ulong16;
-TARN_INLINE tarn_c_ulong16 tarn_pack_ulong16(ulong16 x) { tarn_c_ulong16 c = {{x.s01, x.s23, x.s45, x.s67, x.s89, x.sab, x.scd, x.sef}}; return c; }
-TARN_INLINE ulong16 tarn_lanes_ulong16(tarn_c_ulong16 c) { return (ulong16)(c.block[0], c.block[1], c.block[2], c.block[3], c.block[4], c.block[5], c.block[6], c.block[7]); }
+TARN_INLINE tarn_c_ulong16 tarn_pack_ulong16(ulong16 x) {
+    tarn_c_ulong16 c = {{x.s01, x.s23, x.s45, x.s67, x.s89, x.sab, x.scd, x.sef}}; return c; }
+TARN_INLINE ulong16 tarn_lanes_ulong16(tarn_c_ulong16 c) {
+    return (ulong16)(c.block[0], c.block[1], c.block[2], c.block[3], c.block[4], c.block[5], c.block[6], c.block[7]); }
 /* Sine and cosine together, as a function returns them and as they travel. */
-typedef struct { float sine, cosine; } tarn_sincos_float1; typedef struct { tarn_c_float1 sine, cosine; } tarn_both_float1;
-typedef struct { float2 sine, cosine; } tarn_sincos_float2; typedef struct { tarn_c_float2 sine, cosine; } tarn_both_float2;
-typedef struct { float3 sine, cosine; } tarn_sincos_float3; typedef struct { tarn_c_float3 sine, cosine; } tarn_both_float3;
-typedef struct { float4 sine, cosine; } tarn_sincos_float4; typedef struct { tarn_c_float4 sine, cosine; } tarn_both_float4;
-typedef struct { float8 sine, cosine; } tarn_sincos_float8; typedef struct { tarn_c_float8 sine, cosine; } tarn_both_float8;
-typedef struct { float16 sine, cosine; } tarn_sincos_float16; typedef struct { tarn_c_float16 sine, cosine; } tarn_both_float16;
+typedef struct { float sine, cosine; } tarn_sincos_float1;
+typedef struct { tarn_c_float1 sine, cosine; } tarn_both_float1;
+typedef struct { float2 sine, cosine; } tarn_sincos_float2;
+typedef struct { tarn_c_float2 sine, cosine; } tarn_both_float2;
+typedef struct { float3 sine, cosine; } tarn_sincos_float3;
+typedef struct { tarn_c_float3 sine, cosine; } tarn_both_float3;
+typedef struct { float4 sine, cosine; } tarn_sincos_float4;
+typedef struct { tarn_c_float4 sine, cosine; } tarn_both_float4;
+typedef struct { float8 sine, cosine; } tarn_sincos_float8;
+typedef struct { tarn_c_float8 sine, cosine; } tarn_both_float8;
+typedef struct { float16 sine, cosine; } tarn_sincos_float16;
+typedef struct { tarn_c_float16 sine, cosine; } tarn_both_float16;
 #ifdef cl_khr_fp64
-typedef struct { double sine, cosine; } tarn_sincos_double1; typedef struct { tarn_c_double1 sine, cosine; } tarn_both_double1;
-typedef struct { double2 sine, cosine; } tarn_sincos_double2; typedef struct { tarn_c_double2 sine, cosine; } tarn_both_double2;
-typedef struct { double3 sine, cosine; } tarn_sincos_double3; typedef struct { tarn_c_double3 sine, cosine; } tarn_both_double3;
-typedef struct { double4 sine, cosine; } tarn_sincos_double4; typedef struct { tarn_c_double4 sine, cosine; } tarn_both_double4;
-typedef struct { double8 sine, cosine; } tarn_sincos_double8; typedef struct { tarn_c_double8 sine, cosine; } tarn_both_double8;
-typedef struct { double16 sine, cosine; } tarn_sincos_double16; typedef struct { tarn_c_double16 sine, cosine; } tarn_both_double16;
+typedef struct { double sine, cosine; } tarn_sincos_double1;
+typedef struct { tarn_c_double1 sine, cosine; } tarn_both_double1;
+typedef struct { double2 sine, cosine; } tarn_sincos_double2;
+typedef struct { tarn_c_double2 sine, cosine; } tarn_both_double2;
+typedef struct { double3 sine, cosine; } tarn_sincos_double3;
+typedef struct { tarn_c_double3 sine, cosine; } tarn_both_double3;
+typedef struct { double4 sine, cosine; } tarn_sincos_double4;
+typedef struct { tarn_c_double4 sine, cosine; } tarn_both_double4;
+typedef struct { double8 sine, cosine; } tarn_sincos_double8;
+typedef struct { tarn_c_double8 sine, cosine; } tarn_both_double8;
+typedef struct { double16 sine, cosine; } tarn_sincos_double16;
+typedef struct { tarn_c_double16 sine, cosine; } tarn_both_double16;
 #endif
 
 /* A function at one width: the jump, and the overload over it. E is the export's name without width and form, N the
  * width, V the width as types are spelled (nothing for 1). ------------------------------------------- */
-#define TARN_TO(E, N, F) { __asm__("jmp " #E #N #F "@PLT" ::: "memory"); }
+#define TARN_TO(E, N, F) { __asm__("jmp " #E #N #F "@PLT"); }
 #define TARN_1(NAME, E, F, N, V, R, A) \
-    TARN_JUMP tarn_c_##R##N tarn_to##E##N##F(tarn_c_##A##N x) TARN_TO(E, N, F) \
+    TARN_PURE tarn_c_##R##N tarn_to##E##N##F(tarn_c_##A##N x) TARN_TO(E, N, F) \
     TARN_OVERLOAD R##V NAME(A##V x) { return tarn_lanes_##R##N(tarn_to##E##N##F(tarn_pack_##A##N(x))); }
 #define TARN_2(NAME, E, F, N, V, R, A, B) \
-    TARN_JUMP tarn_c_##R##N tarn_to##E##N##F(tarn_c_##A##N x, tarn_c_##B##N y) TARN_TO(E, N, F) \
+    TARN_PURE tarn_c_##R##N tarn_to##E##N##F(tarn_c_##A##N x, tarn_c_##B##N y) TARN_TO(E, N, F) \
     TARN_OVERLOAD R##V NAME(A##V x, B##V y) { \
         return tarn_lanes_##R##N(tarn_to##E##N##F(tarn_pack_##A##N(x), tarn_pack_##B##N(y))); }
 #define TARN_3(NAME, E, F, N, V, R, A, B, C) \
-    TARN_JUMP tarn_c_##R##N tarn_to##E##N##F(tarn_c_##A##N x, tarn_c_##B##N y, tarn_c_##C##N z) TARN_TO(E, N, F) \
+    TARN_PURE tarn_c_##R##N tarn_to##E##N##F(tarn_c_##A##N x, tarn_c_##B##N y, tarn_c_##C##N z) TARN_TO(E, N, F) \
     TARN_OVERLOAD R##V NAME(A##V x, B##V y, C##V z) { \
         return tarn_lanes_##R##N(tarn_to##E##N##F(tarn_pack_##A##N(x), tarn_pack_##B##N(y), tarn_pack_##C##N(z))); }
 /* Both results returned. */
 #define TARN_PAIR(NAME, E, F, N, V, R, A) \
-    TARN_JUMP tarn_both_##R##N tarn_to##E##N##F(tarn_c_##A##N x) TARN_TO(E, N, F) \
+    TARN_PURE tarn_both_##R##N tarn_to##E##N##F(tarn_c_##A##N x) TARN_TO(E, N, F) \
     TARN_OVERLOAD tarn_sincos_##R##N NAME(A##V x) { \
         const tarn_both_##R##N both = tarn_to##E##N##F(tarn_pack_##A##N(x)); \
         const tarn_sincos_##R##N r = {tarn_lanes_##R##N(both.sine), tarn_lanes_##R##N(both.cosine)}; \
@@ -197,7 +242,8 @@ typedef struct { double16 sine, cosine; } tarn_sincos_double16; typedef struct {
         *second = tarn_lanes_##S##N(s); \
         return r; }
 #if defined(__opencl_c_generic_address_space) || __OPENCL_C_VERSION__ == 200
-#define TARN_EVERY_SPACE(M, ...) M(__global, __VA_ARGS__) M(__local, __VA_ARGS__) M(__private, __VA_ARGS__) M(__generic, __VA_ARGS__)
+#define TARN_EVERY_SPACE(M, ...) M(__global, __VA_ARGS__) M(__local, __VA_ARGS__) M(__private, __VA_ARGS__) \
+    M(__generic, __VA_ARGS__)
 #else
 #define TARN_EVERY_SPACE(M, ...) M(__global, __VA_ARGS__) M(__local, __VA_ARGS__) M(__private, __VA_ARGS__)
 #endif
@@ -205,7 +251,8 @@ typedef struct { double16 sine, cosine; } tarn_sincos_double16; typedef struct {
     TARN_JUMP tarn_c_##R##N tarn_to##E##N##F(tarn_c_##A##N x, __private tarn_c_##S##N* second) TARN_TO(E, N, F) \
     TARN_EVERY_SPACE(TARN_SECOND_1, NAME, E, F, N, V, R, A, S)
 #define TARN_2_SECOND(NAME, E, F, N, V, R, A, B, S) \
-    TARN_JUMP tarn_c_##R##N tarn_to##E##N##F(tarn_c_##A##N x, tarn_c_##B##N y, __private tarn_c_##S##N* second) TARN_TO(E, N, F) \
+    TARN_JUMP tarn_c_##R##N tarn_to##E##N##F(tarn_c_##A##N x, tarn_c_##B##N y, __private tarn_c_##S##N* second) \
+        TARN_TO(E, N, F) \
     TARN_EVERY_SPACE(TARN_SECOND_2, NAME, E, F, N, V, R, A, B, S)
 /* OpenCL C has these also with a scalar beside a vector. */
 #define TARN_SCALAR(NAME, V, T, B) TARN_OVERLOAD T##V NAME(T##V x, B y) { return NAME(x, (B##V)(y)); }
@@ -220,7 +267,8 @@ typedef struct { double16 sine, cosine; } tarn_sincos_double16; typedef struct {
     TARN_1(tarn_convert_##R##3##TAIL, E, , 3, 3, R, A) TARN_1(tarn_convert_##R##4##TAIL, E, , 4, 4, R, A) \
     TARN_1(tarn_convert_##R##8##TAIL, E, , 8, 8, R, A) TARN_1(tarn_convert_##R##16##TAIL, E, , 16, 16, R, A)
 /* Sources that the module has no conversion for keep the runtime's. */
-#define TARN_KEEP_1(R, TAIL, V, A) TARN_OVERLOAD R##V tarn_convert_##R##V##TAIL(A##V x) { return convert_##R##V##TAIL(x); }
+#define TARN_KEEP_1(R, TAIL, V, A) \
+    TARN_OVERLOAD R##V tarn_convert_##R##V##TAIL(A##V x) { return convert_##R##V##TAIL(x); }
 #define TARN_KEEP(R, TAIL, A) TARN_KEEP_1(R, TAIL, , A) TARN_KEEP_1(R, TAIL, 2, A) TARN_KEEP_1(R, TAIL, 3, A) \
     TARN_KEEP_1(R, TAIL, 4, A) TARN_KEEP_1(R, TAIL, 8, A) TARN_KEEP_1(R, TAIL, 16, A)
 

@@ -1,5 +1,5 @@
-// Prices a million call options and their derivatives in an OpenCL kernel, once with the module's functions and once with
-// the runtime's own; then again through the C interface, which has to give the module's kernel bit for bit.
+// Prices a million call options and their derivatives in an OpenCL kernel, once with the module's functions and once
+// with the runtime's own; then again through the C interface, which has to give the module's kernel bit for bit.
 //   options KERNEL.cl INCLUDE_DIR [PICTURE.png]
 // The program is linked to the module, which is how kernels find it.
 #define CL_HPP_ENABLE_EXCEPTIONS
@@ -22,7 +22,8 @@
 
 namespace {
 
-constexpr std::size_t strikes = 1000, expiries = 1000, contracts = strikes * expiries, lanes = 4, group = 50, chunks = 20;
+constexpr std::size_t strikes = 1000, expiries = 1000, contracts = strikes * expiries, lanes = 4, group = 50,
+                      chunks = 20;
 constexpr double spot = 100, rate = 0.03;
 constexpr const char* names[] = {"price", "delta", "gamma", "vega", "theta", "rho"};
 constexpr std::size_t figures = std::size(names);
@@ -32,7 +33,8 @@ struct Book {
     std::vector<double> strike, years, volatility;
     Book() : strike(contracts), years(contracts), volatility(contracts) {
         for (std::size_t i = 0; i < contracts; i++) {
-            const double s = static_cast<double>(i % strikes) / (strikes - 1), e = static_cast<double>(i / strikes) / (expiries - 1);
+            const double s = static_cast<double>(i % strikes) / (strikes - 1),
+                         e = static_cast<double>(i / strikes) / (expiries - 1);
             strike[i] = 50 + 150 * s;
             years[i] = 0.02 + 2.98 * e;
             volatility[i] = 0.18 + 0.25 * (s - 0.33) * (s - 0.33) / (0.3 + years[i]);
@@ -45,12 +47,17 @@ void price(const Book& book, std::size_t i, double* results) {
     const double strike = book.strike[i], t = book.years[i], volatility = book.volatility[i];
     const auto normal_below = [](double d) { return 0.5 * __ocl_tarn_k1_erfc1(d * -0.70710678118654752); };
     const double root = __ocl_tarn_k1_sqrt1(t), spread = volatility * root;
-    const double d1 = (__ocl_tarn_k1_log1(spot / strike) + (rate + 0.5 * volatility * volatility) * t) / spread, d2 = d1 - spread;
+    const double d1 = (__ocl_tarn_k1_log1(spot / strike) + (rate + 0.5 * volatility * volatility) * t) / spread,
+                 d2 = d1 - spread;
     const double below1 = normal_below(d1), below2 = normal_below(d2);
     const double density = __ocl_tarn_k1_exp1(-0.5 * d1 * d1) * 0.39894228040143268;
     const double owed = strike * __ocl_tarn_k1_exp1(-rate * t);
-    const double all[figures] = {spot * below1 - owed * below2, below1, density / (spot * spread), spot * density * root,
-                                 -spot * density * volatility / (2.0 * root) - rate * owed * below2, t * owed * below2};
+    const double all[figures] = {spot * below1 - owed * below2,
+                                 below1,
+                                 density / (spot * spread),
+                                 spot * density * root,
+                                 -spot * density * volatility / (2.0 * root) - rate * owed * below2,
+                                 t * owed * below2};
     for (std::size_t f = 0; f < figures; f++) results[f * contracts + i] = all[f];
 }
 
@@ -92,8 +99,12 @@ struct Run {
 class Desk {
 public:
     Desk(const cl::Device& device, Book& book)
-        : context_(device), queue_(context_, device), strike_(input(book.strike)), years_(input(book.years)),
-          volatility_(input(book.volatility)), results_(context_, CL_MEM_WRITE_ONLY, figures * contracts * sizeof(double)) {}
+        : context_(device),
+          queue_(context_, device),
+          strike_(input(book.strike)),
+          years_(input(book.years)),
+          volatility_(input(book.volatility)),
+          results_(context_, CL_MEM_WRITE_ONLY, figures * contracts * sizeof(double)) {}
 
     // The whole book three times after a first one, the quickest counting.
     Run price(const std::string& source, const std::string& options, const char* whose) {
@@ -146,14 +157,19 @@ void draw(const std::string& file, const Book& book, const std::vector<double>& 
     if (!gnuplot) throw std::runtime_error("gnuplot does not start");
     std::string quoted;
     for (const char c : file) quoted += c == '\'' ? std::string("''") : std::string(1, c);
-    std::fprintf(gnuplot, "set terminal pngcairo size 900,700\nset output '%s'\nset title 'Gamma of a million call options, spot %g'\n"
-                          "set xlabel 'strike'\nset ylabel 'years to expiry'\nset logscale cb\nset cbrange [1e-5:*]\nset cblabel 'gamma'\nset format cb '10^{%%T}'\n"
-                          "set xrange [50:200]\nset yrange [0.02:3]\nplot '-' using 1:2:3 with image notitle\n", quoted.c_str(), spot);
+    std::fprintf(
+        gnuplot,
+        "set terminal pngcairo size 900,700\nset output '%s'\nset title 'Gamma of a million call options, spot %g'\n"
+        "set xlabel 'strike'\nset ylabel 'years to expiry'\nset logscale cb\nset cbrange [1e-5:*]\nset cblabel 'gamma'\n"
+        "set format cb '10^{%%T}'\n"
+        "set xrange [50:200]\nset yrange [0.02:3]\nplot '-' using 1:2:3 with image notitle\n",
+        quoted.c_str(), spot);
     constexpr std::size_t step = 4;
     for (std::size_t e = 0; e < expiries; e += step)
         for (std::size_t s = 0; s < strikes; s += step) {
             const std::size_t i = e * strikes + s;
-            std::fprintf(gnuplot, "%g %g %g\n", book.strike[i], book.years[i], std::max(results[2 * contracts + i], 1e-5));
+            std::fprintf(gnuplot, "%g %g %g\n", book.strike[i], book.years[i],
+                         std::max(results[2 * contracts + i], 1e-5));
         }
     std::fputs("e\n", gnuplot);
     if (pclose(gnuplot) != 0) throw std::runtime_error("gnuplot draws no picture");
@@ -163,7 +179,8 @@ void draw(const std::string& file, const Book& book, const std::vector<double>& 
 }  // namespace
 
 int main(int argc, char** argv) try {
-    if (argc != 3 && argc != 4) return std::fprintf(stderr, "usage: %s KERNEL.cl INCLUDE_DIR [PICTURE.png]\n", argv[0]), 2;
+    if (argc != 3 && argc != 4)
+        return std::fprintf(stderr, "usage: %s KERNEL.cl INCLUDE_DIR [PICTURE.png]\n", argv[0]), 2;
     const std::string source = text_of(argv[1]);
     const cl::Device device = processor();
     std::printf("%zu call options on %s (%s)\n", contracts, device.getInfo<CL_DEVICE_NAME>().c_str(),
@@ -178,10 +195,12 @@ int main(int argc, char** argv) try {
     std::vector<double> again(figures * contracts);
     for (std::size_t i = 0; i < contracts; i++) price(book, i, again.data());
     std::size_t differing = 0;
-    for (std::size_t i = 0; i < again.size(); i++) differing += std::memcmp(&again[i], &ours.results[i], sizeof(double)) != 0;
+    for (std::size_t i = 0; i < again.size(); i++)
+        differing += std::memcmp(&again[i], &ours.results[i], sizeof(double)) != 0;
 
     const std::size_t shown = contracts / 2 + 333;
-    std::printf("\nstrike %g, %.2f years, volatility %.4f:", book.strike[shown], book.years[shown], book.volatility[shown]);
+    std::printf("\nstrike %g, %.2f years, volatility %.4f:", book.strike[shown], book.years[shown],
+                book.volatility[shown]);
     for (std::size_t f = 0; f < figures; f++) std::printf(" %s %.6g", names[f], ours.results[f * contracts + shown]);
     double apart = 0;
     for (std::size_t i = 0; i < contracts; i++) apart = std::max(apart, std::fabs(ours.results[i] - theirs.results[i]));

@@ -1,5 +1,5 @@
-// Every export through an OpenCL runtime: kernels that include ocl_tarn_k1.cl.h call it by OpenCL's name, or by the header's
-// where OpenCL has none, and have to give the bits that a direct call of the module gives.
+// Every export through an OpenCL runtime: kernels that include ocl_tarn_k1.cl.h call it by OpenCL's name, or by the
+// header's where OpenCL has none, and have to give the bits that a direct call of the module gives.
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -25,8 +25,8 @@ void fail(const std::string& what) {
     if (failures++ < 20) std::printf("FAILED %s\n", what.c_str());
 }
 
-// The ways in which a kernel calls a function: a second result through a pointer to each kind of memory, and a scalar in
-// the place of the second vector.
+// The ways in which a kernel calls a function: a second result through a pointer to each kind of memory, and a scalar
+// in the place of the second vector.
 enum class Way { plain, to_global, to_local, with_scalar };
 struct Call {
     Function function;
@@ -39,7 +39,8 @@ std::string load(int width, const std::string& from) {
     return width == 1 ? from + "[i]" : "vload" + std::to_string(width) + "(i, " + from + ")";
 }
 std::string store(int width, const std::string& value, const std::string& to) {
-    return width == 1 ? to + "[i] = " + value + ";" : "vstore" + std::to_string(width) + "(" + value + ", i, " + to + ");";
+    return width == 1 ? to + "[i] = " + value + ";"
+                      : "vstore" + std::to_string(width) + "(" + value + ", i, " + to + ");";
 }
 
 // The same work for every call of one shape and width: they share a kernel, which is built once.
@@ -53,7 +54,8 @@ std::string kernel(const std::string& name, const Shape& s, int width, const std
     for (std::size_t a = 0; a < s.args.size(); a++)
         text += "  const " + type(s.args[a], width) + " x" + std::to_string(a) + " = " +
                 load(width, "a" + std::to_string(a)) + ";\n";
-    if (s.second != Lane::none) text += "  local " + type(s.second, width) + " shared[" + std::to_string(group) + "];\n";
+    if (s.second != Lane::none)
+        text += "  local " + type(s.second, width) + " shared[" + std::to_string(group) + "];\n";
     text += "  switch (which) {\n";
     for (std::size_t c = 0; c < calls.size(); c++) {
         const Function& f = calls[c].function;
@@ -64,16 +66,18 @@ std::string kernel(const std::string& name, const Shape& s, int width, const std
         const std::string called = (own.empty() ? header_name(f.family(), width, f.variant()) : own) + '(' + arguments;
         text += "    case " + std::to_string(c) + ": { ";
         if (s.pair) {
-            text += "const tarn_sincos_" + std::string(stem(s.result)) + std::to_string(width) + " both = " + called + "); " +
-                    store(width, "both.sine", "r") + ' ' + store(width, "both.cosine", "s");
+            text += "const tarn_sincos_" + std::string(stem(s.result)) + std::to_string(width) + " both = " + called +
+                    "); " + store(width, "both.sine", "r") + ' ' + store(width, "both.cosine", "s");
         } else if (s.second == Lane::none) {
             text += store(width, called + ")", "r");
         } else if (calls[c].way == Way::to_global) {
             text += store(width, called + ", (global " + type(s.second, width) + "*)s + i)", "r");
         } else if (calls[c].way == Way::to_local) {
-            text += store(width, called + ", shared + get_local_id(0))", "r") + ' ' + store(width, "shared[get_local_id(0)]", "s");
+            text += store(width, called + ", shared + get_local_id(0))", "r") + ' ' +
+                    store(width, "shared[get_local_id(0)]", "s");
         } else {
-            text += type(s.second, width) + " own; " + store(width, called + ", &own)", "r") + ' ' + store(width, "own", "s");
+            text += type(s.second, width) + " own; " + store(width, called + ", &own)", "r") + ' ' +
+                    store(width, "own", "s");
         }
         text += " break; }\n";
     }
@@ -83,7 +87,8 @@ std::string kernel(const std::string& name, const Shape& s, int width, const std
 // Memory of the device with bytes around it that nothing may touch.
 class Guarded {
 public:
-    Guarded(const cl::Context& context, std::size_t bytes) : size_(bytes + guard), buffer_(context, CL_MEM_READ_WRITE, size_) {}
+    Guarded(const cl::Context& context, std::size_t bytes)
+        : size_(bytes + guard), buffer_(context, CL_MEM_READ_WRITE, size_) {}
     const cl::Buffer& buffer() const { return buffer_; }
     void clear(const cl::CommandQueue& queue) { queue.enqueueFillBuffer(buffer_, untouched, 0, size_); }
     std::vector<unsigned char> read(const cl::CommandQueue& queue) const {
@@ -110,10 +115,12 @@ Lanes lanes_of(Lane t, const std::vector<unsigned char>& bytes, std::size_t n, i
     return lanes;
 }
 
-void compare(const std::string& name, const char* what, const std::vector<Lanes>& args, const Lanes& direct, const Lanes& kernel) {
+void compare(const std::string& name, const char* what, const std::vector<Lanes>& args, const Lanes& direct,
+             const Lanes& kernel) {
     for (std::size_t i = 0; i < direct.size(); i++)
         if (direct.pattern(i) != kernel.pattern(i))
-            return fail(name + ": the " + what + " of " + lanes_text(args, i) + " is " + hex(kernel.pattern(i)) + ", not " + hex(direct.pattern(i)));
+            return fail(name + ": the " + what + " of " + lanes_text(args, i) + " is " + hex(kernel.pattern(i)) +
+                        ", not " + hex(direct.pattern(i)));
 }
 
 class Runner {
@@ -136,7 +143,8 @@ private:
         const auto width = static_cast<std::size_t>(f.width());
         auto inputs = samples(f.family(), random);
         // Whole groups of whole calls, the last lane repeated.
-        const std::size_t lanes = inputs[0].size(), work = (lanes + width * group - 1) / (width * group) * group, n = work * width;
+        const std::size_t lanes = inputs[0].size(), work = (lanes + width * group - 1) / (width * group) * group,
+                          n = work * width;
         std::vector<Lanes> args;
         for (std::size_t a = 0; a < inputs.size(); a++) {
             Lanes filled(inputs[a].type(), n);
@@ -149,12 +157,14 @@ private:
         std::vector<cl::Buffer> sent;
         cl_uint at = 1;
         for (Lanes& arg : args) {
-            sent.emplace_back(context_, CL_MEM_READ_ONLY | CL_MEM_COPY_HOST_PTR, n * static_cast<std::size_t>(bytes(arg.type())), arg.data());
+            sent.emplace_back(context_, CL_MEM_READ_ONLY | CL_MEM_COPY_HOST_PTR,
+                              n * static_cast<std::size_t>(bytes(arg.type())), arg.data());
             kernel.setArg(at++, sent.back());
         }
         const bool apart = call.way == Way::to_global;
         const std::size_t result_bytes = n * static_cast<std::size_t>(bytes(s.result));
-        const std::size_t second_bytes = (apart && width == 3 ? work * 4 : n) * static_cast<std::size_t>(bytes(s.second));
+        const std::size_t second_bytes =
+            (apart && width == 3 ? work * 4 : n) * static_cast<std::size_t>(bytes(s.second));
         Guarded result(context_, result_bytes), second(context_, second_bytes);
         result.clear(queue_), second.clear(queue_);
         kernel.setArg(at++, result.buffer());
@@ -168,12 +178,14 @@ private:
         unharmed(f.name(), got, result_bytes);
         const auto got_second = second.read(queue_);
         if (s.second != Lane::none)
-            compare(f.name(), "second result", args, direct_second, lanes_of(s.second, got_second, n, f.width(), apart));
+            compare(f.name(), "second result", args, direct_second,
+                    lanes_of(s.second, got_second, n, f.width(), apart));
         unharmed(f.name(), got_second, second_bytes);
     }
 
     static void unharmed(const std::string& name, const std::vector<unsigned char>& bytes, std::size_t from) {
-        if (std::any_of(bytes.begin() + static_cast<std::ptrdiff_t>(from), bytes.end(), [](unsigned char b) { return b != untouched; }))
+        if (std::any_of(bytes.begin() + static_cast<std::ptrdiff_t>(from), bytes.end(),
+                        [](unsigned char b) { return b != untouched; }))
             fail(name + " writes beyond its lanes");
     }
 
@@ -193,9 +205,11 @@ void every_export(Runner& runner, const std::string& header, int width, Lane t) 
         const Function function = m.at(width);
         auto& calls = by_shape[shape];
         calls.push_back({function, Way::plain});
-        if (f.shape.second != Lane::none && !f.shape.pair) calls.push_back({function, Way::to_global}), calls.push_back({function, Way::to_local});
+        if (f.shape.second != Lane::none && !f.shape.pair)
+            calls.push_back({function, Way::to_global}), calls.push_back({function, Way::to_local});
         const std::string name = builtin(f, width, m.variant);
-        if (width > 1 && (name == "fmin" || name == "fmax" || name == "ldexp")) calls.push_back({function, Way::with_scalar});
+        if (width > 1 && (name == "fmin" || name == "fmax" || name == "ldexp"))
+            calls.push_back({function, Way::with_scalar});
     }
     std::string source = header;
     for (const auto& [shape, calls] : by_shape) source += kernel(shape, calls[0].function.family().shape, width, calls);
@@ -215,16 +229,19 @@ void choices(const cl::Device& device, const cl::Context& context, const std::st
     };
     const auto expect = [&](bool wanted, const std::string& text, const std::string& options) {
         const std::string words = builds(text, options);
-        if (words.empty() != wanted) fail((wanted ? "does not build: " : "builds: ") + text + " with " + options + ' ' + words);
+        if (words.empty() != wanted)
+            fail((wanted ? "does not build: " : "builds: ") + text + " with " + options + ' ' + words);
     };
-    const std::string ours = "kernel void k(global float4* x) { *x = tarn_sin(*x); }", theirs = "kernel void k(global float4* x) { *x = tarn_cos(*x); }";
+    const std::string ours = "kernel void k(global float4* x) { *x = tarn_sin(*x); }",
+                      theirs = "kernel void k(global float4* x) { *x = tarn_cos(*x); }";
     expect(true, ours, "-D TARN_ONLY -D TARN_USE_sin");
     expect(false, theirs, "-D TARN_ONLY -D TARN_USE_sin");
     expect(true, "kernel void k(global float4* x) { *x = sin(cos(*x)); }", "-D TARN_ONLY -D TARN_USE_sin");
     const auto is = [&](const std::string& spelled, const std::string& name, const std::string& options) {
         // A name is what it expands to: an array of that size.
-        const std::string text = "#define S(x) S_(x)\n#define S_(x) #x\nkernel void k(global int* r) { char a[sizeof(S(" + name +
-                                 ")) == sizeof(\"" + spelled + "\") ? 1 : -1]; *r = sizeof a; }";
+        const std::string text =
+            "#define S(x) S_(x)\n#define S_(x) #x\nkernel void k(global int* r) { char a[sizeof(S(" + name +
+            ")) == sizeof(\"" + spelled + "\") ? 1 : -1]; *r = sizeof a; }";
         expect(true, text, options);
     };
     is("tarn_sin", "sin", "");
@@ -232,9 +249,13 @@ void choices(const cl::Device& device, const cl::Context& context, const std::st
     expect(true, "kernel void k(global float4* x) { *x = tarn_sin(*x) - sin(*x); }", "-D TARN_PREFIXED_ONLY");
 
     // Sources of a conversion that the module has none for.
-    const cl::Program kept = build(context, header + "kernel void k(global int4* r) { r[0] = convert_int4_sat_rte((short4)(1, -2, 3, -4));"
-                                                     " r[1] = convert_int4_sat_rtz((long4)(5000000000, -6, 7, -5000000000));"
-                                                     " r[2] = convert_int4_rtz(convert_float4_rtp((uchar4)(1, 2, 3, 255))); }", "");
+    const cl::Program kept =
+        build(context,
+              header +
+                  "kernel void k(global int4* r) { r[0] = convert_int4_sat_rte((short4)(1, -2, 3, -4));"
+                  " r[1] = convert_int4_sat_rtz((long4)(5000000000, -6, 7, -5000000000));"
+                  " r[2] = convert_int4_rtz(convert_float4_rtp((uchar4)(1, 2, 3, 255))); }",
+              "");
     cl::CommandQueue queue(context, device);
     const cl::Buffer results(context, CL_MEM_READ_WRITE, 48);
     cl::Kernel k(kept, "k");
@@ -258,7 +279,10 @@ int main() try {
     if (!mkdtemp(cache)) return std::perror("mkdtemp"), 2;
     const struct Removed {
         const char* path;
-        ~Removed() { std::error_code ignored; std::filesystem::remove_all(path, ignored); }
+        ~Removed() {
+            std::error_code ignored;
+            std::filesystem::remove_all(path, ignored);
+        }
     } removed{cache};
     setenv("POCL_CACHE_DIR", cache, 1);
 

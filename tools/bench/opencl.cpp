@@ -1,5 +1,5 @@
-// tarn-bench-opencl BUILTIN...: nanoseconds an element of OpenCL's built-in functions in a kernel over a million of them,
-// the module's beside the runtime's own, on one thread.
+// tarn-bench-opencl BUILTIN...: nanoseconds an element of OpenCL's built-in functions in a kernel over a million of
+// them, the module's beside the runtime's own, on one thread.
 #include "common/opencl.hpp"
 
 #include <chrono>
@@ -52,7 +52,8 @@ std::string kernel(const Row& row, const char* side, const std::string& function
 
 class Times {
 public:
-    Times(const cl::Device& device, const std::string& header) : context_(device), queue_(context_, device), header_(header) {}
+    Times(const cl::Device& device, const std::string& header)
+        : context_(device), queue_(context_, device), header_(header) {}
 
     // Least times of the module's function and the runtime's, in nanoseconds an element: rounds of both take turns.
     std::map<std::pair<std::string, int>, std::array<double, 2>> operator()(const std::vector<Row>& rows, int rounds) {
@@ -68,7 +69,8 @@ public:
         for (const Row& row : rows) {
             const auto buffers = inputs(*row.family);
             for (const int width : timed_widths) {
-                cl::Kernel sides[] = {{program, row.kernel("module", width).c_str()}, {program, row.kernel("runtime", width).c_str()}};
+                cl::Kernel sides[] = {{program, row.kernel("module", width).c_str()},
+                                      {program, row.kernel("runtime", width).c_str()}};
                 auto& best = least[{row.name(), width}];
                 best.fill(std::numeric_limits<double>::infinity());
                 for (cl::Kernel& side : sides)
@@ -89,7 +91,8 @@ public:
 private:
     double once(const cl::Kernel& kernel, int width) {
         const auto start = std::chrono::steady_clock::now();
-        queue_.enqueueNDRangeKernel(kernel, cl::NullRange, cl::NDRange(elements / static_cast<std::size_t>(width)), cl::NDRange(group));
+        queue_.enqueueNDRangeKernel(kernel, cl::NullRange, cl::NDRange(elements / static_cast<std::size_t>(width)),
+                                    cl::NDRange(group));
         queue_.finish();
         return std::chrono::duration<double, std::nano>(std::chrono::steady_clock::now() - start).count() / elements;
     }
@@ -101,9 +104,12 @@ private:
         for (std::size_t a = 0; a < f.shape.args.size(); a++) {
             const Lane type = f.shape.args[a];
             Lanes lanes(type, elements);
-            const Interval usual = a < f.usual.size() ? f.usual[a] : is_float(type) ? Interval{0.1, 10} : Interval{1, 10};
+            const Interval usual = a < f.usual.size() ? f.usual[a]
+                                   : is_float(type)   ? Interval{0.1, 10}
+                                                      : Interval{1, 10};
             for (std::size_t i = 0; i < elements; i++) {
-                const double u = static_cast<double>(random() >> 11) * 0x1p-53, v = usual.low * (1 - u) + usual.high * u;
+                const double u = static_cast<double>(random() >> 11) * 0x1p-53,
+                             v = usual.low * (1 - u) + usual.high * u;
                 lanes.set(i, pattern_of(type, is_float(type) ? v : std::floor(v)));
             }
             buffers.emplace_back(context_, CL_MEM_READ_ONLY | CL_MEM_COPY_HOST_PTR, size(type), lanes.data());
@@ -124,10 +130,12 @@ std::vector<Row> rows_of(const std::vector<std::string>& names) {
     for (const Family& f : families())
         for (const Variant v : all_variants) {
             if (!f.has(v) || builtin(f, 1, v).empty() || f.shape.pair) continue;
-            if (names.empty() || std::find(names.begin(), names.end(), builtin(f, 1, v)) != names.end()) rows.push_back({&f, v});
+            if (names.empty() || std::find(names.begin(), names.end(), builtin(f, 1, v)) != names.end())
+                rows.push_back({&f, v});
         }
     for (const auto& name : names)
-        if (std::none_of(rows.begin(), rows.end(), [&](const Row& row) { return builtin(*row.family, 1, row.variant) == name; }))
+        if (std::none_of(rows.begin(), rows.end(),
+                         [&](const Row& row) { return builtin(*row.family, 1, row.variant) == name; }))
             throw cli::Refused("no built-in function that the module serves is called '" + name + "'");
     return rows;
 }
@@ -135,7 +143,8 @@ std::vector<Row> rows_of(const std::vector<std::string>& names) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    CLI::App app{"Times OpenCL's built-in functions in kernels, the module's beside the runtime's own.", "tarn-bench-opencl"};
+    CLI::App app{"Times OpenCL's built-in functions in kernels, the module's beside the runtime's own.",
+                 "tarn-bench-opencl"};
     std::vector<std::string> names;
     int rounds = 9;
     bool markdown = false;
@@ -148,12 +157,16 @@ int main(int argc, char** argv) {
 
     return cli::run(app, argc, argv, [&] {
         const std::vector<Row> rows = rows_of(names);
-        // Kernels kept from another run would not be this module's header's; one thread, whose times are those of other pages.
+        // Kernels kept from another run would not be this module's header's; one thread, whose times are those of other
+        // pages.
         char cache[] = "/tmp/tarn-opencl-XXXXXX";
         if (!mkdtemp(cache)) throw cli::Refused("no directory can be made in /tmp");
         const struct Removed {
             const char* path;
-            ~Removed() { std::error_code ignored; std::filesystem::remove_all(path, ignored); }
+            ~Removed() {
+                std::error_code ignored;
+                std::filesystem::remove_all(path, ignored);
+            }
         } removed{cache};
         setenv("POCL_CACHE_DIR", cache, 1);
         setenv("POCL_MAX_PTHREAD_COUNT", "1", 1);
@@ -164,13 +177,14 @@ int main(int argc, char** argv) {
         const auto least = Times(*device, text)(rows, rounds);
 
         if (markdown) {
-            std::printf("`tarn-bench-opencl --rounds %d` on %s, %s.\n\n", rounds, device->getInfo<CL_DEVICE_NAME>().c_str(),
-                        device->getInfo<CL_DEVICE_VERSION>().c_str());
-            std::puts("| built-in | module, width 4 | runtime | module, width 8 | runtime | module, width 16 | runtime | ahead |\n"
-                      "|---|---|---|---|---|---|---|---|");
+            std::printf("`tarn-bench-opencl --rounds %d` on %s, %s.\n\n", rounds,
+                        device->getInfo<CL_DEVICE_NAME>().c_str(), device->getInfo<CL_DEVICE_VERSION>().c_str());
+            std::puts(
+                "| built-in | module, width 4 | runtime | module, width 8 | runtime | module, width 16 | runtime | ahead |\n"
+                "|---|---|---|---|---|---|---|---|");
         } else {
-            std::printf("%-28s%10s%10s%10s%10s%10s%10s%8s\n", "ns an element", "4: module", "runtime", "8: module", "runtime",
-                        "16: module", "runtime", "ahead");
+            std::printf("%-28s%10s%10s%10s%10s%10s%10s%8s\n", "ns an element", "4: module", "runtime", "8: module",
+                        "runtime", "16: module", "runtime", "ahead");
         }
         double logs = 0;
         for (const Row& row : rows) {
@@ -186,7 +200,8 @@ int main(int argc, char** argv) {
             std::printf(markdown ? " %.2f |\n" : "%8.2f\n", best[1] / best[0]);
             logs += std::log(best[1] / best[0]);
         }
-        std::printf("\nAhead: the runtime's least time over the module's; the geometric mean is %.2f.\n", std::exp(logs / static_cast<double>(rows.size())));
+        std::printf("\nAhead: the runtime's least time over the module's; the geometric mean is %.2f.\n",
+                    std::exp(logs / static_cast<double>(rows.size())));
         return 0;
     });
 }

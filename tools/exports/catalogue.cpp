@@ -28,7 +28,8 @@ std::string number(double value) {
     return text;
 }
 
-template <class Range, class Text> std::string array(const Range& values, Text text) {
+template <class Range, class Text>
+std::string array(const Range& values, Text text) {
     std::string json = "[";
     for (const auto& value : values) json += (json.size() > 1 ? ", " : "") + text(value);
     return json + ']';
@@ -37,22 +38,24 @@ template <class Range, class Text> std::string array(const Range& values, Text t
 // Of width 3 four lanes are stored.
 std::string vector(Lane t, int width) {
     if (t == Lane::none) return "null";
-    return "{\"lane\": " + quoted(stem(t)) + ", \"lanes\": " + std::to_string(width) + ", \"bytes\": " +
-           std::to_string((width == 3 ? 4 : width) * bytes(t)) + '}';
+    return "{\"lane\": " + quoted(stem(t)) + ", \"lanes\": " + std::to_string(width) +
+           ", \"bytes\": " + std::to_string((width == 3 ? 4 : width) * bytes(t)) + '}';
 }
 
 std::string place(const Place& p, Lane t, Convention convention, bool is_result) {
     static const char* const names[] = {"nowhere", "xmm", "integer", "stack"};
-    return "{\"in\": " + quoted(names[static_cast<int>(p.where)]) + ", \"first\": " + std::to_string(p.first) + ", \"count\": " +
-           std::to_string(p.count) + ", \"by_reference\": " + (p.by_reference ? "true" : "false") + ", \"text\": " +
-           quoted(is_result ? result_text(p, t, convention) : argument_text(p, t, convention)) + '}';
+    return "{\"in\": " + quoted(names[static_cast<int>(p.where)]) + ", \"first\": " + std::to_string(p.first) +
+           ", \"count\": " + std::to_string(p.count) + ", \"by_reference\": " + (p.by_reference ? "true" : "false") +
+           ", \"text\": " + quoted(is_result ? result_text(p, t, convention) : argument_text(p, t, convention)) + '}';
 }
 
 std::string travels(const Shape& s, int width, Convention convention) {
     const Placement p = placement(s, width, convention);
     std::string arguments;
-    for (std::size_t a = 0; a < s.args.size(); a++) arguments += (a ? ", " : "") + place(p.args[a], s.args[a], convention, false);
-    return "{\"arguments\": [" + arguments + "], \"result\": " + place(p.result, s.result, convention, true) + ", \"second\": " +
+    for (std::size_t a = 0; a < s.args.size(); a++)
+        arguments += (a ? ", " : "") + place(p.args[a], s.args[a], convention, false);
+    return "{\"arguments\": [" + arguments + "], \"result\": " + place(p.result, s.result, convention, true) +
+           ", \"second\": " +
            (p.second.where == Place::Where::nowhere ? "null" : place(p.second, s.second, convention, false)) + '}';
 }
 
@@ -61,11 +64,15 @@ std::string error(const Family& f, int width, Variant v) {
     if (rounds_once(f)) return R"({"ulp": 0.5, "at": [], "measured": null})";
     if (worst.ulp == 0) return "null";
     std::size_t a = 0;
-    return "{\"ulp\": " + number(worst.ulp) + ", \"at\": " + array(worst.at, [&](std::uint64_t pattern) {
-               char text[32];
-               std::snprintf(text, sizeof text, "\"0x%0*llx\"", bytes(f.shape.args[a++]) * 2, static_cast<unsigned long long>(pattern));
-               return std::string(text);
-           }) + ", \"measured\": " + or_null(f.measured) + '}';
+    return "{\"ulp\": " + number(worst.ulp) + ", \"at\": " +
+           array(worst.at,
+                 [&](std::uint64_t pattern) {
+                     char text[32];
+                     std::snprintf(text, sizeof text, "\"0x%0*llx\"", bytes(f.shape.args[a++]) * 2,
+                                   static_cast<unsigned long long>(pattern));
+                     return std::string(text);
+                 }) +
+           ", \"measured\": " + or_null(f.measured) + '}';
 }
 
 // What OpenCL allows of the built-in that this form serves; null where it leaves the error open.
@@ -85,7 +92,8 @@ std::string vector_functions(const Family& f, int width, Variant v) {
     const std::string target = '(' + export_name(f.base, width, v) + ')';
     // The C library has other functions of these names.
     const bool named = v == Variant::full && f.group != "Conversions" && f.base != "div" && !f.base.starts_with("nan");
-    return "[" + (named ? quoted(lanes + f.base + target) + ", " : "") + quoted(lanes + export_name(f.base, 1, v) + target) + "]";
+    return "[" + (named ? quoted(lanes + f.base + target) + ", " : "") +
+           quoted(lanes + export_name(f.base, 1, v) + target) + "]";
 }
 
 }  // namespace
@@ -98,16 +106,21 @@ void catalogue() {
             if (f.has(v))
                 for (const int width : widths) {
                     const Shape& s = f.shape;
-                    std::printf("%s{\"symbol\": \"%s\", \"base\": \"%s\", \"precision\": \"%s\", \"width\": %d, \"variant\": \"%s\",\n",
-                                separator, export_name(f.base, width, v).c_str(), f.base.c_str(), stem(precision(f)), width,
-                                v == Variant::full ? "full" : suffix(v) + 1);
-                    std::printf(" \"opencl\": %s, \"opencl_header\": %s, \"group\": %s,\n", or_null(builtin(f, width, v)).c_str(),
-                                quoted(header_name(f, width, v)).c_str(), quoted(f.group).c_str());
+                    std::printf(
+                        "%s{\"symbol\": \"%s\", \"base\": \"%s\", \"precision\": \"%s\", \"width\": %d, \"variant\": \"%s\",\n",
+                        separator, export_name(f.base, width, v).c_str(), f.base.c_str(), stem(precision(f)), width,
+                        v == Variant::full ? "full" : suffix(v) + 1);
+                    std::printf(" \"opencl\": %s, \"opencl_header\": %s, \"group\": %s,\n",
+                                or_null(builtin(f, width, v)).c_str(), quoted(header_name(f, width, v)).c_str(),
+                                quoted(f.group).c_str());
                     std::printf(" \"arguments\": %s, \"result\": %s, \"second\": %s, \"second_is\": %s,\n",
-                                array(s.args, [&](Lane a) { return vector(a, width); }).c_str(), vector(s.result, width).c_str(),
-                                vector(s.second, width).c_str(),
-                                s.second == Lane::none ? "null" : s.pair ? "\"returned\"" : "\"written\"");
-                    std::printf(" \"system_v\": %s,\n \"windows\": %s,\n", travels(s, width, Convention::system_v).c_str(),
+                                array(s.args, [&](Lane a) { return vector(a, width); }).c_str(),
+                                vector(s.result, width).c_str(), vector(s.second, width).c_str(),
+                                s.second == Lane::none ? "null"
+                                : s.pair               ? "\"returned\""
+                                                       : "\"written\"");
+                    std::printf(" \"system_v\": %s,\n \"windows\": %s,\n",
+                                travels(s, width, Convention::system_v).c_str(),
                                 travels(s, width, Convention::windows).c_str());
                     std::printf(" \"pure\": %s, \"error\": %s, \"opencl_bound\": %s, \"exceeds_opencl_bound\": %s,\n",
                                 is_pure(f) ? "true" : "false", error(f, width, v).c_str(), bound(f, v).c_str(),

@@ -13,13 +13,17 @@ namespace tarn {
 Allowance allowance(const std::string& name) {
     static const auto table = [] {
         std::map<std::string, Allowance> t;
-        for (const char* n : {"cbrt", "exp", "exp2", "exp10", "expm1", "log", "log2", "log10", "log1p", "rsqrt", "sqrt"}) t[n].embedded = 4;
+        for (const char* n :
+             {"cbrt", "exp", "exp2", "exp10", "expm1", "log", "log2", "log10", "log1p", "rsqrt", "sqrt"})
+            t[n].embedded = 4;
         for (const char* n : {"divide", "recip"}) t[n] = {3, Rule::ulps, 2.5};
         for (const char* n : {"acos", "asin", "atan"}) t[n].rule = Rule::ulps, t[n].limit = 4096;
-        for (const char* n : {"acosh", "acospi", "asinh", "asinpi", "atan2", "atan2pi", "atanh", "atanpi", "cbrt", "cosh", "exp10", "expm1",
-                              "log10", "log1p", "pow", "pown", "powr", "rootn", "sinh", "tan", "tanh", "tanpi"})
+        for (const char* n :
+             {"acosh", "acospi", "asinh", "asinpi", "atan2", "atan2pi", "atanh", "atanpi", "cbrt", "cosh", "exp10",
+              "expm1", "log10",  "log1p", "pow",    "pown",  "powr",    "rootn", "sinh",   "tan",  "tanh", "tanpi"})
             t[n].rule = Rule::ulps, t[n].limit = 8192;
-        for (const char* n : {"sin", "cos", "sincos", "sincosreg", "sinpi", "cospi"}) t[n] = {0, Rule::absolute, 0x1p-11, 0.2784};
+        for (const char* n : {"sin", "cos", "sincos", "sincosreg", "sinpi", "cospi"})
+            t[n] = {0, Rule::absolute, 0x1p-11, 0.2784};
         t["exp"] = {4, Rule::exponential, 0, 708.8};
         t["exp2"] = {4, Rule::exponential, 0, 410.1};
         t["log"] = {4, Rule::logarithm, 0, 1125};
@@ -63,7 +67,8 @@ std::string found(const Family& f, Variant v) {
     if (v == Variant::full)
         for (const auto& [width, own] : f.width_full)
             if (own.ulp > worst) text += ", width " + std::to_string(width) + ": " + ulps(own.ulp);
-    return text + (v == Variant::full && !f.exceeds_bound.empty() ? " (beyond " + widths_text(f.exceeds_bound) + ')' : "");
+    return text +
+           (v == Variant::full && !f.exceeds_bound.empty() ? " (beyond " + widths_text(f.exceeds_bound) + ')' : "");
 }
 
 std::string symbol(const Family& f, Variant v) { return '`' + f.base + 'W' + suffix(v) + '`'; }
@@ -82,20 +87,26 @@ std::string mapping_table() {
         if (by_name[name].empty()) order.push_back(name);
         by_name[name].push_back(&f);
     }
-    std::string text = "\n### Accuracy in full\n\n| OpenCL C | single: symbol | double: symbol | allowed | single: found | double: found | embedded |\n"
-                       "|---|---|---|---|---|---|---|\n";
+    std::string text =
+        "\n### Accuracy in full\n\n"
+        "| OpenCL C | single: symbol | double: symbol | allowed | single: found | double: found | embedded |\n"
+        "|---|---|---|---|---|---|---|\n";
     for (const auto& name : order) {
         const Family& single = *by_name[name][0];
         const Family& twice = *by_name[name][1];
         const std::string own = builtin(single, 1, Variant::full);
-        const std::string called = own.empty() ? name == "divide" ? "`x / y`" : name == "recip" ? "`1 / x`" : "none: `tarn_" + name + '`' : '`' + own + '`';
+        std::string called = '`' + own + '`';
+        if (own.empty()) called = name == "divide" ? "`x / y`" : name == "recip" ? "`1 / x`" : "none: `tarn_" + name + '`';
         const double embedded = allowance(name).embedded;
-        const std::string bound = single.allowed == left_open || (single.allowed == 0 && !rounds_once(single)) ? "open" : single.allowed == 0 ? "0.5" : ulps(single.allowed);
-        text += "| " + called + " | " + symbol(single, Variant::full) + " | " + symbol(twice, Variant::full) + " | " + bound + " | " +
-                found(single, Variant::full) + " | " + found(twice, Variant::full) + " | " + (embedded ? ulps(embedded) : "as full") + " |\n";
+        const std::string bound = rounds_once(single) ? "0.5" : single.allowed > 0 ? ulps(single.allowed) : "open";
+        text += "| " + called + " | " + symbol(single, Variant::full) + " | " + symbol(twice, Variant::full) + " | " +
+                bound + " | " + found(single, Variant::full) + " | " + found(twice, Variant::full) + " | " +
+                (embedded ? ulps(embedded) : "as full") + " |\n";
     }
-    text += "\n### `native_` and `half_`, and relaxed math\n\n| OpenCL C | native | found | half | found | relaxed math allows | native serves there |\n"
-            "|---|---|---|---|---|---|---|\n";
+    text +=
+        "\n### `native_` and `half_`, and relaxed math\n\n"
+        "| OpenCL C | native | found | half | found | relaxed math allows | native serves there |\n"
+        "|---|---|---|---|---|---|---|\n";
     for (const auto& name : order) {
         const Family& f = *by_name[name][0];
         if (!f.has(Variant::native)) continue;
@@ -104,11 +115,14 @@ std::string mapping_table() {
         std::string serves = native_keeps_relaxed(f, name) ? "yes" : "no";
         if (a.native_part != 0) serves += ", " + ulps(a.native_part) + " of it";
         if (!f.native_domain.empty() && serves.starts_with("yes")) serves += ", in its domain";
-        text += "| `" + name + "` | " + symbol(f, Variant::native) + (builtin(f, 1, Variant::native).empty() ? "" : " (`native_" + name + "`)") + " | " +
-                found(f, Variant::native) + " | " + (half ? symbol(f, Variant::half) + " (`half_" + name + "`)" : "") + " | " +
-                (half ? found(f, Variant::half) : "") + " | " + relaxed(name) + " | " + serves + " |\n";
+        text += "| `" + name + "` | " + symbol(f, Variant::native) +
+                (builtin(f, 1, Variant::native).empty() ? "" : " (`native_" + name + "`)") + " | " +
+                found(f, Variant::native) + " | " + (half ? symbol(f, Variant::half) + " (`half_" + name + "`)" : "") +
+                " | " + (half ? found(f, Variant::half) : "") + " | " + relaxed(name) + " | " + serves + " |\n";
     }
-    text += "\n### Conversions\n\nOf every rounding mode and, to integers, with `_sat` and without.\n\n| OpenCL C | from | symbol |\n|---|---|---|\n";
+    text +=
+        "\n### Conversions\n\nOf every rounding mode and, to integers, with `_sat` and without.\n\n"
+        "| OpenCL C | from | symbol |\n|---|---|---|\n";
     std::set<std::string> seen;
     for (const Family* f : conversions) {
         // One line for the modes.
@@ -116,7 +130,8 @@ std::string mapping_table() {
         name.replace(name.find("16"), 2, "W");
         name.replace(name.rfind("_rt"), 4, "_MODE");
         base.replace(base.find("rt"), 3, "MODE");
-        if (seen.insert(base).second) text += "| `" + name + "` | `" + stem(f->shape.args[0]) + "W` | `" + base + "W` |\n";
+        if (seen.insert(base).second)
+            text += "| `" + name + "` | `" + stem(f->shape.args[0]) + "W` | `" + base + "W` |\n";
     }
     return text + '\n';
 }

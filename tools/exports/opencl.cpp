@@ -13,8 +13,8 @@
 namespace tarn {
 namespace {
 
-constexpr std::array half_or_native_in_opencl = {"cos", "divide", "exp", "exp2", "exp10", "log", "log2", "log10",
-                                                 "powr", "recip", "rsqrt", "sin", "sqrt", "tan"};
+constexpr std::array half_or_native_in_opencl = {"cos",   "divide", "exp",   "exp2",  "exp10", "log",  "log2",
+                                                 "log10", "powr",   "recip", "rsqrt", "sin",   "sqrt", "tan"};
 
 bool is_conversion(const Family& f) { return f.group == "Conversions"; }
 
@@ -30,7 +30,8 @@ std::string tail(const Family& f) {
 // The name without what says the precision, as OpenCL C spells it.
 std::string spelled(const Family& f) {
     const std::string plain = precision(f) == Lane::f32 ? f.base.substr(0, f.base.size() - 1) : f.base;
-    static const std::map<std::string, std::string> others = {{"div", "divide"}, {"inv", "recip"}, {"lgammar", "lgamma_r"}};
+    static const std::map<std::string, std::string> others = {
+        {"div", "divide"}, {"inv", "recip"}, {"lgammar", "lgamma_r"}};
     const auto other = others.find(plain);
     return other == others.end() ? plain : other->second;
 }
@@ -48,7 +49,8 @@ bool in_opencl(const Family& f, Variant v) {
     if (is_conversion(f)) return true;
     const std::string name = spelled(f);
     if (v != Variant::full)  // of single precision alone
-        return precision(f) == Lane::f32 && std::find(half_or_native_in_opencl.begin(), half_or_native_in_opencl.end(), name) != half_or_native_in_opencl.end();
+        return precision(f) == Lane::f32 && std::find(half_or_native_in_opencl.begin(), half_or_native_in_opencl.end(),
+                                                      name) != half_or_native_in_opencl.end();
     static const std::set<std::string> ours = {"divide", "recip", "rcbrt", "nearbyint", "sincosreg"};
     return !ours.contains(name);
 }
@@ -78,8 +80,8 @@ void carriers(Lane t) {
             // The lanes of width 4, whose carrier is another type of the same content.
             std::printf("TARN_INLINE tarn_c_%s tarn_pack_%s(%s x) { tarn_c_%s c = {{x.s01, x.s22}}; return c; }\n",
                         suffix.c_str(), suffix.c_str(), v.c_str(), suffix.c_str());
-            std::printf("TARN_INLINE %s tarn_lanes_%s(tarn_c_%s c) { return (%s)(c.block[0], c.block[1].x); }\n", v.c_str(),
-                        suffix.c_str(), suffix.c_str(), v.c_str());
+            std::printf("TARN_INLINE %s tarn_lanes_%s(tarn_c_%s c) { return (%s)(c.block[0], c.block[1].x); }\n",
+                        v.c_str(), suffix.c_str(), suffix.c_str(), v.c_str());
             continue;
         }
         std::string pieces, whole;
@@ -89,26 +91,29 @@ void carriers(Lane t) {
             pieces += (b ? ", x." : "x.") + picked;
             whole += (b ? ", c.block[" : "c.block[") + std::to_string(b) + ']';
         }
-        std::printf("TARN_INLINE tarn_c_%s tarn_pack_%s(%s x) { tarn_c_%s c = {{%s}}; return c; }\n", suffix.c_str(),
+        std::printf("TARN_INLINE tarn_c_%s tarn_pack_%s(%s x) {\n    tarn_c_%s c = {{%s}}; return c; }\n", suffix.c_str(),
                     suffix.c_str(), v.c_str(), suffix.c_str(), pieces.c_str());
-        std::printf("TARN_INLINE %s tarn_lanes_%s(tarn_c_%s c) { return (%s)(%s); }\n", v.c_str(), suffix.c_str(),
+        std::printf("TARN_INLINE %s tarn_lanes_%s(tarn_c_%s c) {\n    return (%s)(%s); }\n", v.c_str(), suffix.c_str(),
                     suffix.c_str(), v.c_str(), whole.c_str());
     }
 }
 
-constexpr const char* preamble = R"(/* Vector math in OpenCL C: built-in functions of a kernel that includes this are those of the module __ocl_tarn_k1.
+constexpr const char* preamble =
+    R"(/* Vector math in OpenCL C: built-in functions of a kernel that includes this are the module's, __ocl_tarn_k1.
  *
  *     #include <ocl_tarn_k1.cl.h>
  *     kernel void k(global float4* x) { size_t i = get_global_id(0); x[i] = pow(sin(x[i]), 2.5f); }
  *
- * sin(x), pow(x, y), native_exp(x), half_log(x), convert_int4_sat_rtz(x), sincos(x, &c) and the others, of every width and
- * in both precisions, then mean tarn_sin(x) and so on: those names are always there, and every export has one.
- * OpenCL C has no name for tarn_divide, tarn_recip, tarn_rcbrt, tarn_nearbyint, tarn_sincosreg, and for most of
- * tarn_native_acos and its like. Conversions without a rounding mode (convert_int4, convert_int4_sat) stay the runtime's.
+ * sin(x), pow(x, y), native_exp(x), half_log(x), convert_int4_sat_rtz(x), sincos(x, &c) and the others, of every
+ * width and in both precisions, then mean tarn_sin(x) and so on: those names are always there, and every export
+ * has one. OpenCL C has no name for tarn_divide, tarn_recip, tarn_rcbrt, tarn_nearbyint, tarn_sincosreg, and for
+ * most of tarn_native_acos and its like. Conversions without a rounding mode (convert_int4, convert_int4_sat) stay
+ * the runtime's.
  *
  * Macros, as options of the build (-D NAME) or before the header:
- *   TARN_ONLY           only what TARN_USE_<name> asks for, as in -D TARN_ONLY -D TARN_USE_sin -D TARN_USE_native_exp; of a
- *                       conversion the name of width 1 (TARN_USE_convert_int_sat_rtz). Programs build faster with less.
+ *   TARN_ONLY           only what TARN_USE_<name> asks for, as in -D TARN_ONLY -D TARN_USE_sin -D TARN_USE_native_exp;
+ *                       of a conversion the name of width 1 (TARN_USE_convert_int_sat_rtz). Programs build faster
+ *                       with less, and functions of a few instructions are better left to the runtime.
  *   TARN_PREFIXED_ONLY  OpenCL's own names stay the runtime's: sin(x) beside tarn_sin(x).
  *
  * For runtimes on x86-64 that compile kernels with clang in the process that runs them. The module has to be in
@@ -131,6 +136,7 @@ constexpr const char* preamble = R"(/* Vector math in OpenCL C: built-in functio
 #define TARN_INLINE static inline __attribute__((always_inline))
 #define TARN_OVERLOAD static inline __attribute__((always_inline, overloadable))
 #define TARN_JUMP static inline __attribute__((naked))
+#define TARN_PURE static inline __attribute__((naked, const))
 
 /* Vectors as C passes them: a vector beyond 16 bytes would change its registers with the target. ------- */
 )";
@@ -138,21 +144,21 @@ constexpr const char* preamble = R"(/* Vector math in OpenCL C: built-in functio
 constexpr const char* shapes = R"(
 /* A function at one width: the jump, and the overload over it. E is the export's name without width and form, N the
  * width, V the width as types are spelled (nothing for 1). ------------------------------------------- */
-#define TARN_TO(E, N, F) { __asm__("jmp " #E #N #F "@PLT" ::: "memory"); }
+#define TARN_TO(E, N, F) { __asm__("jmp " #E #N #F "@PLT"); }
 #define TARN_1(NAME, E, F, N, V, R, A) \
-    TARN_JUMP tarn_c_##R##N tarn_to##E##N##F(tarn_c_##A##N x) TARN_TO(E, N, F) \
+    TARN_PURE tarn_c_##R##N tarn_to##E##N##F(tarn_c_##A##N x) TARN_TO(E, N, F) \
     TARN_OVERLOAD R##V NAME(A##V x) { return tarn_lanes_##R##N(tarn_to##E##N##F(tarn_pack_##A##N(x))); }
 #define TARN_2(NAME, E, F, N, V, R, A, B) \
-    TARN_JUMP tarn_c_##R##N tarn_to##E##N##F(tarn_c_##A##N x, tarn_c_##B##N y) TARN_TO(E, N, F) \
+    TARN_PURE tarn_c_##R##N tarn_to##E##N##F(tarn_c_##A##N x, tarn_c_##B##N y) TARN_TO(E, N, F) \
     TARN_OVERLOAD R##V NAME(A##V x, B##V y) { \
         return tarn_lanes_##R##N(tarn_to##E##N##F(tarn_pack_##A##N(x), tarn_pack_##B##N(y))); }
 #define TARN_3(NAME, E, F, N, V, R, A, B, C) \
-    TARN_JUMP tarn_c_##R##N tarn_to##E##N##F(tarn_c_##A##N x, tarn_c_##B##N y, tarn_c_##C##N z) TARN_TO(E, N, F) \
+    TARN_PURE tarn_c_##R##N tarn_to##E##N##F(tarn_c_##A##N x, tarn_c_##B##N y, tarn_c_##C##N z) TARN_TO(E, N, F) \
     TARN_OVERLOAD R##V NAME(A##V x, B##V y, C##V z) { \
         return tarn_lanes_##R##N(tarn_to##E##N##F(tarn_pack_##A##N(x), tarn_pack_##B##N(y), tarn_pack_##C##N(z))); }
 /* Both results returned. */
 #define TARN_PAIR(NAME, E, F, N, V, R, A) \
-    TARN_JUMP tarn_both_##R##N tarn_to##E##N##F(tarn_c_##A##N x) TARN_TO(E, N, F) \
+    TARN_PURE tarn_both_##R##N tarn_to##E##N##F(tarn_c_##A##N x) TARN_TO(E, N, F) \
     TARN_OVERLOAD tarn_sincos_##R##N NAME(A##V x) { \
         const tarn_both_##R##N both = tarn_to##E##N##F(tarn_pack_##A##N(x)); \
         const tarn_sincos_##R##N r = {tarn_lanes_##R##N(both.sine), tarn_lanes_##R##N(both.cosine)}; \
@@ -172,7 +178,8 @@ constexpr const char* shapes = R"(
         *second = tarn_lanes_##S##N(s); \
         return r; }
 #if defined(__opencl_c_generic_address_space) || __OPENCL_C_VERSION__ == 200
-#define TARN_EVERY_SPACE(M, ...) M(__global, __VA_ARGS__) M(__local, __VA_ARGS__) M(__private, __VA_ARGS__) M(__generic, __VA_ARGS__)
+#define TARN_EVERY_SPACE(M, ...) M(__global, __VA_ARGS__) M(__local, __VA_ARGS__) M(__private, __VA_ARGS__) \
+    M(__generic, __VA_ARGS__)
 #else
 #define TARN_EVERY_SPACE(M, ...) M(__global, __VA_ARGS__) M(__local, __VA_ARGS__) M(__private, __VA_ARGS__)
 #endif
@@ -180,7 +187,8 @@ constexpr const char* shapes = R"(
     TARN_JUMP tarn_c_##R##N tarn_to##E##N##F(tarn_c_##A##N x, __private tarn_c_##S##N* second) TARN_TO(E, N, F) \
     TARN_EVERY_SPACE(TARN_SECOND_1, NAME, E, F, N, V, R, A, S)
 #define TARN_2_SECOND(NAME, E, F, N, V, R, A, B, S) \
-    TARN_JUMP tarn_c_##R##N tarn_to##E##N##F(tarn_c_##A##N x, tarn_c_##B##N y, __private tarn_c_##S##N* second) TARN_TO(E, N, F) \
+    TARN_JUMP tarn_c_##R##N tarn_to##E##N##F(tarn_c_##A##N x, tarn_c_##B##N y, __private tarn_c_##S##N* second) \
+        TARN_TO(E, N, F) \
     TARN_EVERY_SPACE(TARN_SECOND_2, NAME, E, F, N, V, R, A, B, S)
 /* OpenCL C has these also with a scalar beside a vector. */
 #define TARN_SCALAR(NAME, V, T, B) TARN_OVERLOAD T##V NAME(T##V x, B y) { return NAME(x, (B##V)(y)); }
@@ -195,7 +203,8 @@ constexpr const char* shapes = R"(
     TARN_1(tarn_convert_##R##3##TAIL, E, , 3, 3, R, A) TARN_1(tarn_convert_##R##4##TAIL, E, , 4, 4, R, A) \
     TARN_1(tarn_convert_##R##8##TAIL, E, , 8, 8, R, A) TARN_1(tarn_convert_##R##16##TAIL, E, , 16, 16, R, A)
 /* Sources that the module has no conversion for keep the runtime's. */
-#define TARN_KEEP_1(R, TAIL, V, A) TARN_OVERLOAD R##V tarn_convert_##R##V##TAIL(A##V x) { return convert_##R##V##TAIL(x); }
+#define TARN_KEEP_1(R, TAIL, V, A) \
+    TARN_OVERLOAD R##V tarn_convert_##R##V##TAIL(A##V x) { return convert_##R##V##TAIL(x); }
 #define TARN_KEEP(R, TAIL, A) TARN_KEEP_1(R, TAIL, , A) TARN_KEEP_1(R, TAIL, 2, A) TARN_KEEP_1(R, TAIL, 3, A) \
     TARN_KEEP_1(R, TAIL, 4, A) TARN_KEEP_1(R, TAIL, 8, A) TARN_KEEP_1(R, TAIL, 16, A)
 )";
@@ -209,7 +218,8 @@ std::string definition(const Family& f, Variant v) {
     const Shape& s = f.shape;
     const std::string symbol = "__ocl_tarn_k1_" + f.base;
     if (is_conversion(f))
-        return "TARN_CONVERT(" + std::string(stem(s.result)) + ", " + tail(f) + ", " + symbol + ", " + stem(s.args[0]) + ")";
+        return "TARN_CONVERT(" + std::string(stem(s.result)) + ", " + tail(f) + ", " + symbol + ", " + stem(s.args[0]) +
+               ")";
     std::string text = "TARN_ALL(TARN_";
     text += s.pair ? "PAIR" : std::to_string(s.args.size()) + (s.second == Lane::none ? "" : "_SECOND");
     text += ", tarn_" + key(f, v) + ", " + symbol + ", " + suffix(v) + ", " + stem(s.result);
@@ -250,8 +260,10 @@ void opencl_header() {
     for (const Lane t : {Lane::f32, Lane::f64}) {
         if (t == Lane::f64) std::puts("#ifdef cl_khr_fp64");
         for (const int width : widths)
-            std::printf("typedef struct { %s sine, cosine; } tarn_sincos_%s%d; typedef struct { tarn_c_%s%d sine, cosine; } tarn_both_%s%d;\n",
-                        lanes(stem(t), width).c_str(), stem(t), width, stem(t), width, stem(t), width);
+            std::printf(
+                "typedef struct { %s sine, cosine; } tarn_sincos_%s%d;\n"
+                "typedef struct { tarn_c_%s%d sine, cosine; } tarn_both_%s%d;\n",
+                lanes(stem(t), width).c_str(), stem(t), width, stem(t), width, stem(t), width);
         if (t == Lane::f64) std::puts("#endif");
     }
     std::fputs(shapes, stdout);
@@ -291,8 +303,11 @@ void opencl_header() {
         if (is_conversion(first)) {
             // Every type of number that no member takes.
             const Lane to = first.shape.result;
-            for (const char* from : {"char", "uchar", "short", "ushort", "int", "uint", "long", "ulong", "float", "double"}) {
-                if (std::any_of(members.begin(), members.end(), [&](const auto& m) { return from == std::string(stem(m.first->shape.args[0])); })) continue;
+            for (const char* from :
+                 {"char", "uchar", "short", "ushort", "int", "uint", "long", "ulong", "float", "double"}) {
+                if (std::any_of(members.begin(), members.end(),
+                                [&](const auto& m) { return from == std::string(stem(m.first->shape.args[0])); }))
+                    continue;
                 within(to == Lane::f64 || std::string(from) == "double");
                 std::printf("TARN_KEEP(%s, %s, %s)\n", stem(to), tail(first).c_str(), from);
             }
@@ -301,8 +316,9 @@ void opencl_header() {
         std::puts("#endif");
     }
 
-    std::puts("\n/* OpenCL's own names, once everything that asks the runtime's is defined. ------------------------- */\n"
-              "#ifndef TARN_PREFIXED_ONLY");
+    std::puts(
+        "\n/* OpenCL's own names, once everything that asks the runtime's is defined. ------------------------- */\n"
+        "#ifndef TARN_PREFIXED_ONLY");
     for (const auto& name : order) {
         const auto& [f, v] = by_name[name][0];
         if (!in_opencl(*f, v)) continue;
@@ -314,7 +330,8 @@ void opencl_header() {
         }
         const bool doubles = is_conversion(*f) && f->shape.result == Lane::f64;
         if (doubles) std::puts("#ifdef cl_khr_fp64");
-        for (const auto& own : names) std::printf("#undef %s\n#define %s tarn_%s\n", own.c_str(), own.c_str(), own.c_str());
+        for (const auto& own : names)
+            std::printf("#undef %s\n#define %s tarn_%s\n", own.c_str(), own.c_str(), own.c_str());
         if (doubles) std::puts("#endif");
         std::puts("#endif");
     }
