@@ -26,6 +26,7 @@ struct Row {
     const Family* family;
     Variant variant;
     std::string name() const {
+        if (family->group == "Conversions") return builtin(*family, 1, variant) + ", from " + stem(family->shape.args[0]);
         return builtin(*family, 1, variant) + (precision(*family) == Lane::f64 ? ", double" : "");
     }
     // What a kernel of it is called: a form of a family is one row.
@@ -183,14 +184,14 @@ int main(int argc, char** argv) {
                 "| built-in | module, width 4 | runtime | module, width 8 | runtime | module, width 16 | runtime | ahead |\n"
                 "|---|---|---|---|---|---|---|---|");
         } else {
-            std::printf("%-28s%10s%10s%10s%10s%10s%10s%8s\n", "ns an element", "4: module", "runtime", "8: module",
+            std::printf("%-36s%10s%10s%10s%10s%10s%10s%8s\n", "ns an element", "4: module", "runtime", "8: module",
                         "runtime", "16: module", "runtime", "ahead");
         }
         double logs = 0;
         for (const Row& row : rows) {
             // The best width of each.
             double best[2] = {INFINITY, INFINITY};
-            std::printf(markdown ? "| `%s` |" : "%-28s", row.name().c_str());
+            std::printf(markdown ? "| `%s` |" : "%-36s", row.name().c_str());
             for (const int width : timed_widths)
                 for (std::size_t side = 0; side < 2; side++) {
                     const double ns = least.at({row.name(), width})[side];
