@@ -188,6 +188,18 @@ struct Call<K, width, R, Types<S...>, Types<A...>> {
         return result;
     }
 
+    // Two results returned, which lie in registers: memory is for special lanes alone.
+    static TARN_INLINE void run_both(Result& first, Result& second, const Vec<A, width>&... x)
+        requires(!in_memory<R, width>)
+    {
+        const unsigned special = evaluate(first, x..., reinterpret_cast<S*>(&second)...) | always_special();
+        if (__builtin_expect(special != 0, 0)) {
+            Result settled = second;
+            first = settle(first, x..., special, reinterpret_cast<S*>(&settled)...);
+            second = settled;
+        }
+    }
+
     // Computes all lanes; the special ones are the result.
     static TARN_INLINE unsigned evaluate(Result& result, const Vec<A, width>&... x, S*... second) {
         if constexpr (!requires { K::lane_by_lane; } && lanes > 1 && stored_lanes(width) > at_a_time) {
@@ -285,7 +297,7 @@ private:
         Group<Lane, lanes, bytes> seconds[count];
         for (int g = 0; g < count; g++) seconds[g] = all_lanes(groups[g].second);
         const auto v = vector_of<lanes, bytes, Lane, width>(seconds);
-        if constexpr (in_memory<Lane, width>) {
+        if constexpr (in_blocks<Lane, width>) {
             for (const auto& block : v.block) {
                 __builtin_memcpy(to, &block, sizeof block);
                 to += sizeof block / sizeof(Lane);
@@ -309,10 +321,11 @@ TARN_INLINE V finish_lanes(Scalar scalar, V x, V value, unsigned flags) {
     return value;
 }
 
-// Two results as one value, filled where the caller holds it.
-template <class K, int width, class Pair, class... V> TARN_INLINE void run_pair(Pair& pair, const V&... x) {
+// Two results, filled where the caller holds them.
+template <class K, int width, class R, class... V> TARN_INLINE void run_both(R& first, R& second, const V&... x) {
     using Lane = typename Parts<typename K::Signature>::Result;
-    pair.sine = Call<K, width>::run(x..., reinterpret_cast<Lane*>(&pair.cosine));
+    if constexpr (in_memory<Lane, width>) first = Call<K, width>::run(x..., reinterpret_cast<Lane*>(&second));
+    else Call<K, width>::run_both(first, second, x...);
 }
 
 }  // namespace tarn

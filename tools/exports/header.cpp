@@ -22,23 +22,6 @@ std::string declaration(const Family& f, int width, Variant v) {
     return text + (is_pure(f) ? " TARN_CONST;" : ";");
 }
 
-// Breaks a comment into lines of at most `limit` characters.
-void comment(const std::string& text, std::size_t limit) {
-    std::string line = "/*";
-    std::size_t at = 0;
-    while (at < text.size()) {
-        std::size_t end = text.find(' ', at);
-        if (end == std::string::npos) end = text.size();
-        if (line.size() + 1 + (end - at) > limit) {
-            std::puts(line.c_str());
-            line = "  ";
-        }
-        line += ' ' + text.substr(at, end - at);
-        at = end + 1;
-    }
-    std::puts((line + " */").c_str());
-}
-
 }  // namespace
 
 void header() {
@@ -114,9 +97,7 @@ extern "C" {
     for (const Family& f : families()) {
         if (f.group != group) {
             group = f.group;
-            std::string rule = "/* " + group + ' ';
-            rule.resize(100, '-');
-            std::printf("\n%s */\n", rule.c_str());
+            rule(group);
         }
         std::puts("");
         std::string text = f.base + ": " + f.formula + ".";

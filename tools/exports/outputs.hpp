@@ -4,6 +4,7 @@
 namespace tarn {
 
 void header();
+void windows_header();
 void calls();
 void accuracy();
 int comments(const char* file);

@@ -136,4 +136,26 @@ std::string error_line(const Family& f) {
     return text + '.';
 }
 
+void comment(const std::string& text, std::size_t limit) {
+    std::string line = "/*";
+    std::size_t at = 0;
+    while (at < text.size()) {
+        std::size_t end = text.find(' ', at);
+        if (end == std::string::npos) end = text.size();
+        if (line.size() + 1 + (end - at) > limit) {
+            std::puts(line.c_str());
+            line = "  ";
+        }
+        line += ' ' + text.substr(at, end - at);
+        at = end + 1;
+    }
+    std::puts((line + " */").c_str());
+}
+
+void rule(const std::string& heading) {
+    std::string line = "/* " + heading + ' ';
+    line.resize(100, '-');
+    std::printf("\n%s */\n", line.c_str());
+}
+
 }  // namespace tarn

@@ -31,4 +31,8 @@ std::string number(Lane type, std::uint64_t pattern);
 std::vector<std::string> exceptions(const Family& f);
 std::string error_line(const Family& f);
 
+// Printed: a comment of C in lines of at most `limit` characters, and one that heads a group.
+void comment(const std::string& text, std::size_t limit);
+void rule(const std::string& heading);
+
 }  // namespace tarn
