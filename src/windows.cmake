@@ -5,4 +5,4 @@ set_target_properties(ocl_tarn_k1 PROPERTIES
   PREFIX "" OUTPUT_NAME "__ocl_tarn_k1" RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR} ARCHIVE_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR})
 target_link_libraries(ocl_tarn_k1 PRIVATE tarn_kernel_flags)
 # Nothing is imported, and a call that the compiler makes up fails the link.
-target_link_options(ocl_tarn_k1 PRIVATE -nostdlib -Wl,--entry=tarn_entry -Wl,--exclude-all-symbols)
+target_link_options(ocl_tarn_k1 PRIVATE -nostdlib -Wl,--entry=tarn_entry -Wl,--exclude-all-symbols -s)

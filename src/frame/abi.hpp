@@ -66,6 +66,13 @@ template <class Lane, int width>
 constexpr bool in_memory = in_blocks<Lane, width>;
 #endif
 
+// How routines of the module take vectors from each other, where the platform's own way is through memory.
+#ifdef _WIN32
+#define TARN_IN_REGISTERS __vectorcall
+#else
+#define TARN_IN_REGISTERS
+#endif
+
 // The real lanes of a width, as a mask.
 constexpr unsigned lane_mask(int width) { return (1u << width) - 1; }
 

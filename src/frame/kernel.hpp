@@ -123,8 +123,8 @@ template <int width, class R, class... S, class... A>
 struct SpecialLanes<width, R, Types<S...>, Types<A...>> {
     using Callout = int(const A*..., R*, S*...);
 
-    [[gnu::noinline, gnu::cold]] static Updated<R, width> run(Updated<R, width> fast, Passed<A, width>... x,
-                                                              unsigned special, Callout* callout, S*... second) {
+    [[gnu::noinline, gnu::cold]] static Updated<R, width> TARN_IN_REGISTERS
+    run(Updated<R, width> fast, Passed<A, width>... x, unsigned special, Callout* callout, S*... second) {
         LaneArray<R, width> result(fast);
         visit(special, callout, result, LaneArray<A, width>(x)..., second...);
         return result.reload();
@@ -153,7 +153,8 @@ template <class K, int width, class R = typename Parts<typename K::Signature>::R
 struct Switched;
 template <class K, int width, class R, class... S, class... A>
 struct Switched<K, width, R, Types<S...>, Types<A...>> {
-    [[gnu::noinline, gnu::cold]] static Updated<R, width> run(Updated<R, width> fast, Passed<A, width>... x, S*... second) {
+    [[gnu::noinline, gnu::cold]] static Updated<R, width> TARN_IN_REGISTERS
+    run(Updated<R, width> fast, Passed<A, width>... x, S*... second) {
         return fast = Call<K, width>::run(x..., second...);
     }
 };
@@ -263,8 +264,8 @@ private:
         else return fast;
     }
 
-    [[gnu::noinline, gnu::cold]] static Updated<R, width> finished(Updated<R, width> fast, Passed<A, width>... x,
-                                                                   unsigned special) {
+    [[gnu::noinline, gnu::cold]] static Updated<R, width> TARN_IN_REGISTERS
+    finished(Updated<R, width> fast, Passed<A, width>... x, unsigned special) {
         constexpr int few = K::lanes, groups = stored_lanes(width) > few ? stored_lanes(width) / few : 1;
         Group<R, few, 16> values[groups];
         for (int i = 0; i < groups; i++) {
