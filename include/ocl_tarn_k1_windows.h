@@ -427,15 +427,11 @@ tarn_float8 TARN_CALL __ocl_tarn_k1_pownf8_native(tarn_float8 x, tarn_int8 n) TA
 /* pown: x^n, n an integer */
 double TARN_CALL __ocl_tarn_k1_pown1(double x, tarn_int1 n) TARN_SYMBOL(__ocl_tarn_k1_pown1) TARN_CONST;
 tarn_double2 TARN_CALL __ocl_tarn_k1_pown2(tarn_double2 x, tarn_int2 n) TARN_SYMBOL(__ocl_tarn_k1_pown2) TARN_CONST;
-tarn_double3 TARN_CALL __ocl_tarn_k1_pown3(tarn_double3 x, tarn_int3 n) TARN_SYMBOL(__ocl_tarn_k1_pown3) TARN_CONST;
-tarn_double4 TARN_CALL __ocl_tarn_k1_pown4(tarn_double4 x, tarn_int4 n) TARN_SYMBOL(__ocl_tarn_k1_pown4) TARN_CONST;
 tarn_double16 TARN_CALL __ocl_tarn_k1_pown16(tarn_double16 x, tarn_int16 n) TARN_SYMBOL(__ocl_tarn_k1_pown16) TARN_CONST;
 double TARN_CALL __ocl_tarn_k1_pown1_native(double x, tarn_int1 n) TARN_SYMBOL(__ocl_tarn_k1_pown1_native) TARN_CONST;
 tarn_double2 TARN_CALL __ocl_tarn_k1_pown2_native(tarn_double2 x, tarn_int2 n) TARN_SYMBOL(__ocl_tarn_k1_pown2_native) TARN_CONST;
-tarn_double3 TARN_CALL __ocl_tarn_k1_pown3_native(tarn_double3 x, tarn_int3 n) TARN_SYMBOL(__ocl_tarn_k1_pown3_native) TARN_CONST;
-tarn_double4 TARN_CALL __ocl_tarn_k1_pown4_native(tarn_double4 x, tarn_int4 n) TARN_SYMBOL(__ocl_tarn_k1_pown4_native) TARN_CONST;
 tarn_double16 TARN_CALL __ocl_tarn_k1_pown16_native(tarn_double16 x, tarn_int16 n) TARN_SYMBOL(__ocl_tarn_k1_pown16_native) TARN_CONST;
-/* By name: pown8, pown8_native. */
+/* By name: pown3, pown4, pown8, pown3_native, pown4_native, pown8_native. */
 
 /* rootnf: x^(1/n), n an integer */
 float TARN_CALL __ocl_tarn_k1_rootnf1(float x, tarn_int1 n) TARN_SYMBOL(__ocl_tarn_k1_rootnf1) TARN_CONST;
@@ -453,15 +449,11 @@ tarn_float8 TARN_CALL __ocl_tarn_k1_rootnf8_native(tarn_float8 x, tarn_int8 n) T
 /* rootn: x^(1/n), n an integer */
 double TARN_CALL __ocl_tarn_k1_rootn1(double x, tarn_int1 n) TARN_SYMBOL(__ocl_tarn_k1_rootn1) TARN_CONST;
 tarn_double2 TARN_CALL __ocl_tarn_k1_rootn2(tarn_double2 x, tarn_int2 n) TARN_SYMBOL(__ocl_tarn_k1_rootn2) TARN_CONST;
-tarn_double3 TARN_CALL __ocl_tarn_k1_rootn3(tarn_double3 x, tarn_int3 n) TARN_SYMBOL(__ocl_tarn_k1_rootn3) TARN_CONST;
-tarn_double4 TARN_CALL __ocl_tarn_k1_rootn4(tarn_double4 x, tarn_int4 n) TARN_SYMBOL(__ocl_tarn_k1_rootn4) TARN_CONST;
 tarn_double16 TARN_CALL __ocl_tarn_k1_rootn16(tarn_double16 x, tarn_int16 n) TARN_SYMBOL(__ocl_tarn_k1_rootn16) TARN_CONST;
 double TARN_CALL __ocl_tarn_k1_rootn1_native(double x, tarn_int1 n) TARN_SYMBOL(__ocl_tarn_k1_rootn1_native) TARN_CONST;
 tarn_double2 TARN_CALL __ocl_tarn_k1_rootn2_native(tarn_double2 x, tarn_int2 n) TARN_SYMBOL(__ocl_tarn_k1_rootn2_native) TARN_CONST;
-tarn_double3 TARN_CALL __ocl_tarn_k1_rootn3_native(tarn_double3 x, tarn_int3 n) TARN_SYMBOL(__ocl_tarn_k1_rootn3_native) TARN_CONST;
-tarn_double4 TARN_CALL __ocl_tarn_k1_rootn4_native(tarn_double4 x, tarn_int4 n) TARN_SYMBOL(__ocl_tarn_k1_rootn4_native) TARN_CONST;
 tarn_double16 TARN_CALL __ocl_tarn_k1_rootn16_native(tarn_double16 x, tarn_int16 n) TARN_SYMBOL(__ocl_tarn_k1_rootn16_native) TARN_CONST;
-/* By name: rootn8, rootn8_native. */
+/* By name: rootn3, rootn4, rootn8, rootn3_native, rootn4_native, rootn8_native. */
 
 /* Division and roots ------------------------------------------------------------------------------ */
 
@@ -1685,10 +1677,8 @@ tarn_float8 TARN_CALL __ocl_tarn_k1_ldexpf8(tarn_float8 x, tarn_int8 n) TARN_SYM
 /* ldexp: x 2^n */
 double TARN_CALL __ocl_tarn_k1_ldexp1(double x, tarn_int1 n) TARN_SYMBOL(__ocl_tarn_k1_ldexp1) TARN_CONST;
 tarn_double2 TARN_CALL __ocl_tarn_k1_ldexp2(tarn_double2 x, tarn_int2 n) TARN_SYMBOL(__ocl_tarn_k1_ldexp2) TARN_CONST;
-tarn_double3 TARN_CALL __ocl_tarn_k1_ldexp3(tarn_double3 x, tarn_int3 n) TARN_SYMBOL(__ocl_tarn_k1_ldexp3) TARN_CONST;
-tarn_double4 TARN_CALL __ocl_tarn_k1_ldexp4(tarn_double4 x, tarn_int4 n) TARN_SYMBOL(__ocl_tarn_k1_ldexp4) TARN_CONST;
 tarn_double16 TARN_CALL __ocl_tarn_k1_ldexp16(tarn_double16 x, tarn_int16 n) TARN_SYMBOL(__ocl_tarn_k1_ldexp16) TARN_CONST;
-/* By name: ldexp8. */
+/* By name: ldexp3, ldexp4, ldexp8. */
 
 /* nextafterf: the neighbour of x toward y */
 float TARN_CALL __ocl_tarn_k1_nextafterf1(float x, float y) TARN_SYMBOL(__ocl_tarn_k1_nextafterf1) TARN_CONST;

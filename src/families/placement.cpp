@@ -71,8 +71,11 @@ Placement placement(const Shape& shape, int width, Convention convention) {
 
 bool is_vectorcall(const Shape& shape, int width) {
     const Placement p = placement(shape, width, Convention::windows);
-    for (const Place& arg : p.args)
-        if (arg.where == stack) return false;
+    for (std::size_t i = 0; i < p.args.size(); i++) {
+        const Place& arg = p.args[i];
+        // A single vector has the register of its place among the arguments.
+        if (arg.where == stack || (arg.where == vectors && arg.count == 1 && arg.first != static_cast<int>(i))) return false;
+    }
     return p.second.where != stack;
 }
 

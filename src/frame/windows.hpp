@@ -38,9 +38,18 @@ template <class K, int width> struct Arguments {
     static constexpr bool first_in_memory = size<typename Listed::first> > argument_registers;
 };
 
+// A vector that has to take the next register, not the one of its place among the arguments: `vectorcall` places
+// structs after all else.
+template <class Lane> struct InNext {
+    Vector<Lane, 16> block;
+};
+
 template <class K, int width> using Arg1 = Carried<typename ListedArgs<K>::first, width>;
+template <class Lane, class First, int width>
+using CarriedAfter = std::conditional_t<in_blocks<First, width> && !in_blocks<Lane, width>, InNext<Lane>, Carried<Lane, width>>;
 template <class K, int width>
-using Arg2 = std::conditional_t<Arguments<K, width>::second_fits(), Carried<typename ListedArgs<K>::second, width>, Slot<1>>;
+using Arg2 = std::conditional_t<Arguments<K, width>::second_fits(),
+                                CarriedAfter<typename ListedArgs<K>::second, typename ListedArgs<K>::first, width>, Slot<1>>;
 // A vector's pointer takes every other slot.
 template <class K, int width>
 using Arg3 = std::conditional_t<Arguments<K, width>::third_fits(), Carried<typename ListedArgs<K>::third, width>,
@@ -67,6 +76,7 @@ TARN_INLINE Vec<Lane, width> taken(Carried<Lane, width> x, void* const*) {
     if constexpr (width == 1) return x[0];
     else return __builtin_shufflevector(x, x, 0, 1);
 }
+template <class Lane, int width> TARN_INLINE const Vec<Lane, width>& taken(const InNext<Lane>& x, void* const*) { return x.block; }
 template <class Lane, int number> TARN_INLINE Lane* second_at(Slot<number>, void* const* return_address) {
     return static_cast<Lane*>(return_address[number]);
 }
