@@ -61,14 +61,26 @@ static void check_registers(const uint64_t* gpr, const xmm* vectors, uint64_t st
 
 /* The way back ---------------------------------------------------------------------------------- */
 
-/* From a place in the module to the caller by the module's unwind data. A jump ends a function as a return does; Wine
- * does not know it for one, so that it is made first. */
-static void unwind(const CONTEXT* from, CONTEXT* at) {
-    *at = *from;
+/* A function may end by a jump to another as by a return, which Wine does not know; so the rest of such an end, pops
+ * and the jump, is done here. */
+static void end_by_jump(CONTEXT* at) {
+    CONTEXT after = *at;
     const unsigned char* instruction = (const unsigned char*)at->Rip;
+    for (int high; high = *instruction == 0x41, (instruction[high] & 0xF8) == 0x58; instruction += 1 + high) {
+        (&after.Rax)[(instruction[high] & 7) + 8 * high] = *(DWORD64*)after.Rsp;
+        after.Rsp += 8;
+    }
+    if (*instruction != 0xE9) return;
     int32_t distance;
     memcpy(&distance, instruction + 1, sizeof distance);
-    if (*instruction == 0xE9) at->Rip += 5 + (int64_t)distance;
+    after.Rip = (DWORD64)(instruction + 5) + (DWORD64)(int64_t)distance;
+    *at = after;
+}
+
+/* From a place in the module to the caller by the module's unwind data. */
+static void unwind(const CONTEXT* from, CONTEXT* at) {
+    *at = *from;
+    end_by_jump(at);
     for (int frames = 0; (char*)at->Rip >= module_begin && (char*)at->Rip < module_end; frames++) {
         DWORD64 base;
         PRUNTIME_FUNCTION function = RtlLookupFunctionEntry(at->Rip, &base, NULL);
@@ -104,6 +116,10 @@ static LONG CALLBACK handler(EXCEPTION_POINTERS* e) {
         if ((char*)caller.Rip != after_call) return EXCEPTION_CONTINUE_SEARCH;
         *here = caller;
         return EXCEPTION_CONTINUE_EXECUTION;
+    }
+    if (inside) {
+        printf("%s: exception %lx at offset %lx\n", current, e->ExceptionRecord->ExceptionCode, (unsigned long)((char*)here->Rip - module_begin));
+        ExitProcess(1);
     }
     return EXCEPTION_CONTINUE_SEARCH;
 }
@@ -157,7 +173,6 @@ static void check_lanes(const cases_vector* v, const unsigned char* got, const u
         memcpy(&a, got + i, v->real), memcpy(&b, wanted + i, v->real);
         const uint64_t infinity = v->real == 8 ? 0x7FF0000000000000 : 0x7F800000, all = v->real == 8 ? ~0ull >> 1 : 0x7FFFFFFF;
         if (a != b && (a & all) > infinity && (b & all) > infinity) {
-            if (getenv("X")) printf("%s %llx %llx\n", current, (unsigned long long)a, (unsigned long long)b);
             other_nans++;
         } else if (a != b) {
             fail(what, number);
