@@ -1,7 +1,7 @@
 // Writes what follows from the table of families: the public headers, the version script and its like on
 // Windows, the pages of measured errors and of exceptions, the calls of the C callers' test; and a source file with its
 // worst errors renewed.
-//   tarn-exports header|windows-header|map|def|names|accuracy|calls > FILE
+//   tarn-exports header|windows-header|windows-exports|windows-imports|map|names|accuracy|calls > FILE
 //   tarn-exports contract docs/contract.md > FILE
 #include <cstdio>
 #include <cstring>
@@ -25,6 +25,7 @@ void names(const char* indent, const char* end) {
 int main(int argc, char** argv) {
     if (argc == 2 && !std::strcmp(argv[1], "header")) header();
     else if (argc == 2 && !std::strcmp(argv[1], "windows-header")) windows_header();
+    else if (argc == 2 && !std::strcmp(argv[1], "windows-imports")) windows_imports();
     else if (argc == 2 && !std::strcmp(argv[1], "names")) names("", "");
     else if (argc == 2 && !std::strcmp(argv[1], "accuracy")) accuracy();
     else if (argc == 2 && !std::strcmp(argv[1], "calls")) calls();
@@ -34,11 +35,11 @@ int main(int argc, char** argv) {
         std::puts("/* Generated from the table of families by tarn-exports. */\n{\nglobal:");
         names("    ", ";");
         std::puts("local:\n    *;\n};");
-    } else if (argc == 2 && !std::strcmp(argv[1], "def")) {
+    } else if (argc == 2 && !std::strcmp(argv[1], "windows-exports")) {
         std::puts("; Generated from the table of families by tarn-exports.\nLIBRARY __ocl_tarn_k1.dll\nEXPORTS");
         names("    ", "");
     } else {
-        std::fputs("usage: tarn-exports header|windows-header|map|def|names|accuracy|calls, or comments|contract FILE\n", stderr);
+        std::fputs("usage: tarn-exports header|windows-header|windows-exports|windows-imports|map|names|accuracy|calls, or comments|contract FILE\n", stderr);
         return 2;
     }
 }

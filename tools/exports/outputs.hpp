@@ -5,6 +5,7 @@ namespace tarn {
 
 void header();
 void windows_header();
+void windows_imports();
 void calls();
 void accuracy();
 int comments(const char* file);

@@ -52,6 +52,22 @@ void types() {
 
 }  // namespace
 
+// The names that the linker looks for: where a compiler takes no label, __vectorcall adds the bytes of the arguments.
+void windows_imports() {
+    std::puts("; Generated from the table of families by tarn-exports.\nLIBRARY __ocl_tarn_k1.dll\nEXPORTS");
+    for (const Family& f : families())
+        for (const Variant v : all_variants)
+            if (f.has(v))
+                for (const int width : widths) {
+                    const std::string name = export_name(f.base, width, v);
+                    std::printf("    %s\n", name.c_str());
+                    if (!is_vectorcall(f.shape, width)) continue;
+                    int size = 0;
+                    for (const Lane t : f.shape.args) size += width == 1 && is_float(t) ? 8 : 16 * blocks(t, width);
+                    std::printf("    \"%s@@%d\" == %s\n", name.c_str(), size, name.c_str());
+                }
+}
+
 void windows_header() {
     std::puts(R"(/* The functions of ocl_tarn_k1.h for callers on Windows x64: __ocl_tarn_k1.dll.
  *
