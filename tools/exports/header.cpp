@@ -55,6 +55,9 @@ void header() {
 
 #include <stdint.h>
 
+#ifdef _WIN32
+#error "Windows x64 has a header of its own: ocl_tarn_k1_windows.h"
+#endif
 #if !defined(__x86_64__) || !(defined(__GNUC__) || defined(__clang__))
 #error "this library is for x86-64, and its vector types are those of GCC and Clang"
 #endif
@@ -95,10 +98,7 @@ extern "C" {
 
     std::string group;
     for (const Family& f : families()) {
-        if (f.group != group) {
-            group = f.group;
-            rule(group);
-        }
+        print_group(f, group);
         std::puts("");
         std::string text = f.base + ": " + f.formula + ".";
         if (!f.domain.empty()) text += " Domain: " + f.domain + ".";
@@ -106,7 +106,7 @@ extern "C" {
         const std::string error = error_line(f);
         if (!error.empty()) text += ' ' + error;
         for (const auto& sentence : exceptions(f)) text += ' ' + sentence;
-        comment(text, 108);
+        print_comment(text);
         for (const Variant v : all_variants)
             if (f.has(v))
                 for (const int width : widths) std::puts(declaration(f, width, v).c_str());

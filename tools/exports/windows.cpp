@@ -116,10 +116,7 @@ extern "C" {
     types();
     std::string group;
     for (const Family& f : families()) {
-        if (f.group != group) {
-            group = f.group;
-            rule(group);
-        }
+        print_group(f, group);
         std::printf("\n/* %s: %s */\n", f.base.c_str(), f.formula.c_str());
         std::string by_name;
         for (const Variant v : all_variants)
@@ -128,7 +125,7 @@ extern "C" {
                     if (is_vectorcall(f.shape, width)) std::puts(declaration(f, width, v).c_str());
                     else by_name += (by_name.empty() ? "" : ", ") + (f.base + std::to_string(width) + suffix(v));
                 }
-        if (!by_name.empty()) comment("By name: " + by_name + ".", 108);
+        if (!by_name.empty()) print_comment("By name: " + by_name + ".");
     }
     std::puts(R"(
 #ifdef __cplusplus
