@@ -44,6 +44,7 @@ bool is_vectorcall(const Shape& shape, int width);
 
 // For people: "xmm0", "xmm0-xmm3", "rdx, by reference", "slot 1, by reference"; and of an integer register that holds
 // a number its name at that size, such as "edi". A result: "eax", "xmm0", "rcx, by reference; returned in rax".
+std::string place_text(const Place& place, Convention convention);  // of a pointer: the register or slot
 std::string argument_text(const Place& place, Lane type, Convention convention);
 std::string result_text(const Place& place, Lane type, Convention convention);
 // The register's name; `bytes` is 4 or 8.

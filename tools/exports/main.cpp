@@ -1,8 +1,8 @@
-// Writes what follows from the table of families: the public headers, the version script and its like on
-// Windows, the pages of measured errors and of exceptions, the calls of the C callers' test; and a source file with its
-// worst errors renewed.
+// Writes what follows from the table of families: the public headers, the version script and its like on Windows, the
+// pages of measured errors, of exceptions and of the calling conventions, the calls of the C callers' test; and a
+// source file with its worst errors renewed.
 //   tarn-exports header|windows-header|windows-exports|windows-imports|map|names|accuracy|calls > FILE
-//   tarn-exports contract docs/contract.md > FILE
+//   tarn-exports contract docs/contract.md > FILE, and so for abi
 #include <cstdio>
 #include <cstring>
 
@@ -31,6 +31,7 @@ int main(int argc, char** argv) {
     else if (argc == 2 && !std::strcmp(argv[1], "calls")) calls();
     else if (argc == 3 && !std::strcmp(argv[1], "comments")) return comments(argv[2]);
     else if (argc == 3 && !std::strcmp(argv[1], "contract")) return contract(argv[2]);
+    else if (argc == 3 && !std::strcmp(argv[1], "abi")) return conventions(argv[2]);
     else if (argc == 2 && !std::strcmp(argv[1], "map")) {
         std::puts("/* Generated from the table of families by tarn-exports. */\n{\nglobal:");
         names("    ", ";");
@@ -39,7 +40,8 @@ int main(int argc, char** argv) {
         std::puts("; Generated from the table of families by tarn-exports.\nLIBRARY __ocl_tarn_k1.dll\nEXPORTS");
         names("    ", "");
     } else {
-        std::fputs("usage: tarn-exports header|windows-header|windows-exports|windows-imports|map|names|accuracy|calls, or comments|contract FILE\n", stderr);
+        std::fputs("usage: tarn-exports header|windows-header|windows-exports|windows-imports|map|names|accuracy|calls,\n"
+                   "       or comments|contract|abi FILE\n", stderr);
         return 2;
     }
 }

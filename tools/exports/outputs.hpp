@@ -10,5 +10,6 @@ void calls();
 void accuracy();
 int comments(const char* file);
 int contract(const char* file);
+int conventions(const char* file);
 
 }  // namespace tarn
