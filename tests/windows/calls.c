@@ -258,7 +258,22 @@ static void try_export(FILE* file) {
     free(all);
 }
 
-/* The file -------------------------------------------------------------------------------------------- */
+/* The module and the file ------------------------------------------------------------------------------- */
+
+/* Loaded where it does not ask to lie: that place is taken first. */
+static HMODULE load_elsewhere(const char* path) {
+    IMAGE_DOS_HEADER dos;
+    IMAGE_NT_HEADERS64 headers;
+    FILE* file = fopen(path, "rb");
+    if (!file || fread(&dos, sizeof dos, 1, file) != 1 || fseek(file, dos.e_lfanew, SEEK_SET) || fread(&headers, sizeof headers, 1, file) != 1)
+        refuse("cannot read", path);
+    fclose(file);
+    VirtualAlloc((void*)headers.OptionalHeader.ImageBase, 1 << 16, MEM_RESERVE, PAGE_NOACCESS);
+    const HMODULE loaded = LoadLibraryA(path);
+    if (!loaded) refuse("cannot load", path);
+    if ((uint64_t)loaded == headers.OptionalHeader.ImageBase) refuse("the place is not taken of", path);
+    return loaded;
+}
 
 static void check_image(uint32_t exports) {
     current = "the module";
@@ -278,8 +293,7 @@ static void check_image(uint32_t exports) {
 int main(int argc, char** argv) {
     setvbuf(stdout, NULL, _IONBF, 0);
     if (argc != 3) refuse("usage: calls.exe MODULE", "CASES");
-    module_begin = (char*)LoadLibraryA(argv[1]);
-    if (!module_begin) refuse("cannot load", argv[1]);
+    module_begin = (char*)load_elsewhere(argv[1]);
     FILE* file = fopen(argv[2], "rb");
     cases_header header;
     if (!file || fread(&header, sizeof header, 1, file) != 1 || header.magic != cases_magic) refuse("cannot read", argv[2]);
@@ -289,6 +303,9 @@ int main(int argc, char** argv) {
     unreadable = VirtualAlloc(NULL, 1 << 16, MEM_RESERVE, PAGE_NOACCESS);
     AddVectoredExceptionHandler(1, handler);
     for (uint32_t i = 0; i < header.exports; i++) try_export(file);
+    current = "the module";
+    if (fgetc(file) != EOF) fail("the file goes on after export", header.exports);
+    if (!FreeLibrary((HMODULE)module_begin)) fail("does not go,", 0);
     if (calls_made == 0 || steps == 0 || faults == 0) fail("nothing was called,", calls_made);
     printf("%u exports, %ld calls, the way back from %ld instructions and %ld wrong pointers: %ld failures", header.exports, calls_made, steps,
            faults, failures);
