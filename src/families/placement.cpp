@@ -71,8 +71,11 @@ Placement placement(const Shape& shape, int width, Convention convention) {
 
 bool is_vectorcall(const Shape& shape, int width) {
     const Placement p = placement(shape, width, Convention::windows);
-    for (const Place& arg : p.args)
-        if (arg.where == stack) return false;
+    for (std::size_t i = 0; i < p.args.size(); i++) {
+        const Place& arg = p.args[i];
+        // A single vector has the register of its place among the arguments.
+        if (arg.where == stack || (arg.where == vectors && arg.count == 1 && arg.first != static_cast<int>(i))) return false;
+    }
     return p.second.where != stack;
 }
 
@@ -82,17 +85,21 @@ std::string integer_register(int i, int bytes, Convention convention) {
     return names[convention == Convention::windows][bytes == 8][i];
 }
 
-std::string argument_text(const Place& place, Lane type, Convention convention) {
-    std::string text;
+std::string place_text(const Place& place, Convention convention) {
     switch (place.where) {
-        case nowhere: return "";
+        case nowhere: break;
         case vectors: return vector_text(place);
-        case integer: text = integer_register(place.first, place.by_reference ? 8 : bytes(type), convention); break;
+        case integer: return integer_register(place.first, 8, convention);
         case stack:
-            text = "slot " + std::to_string(place.first);
-            if (place.count > 1) text = "slots " + std::to_string(place.first) + " to " + std::to_string(place.first + place.count - 1);
+            if (place.count == 1) return "slot " + std::to_string(place.first);
+            return "slots " + std::to_string(place.first) + " to " + std::to_string(place.first + place.count - 1);
     }
-    return place.by_reference ? text + ", by reference" : text;
+    return "";
+}
+
+std::string argument_text(const Place& place, Lane type, Convention convention) {
+    if (place.by_reference) return place_text(place, convention) + ", by reference";
+    return place.where == integer ? integer_register(place.first, bytes(type), convention) : place_text(place, convention);
 }
 
 std::string result_text(const Place& place, Lane type, Convention convention) {

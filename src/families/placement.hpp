@@ -37,12 +37,14 @@ Placement placement(const Shape& shape, int width, Convention convention);
 // 16-byte registers or blocks that a vector takes; width 3 is carried as 4.
 int blocks(Lane type, int width);
 
-// Whether a Windows compiler's __vectorcall places it alike: where nothing travels in a slot. Widths 1 of integers and
-// 2 of 32-bit lanes are then declared with a 16-byte vector, of which only those lanes count.
+// Whether a Windows compiler's __vectorcall places it alike: where nothing travels in a slot, and no single vector after
+// a longer one. Widths 1 of integers and 2 of 32-bit lanes are then declared with a 16-byte vector, of which only
+// those lanes count.
 bool is_vectorcall(const Shape& shape, int width);
 
 // For people: "xmm0", "xmm0-xmm3", "rdx, by reference", "slot 1, by reference"; and of an integer register that holds
 // a number its name at that size, such as "edi". A result: "eax", "xmm0", "rcx, by reference; returned in rax".
+std::string place_text(const Place& place, Convention convention);  // of a pointer: the register or slot
 std::string argument_text(const Place& place, Lane type, Convention convention);
 std::string result_text(const Place& place, Lane type, Convention convention);
 // The register's name; `bytes` is 4 or 8.

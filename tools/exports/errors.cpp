@@ -20,10 +20,7 @@ std::string places(const Worst& worst, const Shape& shape) {
     return text;
 }
 
-// One table of every exception, in the place of what the page holds between its two marks.
-constexpr const char* mark_begin = "<!-- generated: exceptions -->";
-constexpr const char* mark_end = "<!-- end -->";
-
+// One table of every exception.
 std::string exceptions_table() {
     std::string text = "\n| function | what differs |\n|---|---|\n";
     for (const Family& f : families()) {
@@ -115,6 +112,6 @@ int comments(const char* file) {
     return 0;
 }
 
-int contract(const char* file) { return renew_between(file, mark_begin, mark_end, exceptions_table()); }
+int contract(const char* file) { return renewed(file, "exceptions", exceptions_table()); }
 
 }  // namespace tarn

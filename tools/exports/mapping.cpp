@@ -44,9 +44,6 @@ bool native_keeps_relaxed(const Family& f, const std::string& name) {
 
 namespace {
 
-constexpr const char* mark_begin = "<!-- generated: built-ins -->";
-constexpr const char* mark_end = "<!-- end -->";
-
 std::string relaxed(const std::string& name) {
     const Allowance a = allowance(name);
     switch (a.rule) {
@@ -138,6 +135,6 @@ std::string mapping_table() {
 
 }  // namespace
 
-int mapping(const char* file) { return renew_between(file, mark_begin, mark_end, mapping_table()); }
+int mapping(const char* file) { return renewed(file, "built-ins", mapping_table()); }
 
 }  // namespace tarn

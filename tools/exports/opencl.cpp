@@ -283,12 +283,7 @@ void opencl_header() {
     for (const auto& name : order) {
         const auto& members = by_name[name];
         const Family& first = *members[0].first;
-        if (first.group != group) {
-            group = first.group;
-            std::string rule = "/* " + group + ' ';
-            rule.resize(100, '-');
-            std::printf("\n%s */\n", rule.c_str());
-        }
+        print_group(first, group);
         std::printf("#if !defined(TARN_ONLY) || defined(TARN_USE_%s)\n", name.c_str());
         bool doubles = false;
         const auto within = [&](bool wanted) {

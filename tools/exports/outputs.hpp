@@ -4,6 +4,8 @@
 namespace tarn {
 
 void header();
+void windows_header();
+void windows_imports();
 void calls();
 void accuracy();
 void opencl_header();
@@ -11,5 +13,6 @@ void catalogue();
 int comments(const char* file);
 int contract(const char* file);
 int mapping(const char* file);
+int conventions(const char* file);
 
 }  // namespace tarn

@@ -139,9 +139,34 @@ std::string error_line(const Family& f) {
     return text + '.';
 }
 
-int renew_between(const char* file, const std::string& begin, const std::string& end, const std::string& text) {
+void print_comment(const std::string& text, std::size_t limit) {
+    std::string line = "/*";
+    std::size_t at = 0;
+    while (at < text.size()) {
+        std::size_t end = text.find(' ', at);
+        if (end == std::string::npos) end = text.size();
+        if (line.size() + 1 + (end - at) > limit) {
+            std::puts(line.c_str());
+            line = "  ";
+        }
+        line += ' ' + text.substr(at, end - at);
+        at = end + 1;
+    }
+    std::puts((line + " */").c_str());
+}
+
+void print_group(const Family& f, std::string& group) {
+    if (f.group == group) return;
+    group = f.group;
+    std::string rule = "/* " + group + ' ';
+    rule.resize(100, '-');
+    std::printf("\n%s */\n", rule.c_str());
+}
+
+int renewed(const char* file, const std::string& what, const std::string& text) {
     std::ifstream in(file);
     if (!in) return std::fprintf(stderr, "tarn-exports: cannot read %s\n", file), 2;
+    const std::string begin = "<!-- generated: " + what + " -->", end = "<!-- end -->";
     bool inside = false, seen = false;
     for (std::string line; std::getline(in, line);) {
         if (line == end) inside = false;

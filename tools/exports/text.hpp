@@ -34,7 +34,12 @@ std::string number(Lane type, std::uint64_t pattern);
 std::vector<std::string> exceptions(const Family& f);
 std::string error_line(const Family& f);
 
-// Prints a page with `text` in the place of what it holds between two lines. An exit status.
-int renew_between(const char* file, const std::string& begin, const std::string& end, const std::string& text);
+// A page with the text between its marks of that name renewed, on standard output. The exit status.
+int renewed(const char* file, const std::string& what, const std::string& text);
+
+// What heads a family's group, where that is another than the last one's.
+void print_group(const Family& f, std::string& group);
+// As a C comment, in lines of at most `limit` characters.
+void print_comment(const std::string& text, std::size_t limit = 108);
 
 }  // namespace tarn
