@@ -37,3 +37,9 @@ for bad in "" "/none.cl $source/include"; do
     said=$("$program" $bad 2>&1) || status=$?
     [ $status -eq 2 ] && [ "$(wc -l <<< "$said")" -eq 1 ] || { echo "bad input '$bad': $status, $said"; exit 1; }
 done
+[ ! -x "$build/tools/tarn-bench-opencl" ] || for bad in nosuch "sin --rounds 0" "sin --header /none"; do
+    status=0
+    # shellcheck disable=SC2086
+    said=$("$build/tools/tarn-bench-opencl" $bad 2>&1) || status=$?
+    [ $status -eq 2 ] && [ "$(wc -l <<< "$said")" -eq 1 ] || { echo "bad input '$bad': $status, $said"; exit 1; }
+done

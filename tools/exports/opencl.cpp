@@ -9,6 +9,7 @@
 
 #include "exports/outputs.hpp"
 #include "exports/text.hpp"
+#include "families/placement.hpp"
 
 namespace tarn {
 namespace {
@@ -65,7 +66,7 @@ void carriers(Lane t) {
     const int per_block = 16 / bytes(t);
     for (const int width : widths) {
         const std::string v = lanes(type, width), suffix = std::string(type) + std::to_string(width);
-        const int stored = width == 3 ? 4 : width, blocks = (stored + per_block - 1) / per_block;
+        const int stored = width == 3 ? 4 : width, blocks = tarn::blocks(t, width);
         const std::string inside = lanes(type, stored), block = lanes(type, per_block);
         if (blocks == 1) {
             std::printf("typedef %s tarn_c_%s;\n", inside.c_str(), suffix.c_str());
