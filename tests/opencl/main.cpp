@@ -1,11 +1,11 @@
 // Every export through an OpenCL runtime: kernels that include ocl_tarn_k1.cl.h call it by OpenCL's name, or by the
 // header's where OpenCL has none, and have to give the bits that a direct call of the module gives.
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <filesystem>
-#include <functional>
 #include <map>
-#include <set>
 
 #include "common/opencl.hpp"
 #include "exports/opencl.hpp"
@@ -237,15 +237,17 @@ void choices(const cl::Device& device, const cl::Context& context, const std::st
     expect(true, ours, "-D TARN_ONLY -D TARN_USE_sin");
     expect(false, theirs, "-D TARN_ONLY -D TARN_USE_sin");
     expect(true, "kernel void k(global float4* x) { *x = sin(cos(*x)); }", "-D TARN_ONLY -D TARN_USE_sin");
-    const auto is = [&](const std::string& spelled, const std::string& name, const std::string& options) {
-        // A name is what it expands to: an array of that size.
+    const auto is = [&](bool wanted, const std::string& spelled, const std::string& name, const std::string& options) {
+        // A name is what it expands to: the length of that tells.
         const std::string text =
             "#define S(x) S_(x)\n#define S_(x) #x\nkernel void k(global int* r) { char a[sizeof(S(" + name +
             ")) == sizeof(\"" + spelled + "\") ? 1 : -1]; *r = sizeof a; }";
-        expect(true, text, options);
+        expect(wanted, text, options);
     };
-    is("tarn_sin", "sin", "");
-    is("tarn_sin", "sin", "-D TARN_ONLY -D TARN_USE_sin");
+    is(true, "tarn_sin", "sin", "");
+    is(true, "tarn_sin", "sin", "-D TARN_ONLY -D TARN_USE_sin");
+    is(false, "tarn_cos", "cos", "-D TARN_ONLY -D TARN_USE_sin");
+    is(false, "tarn_sin", "sin", "-D TARN_PREFIXED_ONLY");
     expect(true, "kernel void k(global float4* x) { *x = tarn_sin(*x) - sin(*x); }", "-D TARN_PREFIXED_ONLY");
 
     // Sources of a conversion that the module has none for.
@@ -268,7 +270,7 @@ void choices(const cl::Device& device, const cl::Context& context, const std::st
 
     // Pointers to any memory, where the language has them.
     expect(true, "kernel void k(global float4* x) { float4 c; float4* p = &c; x[0] = sincos(x[0], p); x[1] = c; }",
-           device.getInfo<CL_DEVICE_OPENCL_C_VERSION>() >= "OpenCL C 3" ? "-cl-std=CL3.0" : "-cl-std=CL1.2");
+           device.getInfo<CL_DEVICE_VERSION>() >= "OpenCL 3" ? "-cl-std=CL3.0" : "-cl-std=CL1.2");
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 // them, the module's beside the runtime's own, on one thread.
 #include "common/opencl.hpp"
 
+#include <algorithm>
+#include <array>
 #include <chrono>
 #include <cmath>
 #include <cstdlib>

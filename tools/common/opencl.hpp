@@ -16,7 +16,7 @@
 
 namespace tarn {
 
-// The first processor; null where no runtime has one.
+// The first processor; nothing where no runtime has one.
 inline std::optional<cl::Device> processor() {
     std::vector<cl::Platform> platforms;
     try {
