@@ -92,7 +92,7 @@ std::string vector_functions(const Family& f, int width, Variant v) {
     const std::string target = '(' + export_name(f.base, width, v) + ')';
     // The C library has other functions of these names.
     const bool named = v == Variant::full && f.group != "Conversions" && f.base != "div" && !f.base.starts_with("nan");
-    return "[" + (named ? quoted(lanes + f.base + target) + ", " : "") +
+    return '[' + (named ? quoted(lanes + f.base + target) + ", " : "") +
            quoted(lanes + export_name(f.base, 1, v) + target) + "]";
 }
 

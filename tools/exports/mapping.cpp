@@ -124,7 +124,7 @@ std::string mapping_table() {
     for (const Family* f : conversions) {
         // One line for the modes.
         std::string base = f->base, name = builtin(*f, 16, Variant::full);
-        name.replace(name.find("16"), 2, "W");
+        name.replace(name.find("16"), 2, 1, 'W');
         name.replace(name.rfind("_rt"), 4, "_MODE");
         base.replace(base.find("rt"), 3, "MODE");
         if (seen.insert(base).second)
