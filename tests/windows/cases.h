@@ -25,10 +25,10 @@ typedef struct cases_vector {
 } cases_vector;
 
 /* Of a pair the result has both vectors, one after the other, and `second` stands for none. A call is the blocks of
- * the arguments, of the result and of the second result. */
+ * the arguments, of the result and of the second result; `ordinary` is one without special lanes. */
 typedef struct cases_export {
     char name[name_bytes];
-    uint32_t arguments, pair, calls, unused;
+    uint32_t arguments, pair, calls, ordinary;
     cases_vector argument[most_arguments], result, second;
 } cases_export;
 
