@@ -211,6 +211,7 @@ static void check(const cases_export* e, const unsigned char* blocks, long numbe
         check_lanes(&e->second, second_at(number), wanted, "another second result in call", number);
         check_rest(second, second_at(number), e->second.stored, 0x3C, "bytes around the second result written in call", number);
     }
+    if (memcmp((void*)call.stack, call.slots, sizeof call.slots)) fail("slots overwritten in call", number);
     check_registers(call.gpr_out, call.xmm_out, call.gpr_out[rsp], number);
     if ((call.mxcsr_out & ~0x3Fu) != 0x1F80) fail("MXCSR changed in call", number);
     if ((call.x87_out[0] & 0xFFFF) != 0x037F && (call.x87_out[0] & 0xFFFF) != 0x027F) fail("x87 control word changed in call", number);
