@@ -1,6 +1,6 @@
 /* Calls every export of the module with the inputs of a file and compares what it gives with what the file says, to the
- * last bit: results, second results and the bytes around them, arguments in memory, the registers that a callee has to
- * keep, the stack and the control words. Every register and slot that a call leaves free is filled with what would spoil
+ * last bit: results, second results and the bytes around them, arguments in memory, IEEE's exceptions, the registers that a
+ * callee has to keep, the stack and the control words. Every register and slot that a call leaves free is filled with what would spoil
  * it; the stack lies at every multiple of 8. Then it looks for the way back to the caller from every instruction of
  * a call, and from a pointer that cannot be read or written.
  *   calls.exe MODULE CASES */
@@ -27,11 +27,11 @@ struct {
     uint64_t stack, trap, own_stack;
     xmm xmm_out[16];
     uint64_t gpr_out[general_registers];
-    uint32_t mxcsr_out, x87_out[7];
-} call;
+    uint32_t mxcsr_out, x87_out[7], mxcsr_in;
+} call = {.mxcsr_in = 0x1F80};
 _Static_assert(offsetof(__typeof__(call), gpr_in) == 256 && offsetof(__typeof__(call), target) == 448 &&
                offsetof(__typeof__(call), xmm_out) == 480 && offsetof(__typeof__(call), gpr_out) == 736 &&
-               offsetof(__typeof__(call), mxcsr_out) == 864, "the layout of trampoline.S");
+               offsetof(__typeof__(call), mxcsr_out) == 864 && offsetof(__typeof__(call), mxcsr_in) == 896, "the layout of trampoline.S");
 void make_call(void);
 extern char after_call[];
 
@@ -211,6 +211,9 @@ static void check(const cases_export* e, const unsigned char* blocks, long numbe
         check_lanes(&e->second, second_at(number), wanted, "another second result in call", number);
         check_rest(second, second_at(number), e->second.stored, 0x3C, "bytes around the second result written in call", number);
     }
+    uint32_t raised;
+    memcpy(&raised, wanted + 16 * e->second.blocks, sizeof raised);
+    if (e->raises_alike && ((call.mxcsr_out | call.x87_out[1]) & 0x3D) != raised) fail("other exceptions raised in call", number);
     if (memcmp((void*)call.stack, call.slots, sizeof call.slots)) fail("slots overwritten in call", number);
     check_registers(call.gpr_out, call.xmm_out, call.gpr_out[rsp], number);
     if ((call.mxcsr_out & ~0x3Fu) != 0x1F80) fail("MXCSR changed in call", number);
@@ -251,7 +254,7 @@ static void try_export(FILE* file) {
     if (fread(&e, sizeof e, 1, file) != 1) refuse("the file ends early:", "cases");
     current = e.name;
     call.target = (void*)GetProcAddress((HMODULE)module_begin, e.name);
-    unsigned blocks = e.result.blocks + e.second.blocks;
+    unsigned blocks = e.result.blocks + e.second.blocks + 1;
     for (unsigned i = 0; i < e.arguments; i++) blocks += e.argument[i].blocks;
     unsigned char* all = malloc(16 * blocks * e.calls);
     if (fread(all, 16 * blocks, e.calls, file) != e.calls) refuse("the file ends early:", "cases");

@@ -12,6 +12,7 @@
         .set gpr_out, 736
         .set mxcsr_out, 864
         .set x87_out, 868
+        .set mxcsr_in, 896
 
         .text
         .globl  make_call, after_call
@@ -37,6 +38,8 @@ make_call:
         .irp    n, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15
         movups  call+xmm_in+16*\n(%rip), %xmm\n
         .endr
+        fnclex
+        ldmxcsr call+mxcsr_in(%rip)
         cmpq    $0, call+trap(%rip)
         je      1f
         pushfq

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "families/placement.hpp"
+#include "raised.hpp"
 #include "samples.hpp"
 #include "windows/cases.h"
 
@@ -84,6 +85,19 @@ void write_vector(File& file, const Lanes& lanes, std::size_t first, int width, 
     file.write(all.data(), all.size());
 }
 
+// What one call raises.
+unsigned raised_by(const Function& f, const std::vector<Lanes>& args, std::size_t first) {
+    std::vector<Lanes> lanes;
+    for (const Lanes& arg : args) {
+        lanes.emplace_back(arg.type(), static_cast<std::size_t>(f.width()));
+        for (std::size_t i = 0; i < lanes.back().size(); i++) lanes.back().set(i, arg.pattern(first + i));
+    }
+    Lanes result, second;
+    clear_raised();
+    f(lanes, result, &second);
+    return raised();
+}
+
 void write_export(File& file, const Function& f, std::mt19937_64& random) {
     const Shape& shape = f.family().shape;
     const auto width = static_cast<std::size_t>(f.width());
@@ -98,6 +112,7 @@ void write_export(File& file, const Function& f, std::mt19937_64& random) {
     e.arguments = static_cast<std::uint32_t>(args.size());
     e.pair = shape.pair;
     e.calls = static_cast<std::uint32_t>(args[0].size() / width);
+    e.raises_alike = f.family().base != "fma" && f.family().base != "fmaf";
     e.ordinary = static_cast<std::uint32_t>(ordinary / width);
     for (std::size_t a = 0; a < args.size(); a++) e.argument[a] = described(p.args[a], shape.args[a], f.width());
     e.result = described(p.result, shape.result, f.width());
@@ -107,6 +122,8 @@ void write_export(File& file, const Function& f, std::mt19937_64& random) {
         for (const Lanes& arg : args) write_vector(file, arg, first, f.width(), first / width % 2 ? 0xFF : 0x7F);
         write_vector(file, result, first, f.width(), 0);
         if (shape.second != Lane::none) write_vector(file, second, first, f.width(), 0);
+        const std::uint32_t raised[4] = {raised_by(f, args, first)};
+        file.write(raised, sizeof raised);
     }
 }
 
