@@ -2,7 +2,6 @@
 // results compared bit for bit, and with --flags what each call raises.
 #include <immintrin.h>
 
-#include <cfenv>
 #include <chrono>
 #include <cstdio>
 #include <filesystem>
