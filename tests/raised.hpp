@@ -7,7 +7,8 @@
 
 namespace tarn::test {
 
-// SSE's and x87's together, as fetestexcept sees them; the processor's own flag of subnormal operands is none of IEEE 754's.
+// SSE's and x87's together, as fetestexcept sees them; the processor's own flag of subnormal operands is none of IEEE
+// 754's.
 inline unsigned raised() {
     unsigned short x87;
     __asm__ volatile("fnstsw %0" : "=m"(x87));

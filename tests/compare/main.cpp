@@ -1,7 +1,5 @@
 // Two modules that ought to be one: every export of both called on the same lanes, the results and second
 // results compared bit for bit, and with --flags what each call raises.
-#include <immintrin.h>
-
 #include <chrono>
 #include <cstdio>
 #include <filesystem>

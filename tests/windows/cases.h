@@ -17,8 +17,8 @@ typedef struct cases_place {
     uint8_t where, first, by_reference, unused;
 } cases_place;
 
-/* `lanes` is the bytes that a width has lanes for, `stored` those that a second result is written with, `real` the bytes
- * of a floating-point lane, or 0. */
+/* `lanes` is the bytes that a width has lanes for, `stored` those that a second result is written with, `real` the
+ * bytes of a floating-point lane, or 0. */
 typedef struct cases_vector {
     cases_place place;
     uint16_t blocks, lanes, stored, real;

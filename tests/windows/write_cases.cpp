@@ -56,7 +56,8 @@ cases_vector described(const Place& p, Lane type, int width) {
     if (type == Lane::none) return {};
     const int lane = bytes(type);
     return {described(p), static_cast<std::uint16_t>(blocks(type, width)), static_cast<std::uint16_t>(width * lane),
-            static_cast<std::uint16_t>((width == 3 ? 4 : width) * lane), static_cast<std::uint16_t>(is_float(type) ? lane : 0)};
+            static_cast<std::uint16_t>((width == 3 ? 4 : width) * lane),
+            static_cast<std::uint16_t>(is_float(type) ? lane : 0)};
 }
 
 class File {
