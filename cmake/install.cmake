@@ -1,4 +1,4 @@
-# cmake --install: the module, its headers, its catalogue, a CMake package and, but on Windows, a pkg-config file.
+# cmake --install: the module, its headers, its catalogue, a CMake package and a pkg-config file.
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
@@ -9,15 +9,17 @@ if(TARN_X86_64_V3)
   return()
 endif()
 
+# For Windows the DLL, its import library and the header of that platform.
+if(WIN32)
+  install(TARGETS ocl_tarn_k1 RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
+  install(FILES include/ocl_tarn_k1_windows.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+  return()
+endif()
+
 target_include_directories(ocl_tarn_k1 INTERFACE $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>
                                                  $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>)
-install(TARGETS ocl_tarn_k1 EXPORT ocl_tarn_k1 LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-                                               RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
-if(WIN32)
-  install(FILES include/ocl_tarn_k1_windows.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
-else()
-  install(FILES include/ocl_tarn_k1.h include/ocl_tarn_k1.cl.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
-endif()
+install(TARGETS ocl_tarn_k1 EXPORT ocl_tarn_k1 LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+install(FILES include/ocl_tarn_k1.h include/ocl_tarn_k1.cl.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 if(TARGET catalogue)
   install(FILES ${PROJECT_BINARY_DIR}/exports.json docs/exports.schema.json DESTINATION ${CMAKE_INSTALL_DATADIR}/ocl_tarn_k1)
 endif()
@@ -27,9 +29,6 @@ install(EXPORT ocl_tarn_k1 NAMESPACE ocl_tarn_k1:: FILE ocl_tarn_k1-config.cmake
 write_basic_package_version_file(${CMAKE_CURRENT_BINARY_DIR}/ocl_tarn_k1-config-version.cmake COMPATIBILITY SameMajorVersion)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/ocl_tarn_k1-config-version.cmake DESTINATION ${package_dir})
 
-if(WIN32)
-  return()
-endif()
 # Found from where the file lies, so that an installed tree can be moved; a directory named absolutely stays there.
 if(IS_ABSOLUTE ${CMAKE_INSTALL_LIBDIR})
   set(TARN_PC_PREFIX ${CMAKE_INSTALL_PREFIX})
