@@ -22,23 +22,6 @@ std::string declaration(const Family& f, int width, Variant v) {
     return text + (is_pure(f) ? " TARN_CONST;" : ";");
 }
 
-// Breaks a comment into lines of at most `limit` characters.
-void comment(const std::string& text, std::size_t limit) {
-    std::string line = "/*";
-    std::size_t at = 0;
-    while (at < text.size()) {
-        std::size_t end = text.find(' ', at);
-        if (end == std::string::npos) end = text.size();
-        if (line.size() + 1 + (end - at) > limit) {
-            std::puts(line.c_str());
-            line = "  ";
-        }
-        line += ' ' + text.substr(at, end - at);
-        at = end + 1;
-    }
-    std::puts((line + " */").c_str());
-}
-
 }  // namespace
 
 void header() {
@@ -112,20 +95,8 @@ extern "C" {
 
     std::string group;
     for (const Family& f : families()) {
-        if (f.group != group) {
-            group = f.group;
-            std::string rule = "/* " + group + ' ';
-            rule.resize(100, '-');
-            std::printf("\n%s */\n", rule.c_str());
-        }
-        std::puts("");
-        std::string text = f.base + ": " + f.formula + ".";
-        if (!f.domain.empty()) text += " Domain: " + f.domain + ".";
-        if (!f.special.empty()) text += " Special values: " + f.special;
-        const std::string error = error_line(f);
-        if (!error.empty()) text += ' ' + error;
-        for (const auto& sentence : exceptions(f)) text += ' ' + sentence;
-        comment(text, 108);
+        print_group(f, group);
+        print_comment(description(f));
         for (const Variant v : all_variants)
             if (f.has(v))
                 for (const int width : widths) std::puts(declaration(f, width, v).c_str());

@@ -1,6 +1,6 @@
-// Writes what follows from the table of families: the public header, the version script, the pages of measured
+// Writes what follows from the table of families: the public headers, the version scripts, the pages of measured
 // errors and of exceptions, the calls of the C callers' test; and a source file with its worst errors renewed.
-//   tarn-exports header|map|names|accuracy|calls > FILE
+//   tarn-exports header|map|names|accuracy|calls|arrays|tarn-map > FILE
 //   tarn-exports contract docs/contract.md > FILE
 #include <cstdio>
 #include <cstring>
@@ -26,6 +26,8 @@ int main(int argc, char** argv) {
     else if (argc == 2 && !std::strcmp(argv[1], "names")) names("", "");
     else if (argc == 2 && !std::strcmp(argv[1], "accuracy")) accuracy();
     else if (argc == 2 && !std::strcmp(argv[1], "calls")) calls();
+    else if (argc == 2 && !std::strcmp(argv[1], "arrays")) arrays();
+    else if (argc == 2 && !std::strcmp(argv[1], "tarn-map")) tarn_map();
     else if (argc == 3 && !std::strcmp(argv[1], "comments")) return comments(argv[2]);
     else if (argc == 3 && !std::strcmp(argv[1], "contract")) return contract(argv[2]);
     else if (argc == 2 && !std::strcmp(argv[1], "map")) {
@@ -33,7 +35,7 @@ int main(int argc, char** argv) {
         names("    ", ";");
         std::puts("local:\n    *;\n};");
     } else {
-        std::fputs("usage: tarn-exports header|map|names|accuracy|calls, or comments|contract FILE\n", stderr);
+        std::fputs("usage: tarn-exports header|map|names|accuracy|calls|arrays|tarn-map, or comments|contract FILE\n", stderr);
         return 2;
     }
 }

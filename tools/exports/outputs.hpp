@@ -6,6 +6,8 @@ namespace tarn {
 void header();
 void calls();
 void accuracy();
+void arrays();
+void tarn_map();
 int comments(const char* file);
 int contract(const char* file);
 
