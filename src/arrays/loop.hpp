@@ -50,8 +50,32 @@ template <int lanes, class Lane, class V> TARN_INLINE void put(Lane* to, V group
     }
 }
 
+// The first n lanes of a group, at least one: the others are copies of the last, so that they raise no flag of their
+// own. Nothing beyond is read, and nothing goes through memory, where a long load would wait for short stores.
+template <int lanes, int bytes, int first = 0, class Lane> TARN_INLINE Group<Lane, lanes, bytes> loaded_few(const Lane* from, int n) {
+    constexpr int size = lanes * sizeof(Lane);
+    if constexpr (size > bytes) {
+        return {loaded_few<lanes / 2, bytes, first>(from, n), loaded_few<lanes / 2, bytes, first + lanes / 2>(from, n)};
+    } else {
+        const auto lane = [&](int i) __attribute__((always_inline)) {
+            Lane l;
+            __builtin_memcpy(&l, from + (first + i < n ? first + i : n - 1), sizeof l);
+            return l;
+        };
+        const auto vector = [&]<int... i>(std::integer_sequence<int, i...>) __attribute__((always_inline)) {
+            return Vector<Lane, int(sizeof...(i) * sizeof(Lane))>{lane(i % lanes)...};
+        };
+        constexpr int count = (size == 8 ? 16 : size) / sizeof(Lane);
+        const auto v = vector(std::make_integer_sequence<int, count>{});
+        if constexpr (sizeof v == bytes) return v;
+#ifdef __AVX2__
+        else return in_low_half(v);
+#endif
+    }
+}
+
 // Fewer lanes than a group has, without a loop that a compiler would make a call of.
-template <int below, class Lane> TARN_INLINE void copy_few(Lane* to, const Lane* from, std::size_t n) {
+template <int below, class Lane> TARN_INLINE void copy_few(Lane* to, const Lane* from, int n) {
     if constexpr (below > 1) {
         constexpr int half = below / 2;
         if (n & half) {
@@ -62,19 +86,27 @@ template <int below, class Lane> TARN_INLINE void copy_few(Lane* to, const Lane*
     }
 }
 
-template <class Lane, int lanes> struct Padded {
-    alignas(32) Lane lane[lanes];
+// As many lanes in memory.
+template <class Lane, int count> struct Room { alignas(32) Lane lane[count]; };
 
-    TARN_INLINE Padded(const Lane* from, std::size_t n) {
-        Lane last;
-        __builtin_memcpy(&last, from + (n - 1), sizeof last);
-        constexpr int per_block = 16 / sizeof(Lane);
-        for (int i = 0; i < lanes; i += per_block) {
-            const auto block = filled<Vector<Lane, 16>>(last);
-            __builtin_memcpy(lane + i, &block, lanes < per_block ? lanes * sizeof last : 16);
-        }
-        copy_few<lanes>(lane, from, n);
+// Where a step finds its arguments and leaves its results: whole groups, or the first n lanes of one.
+struct Whole {
+    template <int lanes, int bytes, class Lane> static TARN_INLINE auto load(const Lane* from) { return loaded<lanes, bytes>(from); }
+    template <int lanes, class Lane, class V> static TARN_INLINE void store(Lane* to, V group) { put<lanes>(to, group); }
+    static TARN_INLINE unsigned real() { return ~0u; }
+};
+struct Few {
+    int n;
+    template <int lanes, int bytes, class Lane> TARN_INLINE auto load(const Lane* from) const {
+        return n < lanes ? loaded_few<lanes, bytes>(from, n) : loaded<lanes, bytes>(from);
     }
+    template <int lanes, class Lane, class V> TARN_INLINE void store(Lane* to, V group) const {
+        if (n >= lanes) return put<lanes>(to, group);
+        Room<Lane, lanes> all;
+        put<lanes>(all.lane, group);
+        copy_few<lanes>(to, all.lane, n);
+    }
+    TARN_INLINE unsigned real() const { return lane_mask(n); }
 };
 
 // Flagged lanes ------------------------------------------------------------------------------------
@@ -101,15 +133,18 @@ struct Settled<K, bytes, R, Types<S...>, Types<A...>> {
     // other.
     [[gnu::noinline, gnu::cold]] static void run(unsigned special, const A*... x, R* value, S*... second) {
         if constexpr (requires { typename K::long_path; }) {
-            for (; special != 0;) {
+            while (special != 0) {
                 const int first = __builtin_ctz(special) / lanes * lanes;
-                const unsigned here = special >> first & lane_mask(lanes);
-                by_long_path(here, x + first..., value + first, second + first...);
+                // Two groups side by side where both are called for.
+                const bool two = special >> first >> lanes & lane_mask(lanes);
+                const unsigned here = special >> first & lane_mask(two ? 2 * lanes : lanes);
+                if (two) by_long_path<2>(here, x + first..., value + first, second + first...);
+                else by_long_path<1>(here, x + first..., value + first, second + first...);
                 special &= ~(here << first);
             }
         } else if constexpr (requires { &K::finish; }) {
             constexpr int few = K::lanes;
-            for (; special != 0;) {
+            while (special != 0) {
                 const int first = __builtin_ctz(special) / few * few;
                 const unsigned here = special >> first & lane_mask(few);
                 const auto group = K::finish(loaded<few, 16>(x + first)..., loaded<few, 16>(value + first), here);
@@ -126,23 +161,32 @@ struct Settled<K, bytes, R, Types<S...>, Types<A...>> {
     }
 
 private:
-    static TARN_INLINE void by_long_path(unsigned flags, const A*... x, R* value, S*... second) {
-        using L = typename K::long_path;
-        static_assert(L::lanes == K::lanes && L::blocks_at_a_time > 0, "group by group, as few as there are");
-        const auto group = L::fast(loaded<lanes, bytes>(x)...);
-        alignas(32) R value_of_long[lanes];
-        put<lanes>(value_of_long, value_of(group));
-        for (int i = 0; i < lanes; i++)
-            if (flags >> i & 1) value[i] = value_of_long[i];
-        (take_second<S>(flags, group, second), ...);
-        if constexpr (requires { group.special; })
-            if (const unsigned beyond = flags_of<lanes>(group.special) & flags) Settled<L, bytes>::run(beyond, x..., value, second...);
+    template <int count> static TARN_INLINE void by_long_path(unsigned flags, const A*... x, R* value, S*... second) {
+        over<typename K::long_path>(std::make_integer_sequence<int, count>{}, flags, x..., value, second...);
     }
-    template <class Second, class G> static TARN_INLINE void take_second(unsigned flags, const G& group, Second* second) {
-        alignas(32) Second from[lanes];
-        put<lanes>(from, group.second);
+    template <class L, int... i>
+    static TARN_INLINE void over(std::integer_sequence<int, i...>, unsigned flags, const A*... x, R* value, S*... second) {
+        static_assert(L::lanes == K::lanes && L::blocks_at_a_time > 1);
+        const auto at = [&](int g) __attribute__((always_inline)) { return L::fast(loaded<lanes, bytes>(x + g * lanes)...); };
+        const decltype(at(0)) group[] = {at(i)...};
+        (take<R>(i, flags, value_of(group[i]), value), ...);
+        (take_seconds(i, flags, group[i], second...), ...);
+        if constexpr (requires { group[0].special; })
+            if (const unsigned beyond = flags & ((flags_of<lanes>(group[i].special) << (i * lanes)) | ...))
+                Settled<L, bytes>::run(beyond, x..., value, second...);
+    }
+    template <class G> static TARN_INLINE void take_seconds(int g, unsigned flags, const G& group, S*... second) {
+        (take<S>(g, flags, group.second, second), ...);
+    }
+    // The flagged lanes of group g.
+    template <class Lane, class V> static TARN_INLINE void take(int g, unsigned flags, V from, Lane* to) {
+        to += g * lanes;
+        flags = flags >> (g * lanes) & lane_mask(lanes);
+        if (flags == lane_mask(lanes)) return put<lanes>(to, from);
+        Room<Lane, lanes> all;
+        put<lanes>(all.lane, from);
         for (int i = 0; i < lanes; i++)
-            if (flags >> i & 1) second[i] = from[i];
+            if (flags >> i & 1) to[i] = all.lane[i];
     }
 };
 
@@ -166,18 +210,16 @@ struct Array<K, R, Types<S...>, Types<A...>> {
         } else {
             const unsigned always = always_special();
             for (; n >= chunk; n -= chunk) {
-                step<groups>(x..., r, s..., always, ~0u);
+                over(Whole(), std::make_integer_sequence<int, groups>{}, x..., r, s..., always);
                 ((x += chunk), ...);
                 r += chunk;
                 ((s += chunk), ...);
             }
-            if (n != 0) rest(n, x..., r, s..., always);
+            if (n != 0) rest(static_cast<int>(n), x..., r, s..., always);
         }
     }
 
 private:
-    template <class Second, int count> struct Beside { alignas(32) Second lane[count * lanes]; };
-
     // A result may lie where an argument lies.
     static TARN_INLINE void lane(A... x, R* r, S*... s) {
         R result;
@@ -190,65 +232,58 @@ private:
         else return 0;
     }
 
-    // Fewer elements than a step of the loop takes.
-    [[gnu::noinline]] static void rest(std::size_t n, const A*... x, R* r, S*... s, unsigned always) {
-        for (; n >= lanes; n -= lanes) {
-            one(x..., r, s..., always, ~0u);
+    // Fewer elements than a step of the loop takes, group by group.
+    [[gnu::noinline]] static void rest(int n, const A*... x, R* r, S*... s, unsigned always) {
+        for (; n > 0; n -= lanes) {
+            over(Few{n < lanes ? n : lanes}, std::integer_sequence<int, 0>{}, x..., r, s..., always);
             ((x += lanes), ...);
             r += lanes;
             ((s += lanes), ...);
         }
-        if (n != 0) last(n, Padded<A, lanes>(x, n)..., r, s..., always);
-    }
-    static TARN_INLINE void last(std::size_t n, const Padded<A, lanes>&... x, R* r, S*... s, unsigned always) {
-        alignas(32) R value[lanes];
-        last_with(n, x..., r, s..., value, Beside<S, 1>()..., always);
-    }
-        static TARN_INLINE void last_with(std::size_t n, const Padded<A, lanes>&... x, R* r, S*... s, R* value, Beside<S, 1>&&... second,
-                                 unsigned always) {
-        one(x.lane..., value, second.lane..., always, (1u << n) - 1);
-        copy_few<lanes>(r, value, n);
-        (copy_few<lanes>(s, second.lane, n), ...);
-    }
-    [[gnu::noinline]] static void one(const A*... x, R* r, S*... s, unsigned always, unsigned real) {
-        step<1>(x..., r, s..., always, real);
     }
 
     // Arguments are read before results are written: they may lie in the same place.
-    template <int count> static TARN_INLINE void step(const A*... x, R* r, S*... s, unsigned always, unsigned real) {
-        over<count>(std::make_integer_sequence<int, count>{}, x..., r, s..., always, real);
-    }
-    template <int count, int... i>
-    static TARN_INLINE void over(std::integer_sequence<int, i...>, const A*... x, R* r, S*... s, unsigned always, unsigned real) {
-        const auto at = [&](int g) __attribute__((always_inline)) { return K::fast(loaded<lanes, bytes>(x + g * lanes)...); };
+    template <class Place, int... i>
+    static TARN_INLINE void over(Place place, std::integer_sequence<int, i...>, const A*... x, R* r, S*... s, unsigned always) {
+        constexpr int count = sizeof...(i);
+        const auto at = [&](int g) __attribute__((always_inline)) { return K::fast(place.template load<lanes, bytes>(x + g * lanes)...); };
         const decltype(at(0)) group[] = {at(i)...};
         if constexpr (requires { group[0].special; }) {
-            const auto any = (group[i].special | ...);
-            if (__builtin_expect((flags_of<lanes>(any) | always) != 0, 0)) {
+            if (__builtin_expect((flags_of<lanes>((group[i].special | ...)) | always) != 0, 0)) {
                 const unsigned special = ((flags_of<lanes>(group[i].special) << (i * lanes)) | ...) | always;
-                alignas(32) R value[count * lanes];
-                (put<lanes>(value + i * lanes, value_of(group[i])), ...);
-                settle<count>(special & real & (~0u >> (32 - count * lanes)), group, x..., r, s..., value, Beside<S, count>()...);
-                return;
+                Room<R, count * lanes> value;
+                (put<lanes>(value.lane + i * lanes, value_of(group[i])), ...);
+                return settle<count>(place, special & place.real() & ~0u >> (32 - count * lanes), group, x..., r, s..., value.lane,
+                                     Room<S, count * lanes>()...);
             }
         }
-        (put<lanes>(r + i * lanes, value_of(group[i])), ...);
-        (put_second<count>(s, group), ...);
+        (place.template store<lanes>(r + i * lanes, value_of(group[i])), ...);
+        (store_second<count>(place, s, group), ...);
     }
-    template <int count, class Second, class G> static TARN_INLINE void put_second(Second* to, const G (&group)[count]) {
-        for (int g = 0; g < count; g++) put<lanes>(to + g * lanes, group[g].second);
+    template <int count, class Place, class Second, class G>
+    static TARN_INLINE void store_second(Place place, Second* to, const G (&group)[count]) {
+        for (int g = 0; g < count; g++) place.template store<lanes>(to + g * lanes, group[g].second);
     }
 
-    template <int count, class G>
-    static TARN_INLINE void settle(unsigned special, const G (&group)[count], const A*... x, R* r, S*... s, R* value,
-                                   Beside<S, count>&&... second) {
-        (put_second<count>(second.lane, group), ...);
-        Settled<K, bytes>::run(special, x..., value, second.lane...);
-        for (int g = 0; g < count; g++) put<lanes>(r + g * lanes, loaded<lanes, bytes>(value + g * lanes));
-        (copy_second<count>(s, second.lane), ...);
+    template <int count, class Place, class G>
+    static TARN_INLINE void settle(Place place, unsigned special, const G (&group)[count], const A*... x, R* r, S*... s, R* value,
+                                   Room<S, count * lanes>&&... second) {
+        (store_second<count>(Whole(), second.lane, group), ...);
+        if constexpr (std::is_same_v<Place, Few>) settle_few(special, filled_up(place, x)..., value, second.lane...);
+        else Settled<K, bytes>::run(special, x..., value, second.lane...);
+        give<count>(place, r, value);
+        (give<count>(place, s, second.lane), ...);
     }
-    template <int count, class Second> static TARN_INLINE void copy_second(Second* to, const Second* from) {
-        for (int g = 0; g < count; g++) put<lanes>(to + g * lanes, loaded<lanes, bytes>(from + g * lanes));
+    template <class Lane> static TARN_INLINE Room<Lane, lanes> filled_up(Few few, const Lane* from) {
+        Room<Lane, lanes> all;
+        put<lanes>(all.lane, few.load<lanes, bytes>(from));
+        return all;
+    }
+    static TARN_INLINE void settle_few(unsigned special, const Room<A, lanes>&... x, R* value, S*... second) {
+        Settled<K, bytes>::run(special, x.lane..., value, second...);
+    }
+    template <int count, class Place, class Lane> static TARN_INLINE void give(Place place, Lane* to, const Lane* from) {
+        for (int g = 0; g < count; g++) place.template store<lanes>(to + g * lanes, loaded<lanes, bytes>(from + g * lanes));
     }
 };
 

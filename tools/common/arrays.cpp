@@ -23,11 +23,11 @@ void ArrayFunction::operator()(std::size_t n, const void* const* args, void* res
     }
 }
 
-ArrayLibrary::ArrayLibrary() : handle_(dlopen(path().c_str(), RTLD_NOW | RTLD_LOCAL)) {
+ArrayLibrary::ArrayLibrary(const std::string& path) : handle_(dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL)) {
     if (!handle_) throw std::runtime_error(std::string("cannot load libtarn: ") + dlerror());
 }
 
-std::string ArrayLibrary::path() {
+std::string ArrayLibrary::built_path() {
     const char* other = std::getenv("TARN_LIBRARY");
     return other && *other ? other : TARN_LIBRARY_PATH;
 }

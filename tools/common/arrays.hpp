@@ -23,8 +23,8 @@ private:
 class ArrayLibrary {
 public:
     // The library of the build that this program belongs to, or the one that the environment's TARN_LIBRARY names.
-    ArrayLibrary();
-    static std::string path();
+    explicit ArrayLibrary(const std::string& path = built_path());
+    static std::string built_path();
 
     std::optional<ArrayFunction> find(const Family& f, Variant v) const;
     void* symbol(const std::string& name) const;
