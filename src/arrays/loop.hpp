@@ -219,6 +219,14 @@ struct Array<K, R, Types<S...>, Types<A...>> {
         }
     }
 
+    // One element, as the arrays' last is computed.
+    static TARN_INLINE R element(A... x) {
+        R result;
+        if constexpr (requires { K::lane_by_lane; }) lane(x..., &result);
+        else rest(1, &x..., &result, always_special());
+        return result;
+    }
+
 private:
     // A result may lie where an argument lies.
     static TARN_INLINE void lane(A... x, R* r, S*... s) {

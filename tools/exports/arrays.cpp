@@ -1,4 +1,4 @@
-// The header of the functions on arrays, and the version script of their library.
+// The header of the functions on arrays.
 #include <cstdio>
 #include <string>
 
@@ -47,12 +47,6 @@ void span_overload(const Family& f, Variant v) {
     }
     std::printf("inline void %s(%s) {\n    detail::same_length(\"%s\", x.size()%s);\n    %s(x.size()%s);\n}\n", name.c_str(), spans.c_str(),
                 name.c_str(), lengths.c_str(), array_name(f.base, v).c_str(), pointers.c_str());
-}
-
-template <class F> void each_function(F f) {
-    for (const Family& family : families())
-        for (const Variant v : all_variants)
-            if (family.has(v)) f(family, v);
 }
 
 }  // namespace
@@ -132,17 +126,13 @@ template <class... Sizes> void same_length(const char* function, std::size_t n, 
 
 }  // namespace detail
 )");
-    each_function(span_overload);
+    for (const Family& f : families())
+        for (const Variant v : all_variants)
+            if (f.has(v)) span_overload(f, v);
     std::puts(R"(
 }  // namespace tarn
 #endif
 #endif)");
-}
-
-void tarn_map() {
-    std::puts("/* Generated from the table of families by tarn-exports. */\nTARN_1 {\nglobal:");
-    each_function([](const Family& f, Variant v) { std::printf("    %s;\n", array_name(f.base, v).c_str()); });
-    std::puts("local:\n    *;\n};");
 }
 
 }  // namespace tarn

@@ -1,6 +1,6 @@
 // Writes what follows from the table of families: the public headers, the version scripts, the pages of measured
 // errors and of exceptions, the calls of the C callers' test; and a source file with its worst errors renewed.
-//   tarn-exports header|map|names|accuracy|calls|arrays|tarn-map > FILE
+//   tarn-exports header|map|names|accuracy|calls|arrays|loops|simd-header|tarn-map > FILE
 //   tarn-exports contract docs/contract.md > FILE
 #include <cstdio>
 #include <cstring>
@@ -27,6 +27,8 @@ int main(int argc, char** argv) {
     else if (argc == 2 && !std::strcmp(argv[1], "accuracy")) accuracy();
     else if (argc == 2 && !std::strcmp(argv[1], "calls")) calls();
     else if (argc == 2 && !std::strcmp(argv[1], "arrays")) arrays();
+    else if (argc == 2 && !std::strcmp(argv[1], "loops")) loops();
+    else if (argc == 2 && !std::strcmp(argv[1], "simd-header")) simd_header();
     else if (argc == 2 && !std::strcmp(argv[1], "tarn-map")) tarn_map();
     else if (argc == 3 && !std::strcmp(argv[1], "comments")) return comments(argv[2]);
     else if (argc == 3 && !std::strcmp(argv[1], "contract")) return contract(argv[2]);
@@ -35,7 +37,7 @@ int main(int argc, char** argv) {
         names("    ", ";");
         std::puts("local:\n    *;\n};");
     } else {
-        std::fputs("usage: tarn-exports header|map|names|accuracy|calls|arrays|tarn-map, or comments|contract FILE\n", stderr);
+        std::fputs("usage: tarn-exports header|map|names|accuracy|calls|arrays|loops|simd-header|tarn-map, or comments|contract FILE\n", stderr);
         return 2;
     }
 }

@@ -7,6 +7,8 @@ void header();
 void calls();
 void accuracy();
 void arrays();
+void loops();
+void simd_header();
 void tarn_map();
 int comments(const char* file);
 int contract(const char* file);
