@@ -40,6 +40,11 @@ template <int lanes, int bytes, class Lane> TARN_INLINE Group<Lane, lanes, bytes
     }
 }
 
+template <class V> TARN_INLINE V all_lanes(V group) {
+    if constexpr (requires { group.low; }) return {opaque(group.low), opaque(group.high)};
+    else return opaque(group);
+}
+
 template <int lanes, class Lane, class V> TARN_INLINE void put(Lane* to, V group) {
     constexpr int size = lanes * sizeof(Lane);
     if constexpr (requires { group.low; }) {
@@ -66,7 +71,8 @@ template <int lanes, int bytes, int first = 0, class Lane> TARN_INLINE Group<Lan
             return Vector<Lane, int(sizeof...(i) * sizeof(Lane))>{lane(i % lanes)...};
         };
         constexpr int count = (size == 8 ? 16 : size) / sizeof(Lane);
-        const auto v = vector(std::make_integer_sequence<int, count>{});
+        // Opaque, as is what comes of it: the compiler would compute lanes that are not stored from whatever it finds.
+        const auto v = opaque(vector(std::make_integer_sequence<int, count>{}));
         if constexpr (sizeof v == bytes) return v;
 #ifdef __AVX2__
         else return in_low_half(v);
@@ -103,7 +109,7 @@ struct Few {
     template <int lanes, class Lane, class V> TARN_INLINE void store(Lane* to, V group) const {
         if (n >= lanes) return put<lanes>(to, group);
         Room<Lane, lanes> all;
-        put<lanes>(all.lane, group);
+        put<lanes>(all.lane, all_lanes(group));
         copy_few<lanes>(to, all.lane, n);
     }
     TARN_INLINE unsigned real() const { return lane_mask(n); }
