@@ -13,11 +13,9 @@
 namespace tarn {
 namespace {
 
-// Groups of vectors in flight: measured; fewer where a kernel wants fewer.
-#ifndef TARN_IN_FLIGHT
-#define TARN_IN_FLIGHT 4
-#endif
-inline constexpr int groups_in_flight = TARN_IN_FLIGHT;
+// Groups of a step: as many as make 16 elements, at least four. Measured: with fewer the processor waits, with more
+// single precision spills. A kernel may want fewer.
+constexpr int groups_in_flight(int lanes) { return lanes < 4 ? 16 / lanes : 4; }
 
 // A group from consecutive lanes at any address. One that fills half a block of 16 bytes is there twice, so that no
 // lane computes what nobody asked for.
@@ -206,7 +204,7 @@ template <class K, class R, class... S, class... A>
 struct Array<K, R, Types<S...>, Types<A...>> {
     static constexpr int bytes = native_bytes;
     static constexpr int lanes = K::lanes * (bytes / 16);
-    static constexpr int groups = K::blocks_at_a_time < groups_in_flight ? K::blocks_at_a_time : groups_in_flight;
+    static constexpr int most = groups_in_flight(lanes), groups = K::blocks_at_a_time < most ? K::blocks_at_a_time : most;
     static constexpr int chunk = groups * lanes;
     static_assert(K::lanes > 1 && chunk <= 32);
 
