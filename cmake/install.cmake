@@ -9,6 +9,13 @@ if(TARN_X86_64_V3)
   return()
 endif()
 
+# For Windows the DLL, its import library and the header of that platform.
+if(WIN32)
+  install(TARGETS ocl_tarn_k1 RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
+  install(FILES include/ocl_tarn_k1_windows.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+  return()
+endif()
+
 foreach(library ocl_tarn_k1 tarn tarn_static)
   target_include_directories(${library} INTERFACE $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>
                                                   $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>)

@@ -4,6 +4,8 @@
 namespace tarn {
 
 void header();
+void windows_header();
+void windows_imports();
 void calls();
 void accuracy();
 void arrays();
@@ -12,5 +14,6 @@ void simd_header();
 void tarn_map();
 int comments(const char* file);
 int contract(const char* file);
+int conventions(const char* file);
 
 }  // namespace tarn

@@ -2,6 +2,7 @@
 
 #include <bit>
 #include <cstdio>
+#include <fstream>
 
 namespace tarn {
 
@@ -149,17 +150,6 @@ std::string description(const Family& f, Of of) {
     return text;
 }
 
-// A heading where a family begins another group, and a blank line.
-void print_group(const Family& f, std::string& group) {
-    if (f.group != group) {
-        group = f.group;
-        std::string rule = "/* " + group + ' ';
-        rule.resize(100, '-');
-        std::printf("\n%s */\n", rule.c_str());
-    }
-    std::puts("");
-}
-
 void print_comment(const std::string& text, std::size_t limit) {
     std::string line = "/*";
     std::size_t at = 0;
@@ -174,6 +164,31 @@ void print_comment(const std::string& text, std::size_t limit) {
         at = end + 1;
     }
     std::puts((line + " */").c_str());
+}
+
+void print_group(const Family& f, std::string& group) {
+    if (f.group == group) return;
+    group = f.group;
+    std::string rule = "/* " + group + ' ';
+    rule.resize(100, '-');
+    std::printf("\n%s */\n", rule.c_str());
+}
+
+int renewed(const char* file, const std::string& what, const std::string& text) {
+    std::ifstream in(file);
+    if (!in) return std::fprintf(stderr, "tarn-exports: cannot read %s\n", file), 2;
+    const std::string begin = "<!-- generated: " + what + " -->", end = "<!-- end -->";
+    bool inside = false, seen = false;
+    for (std::string line; std::getline(in, line);) {
+        if (line == end) inside = false;
+        if (!inside) std::puts(line.c_str());
+        if (line == begin) {
+            inside = seen = true;
+            std::fputs(text.c_str(), stdout);
+        }
+    }
+    if (!seen || inside) return std::fprintf(stderr, "tarn-exports: %s lacks its marks\n", file), 2;
+    return 0;
 }
 
 }  // namespace tarn
