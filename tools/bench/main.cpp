@@ -128,6 +128,15 @@ void add_peers(const Family& f, const Level& level, const std::string& row, cons
 // Few elements, beside one call of width 16.
 constexpr std::size_t few[] = {1, 7, 15, 16};
 
+// A copy by ordinary loads and stores, as loops make them: the C library's goes past the cache where there is much.
+void copy(const std::byte* from, std::byte* to, std::size_t size) {
+    constexpr std::size_t vector = 32;
+    for (std::size_t i = 0; i + vector <= size; i += vector) {
+        std::memcpy(to + i, from + i, vector);
+        benchmark::ClobberMemory();
+    }
+}
+
 // A loop over an array beside calls of width 16, the other libraries in a loop, and a copy of as much memory.
 void add_arrays(const Family& f, Variant v, const Level& level, const Module& module, const ArrayLibrary& library, const std::string& row,
                 const std::shared_ptr<Buffers>& b, std::vector<Entrant>& to) {
@@ -139,8 +148,8 @@ void add_arrays(const Family& f, Variant v, const Level& level, const Module& mo
     to.push_back({row, level.key, "copy", [](Buffers& buffers) {
         for (const Lanes& arg : buffers.args)
             for (Lanes* result : {&buffers.result, &buffers.second})
-                std::memcpy(result->data(), arg.data(), std::min(arg.size() * static_cast<std::size_t>(bytes(arg.type())),
-                                                                 result->size() * static_cast<std::size_t>(bytes(result->type()))));
+                copy(arg.data(), result->data(), std::min(arg.size() * static_cast<std::size_t>(bytes(arg.type())),
+                                                           result->size() * static_cast<std::size_t>(bytes(result->type()))));
     }, b});
     to.push_back({row, level.key, "one call", [=, batch = call.batch(), address = call.address()](Buffers& buffers) {
         const std::byte* pointers[3] = {};
