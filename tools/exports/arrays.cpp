@@ -89,6 +89,7 @@ extern "C" {
     std::string group;
     for (const Family& f : families()) {
         print_group(f, group);
+        std::puts("");
         print_comment(description(f, Of::elements));
         for (const Variant v : all_variants)
             if (f.has(v)) std::puts(declaration(f, v).c_str());

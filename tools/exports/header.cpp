@@ -55,6 +55,9 @@ void header() {
 
 #include <stdint.h>
 
+#ifdef _WIN32
+#error "Windows x64 has a header of its own: ocl_tarn_k1_windows.h"
+#endif
 #if !defined(__x86_64__) || !(defined(__GNUC__) || defined(__clang__))
 #error "this library is for x86-64, and its vector types are those of GCC and Clang"
 #endif
@@ -96,6 +99,7 @@ extern "C" {
     std::string group;
     for (const Family& f : families()) {
         print_group(f, group);
+        std::puts("");
         print_comment(description(f));
         for (const Variant v : all_variants)
             if (f.has(v))

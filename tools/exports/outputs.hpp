@@ -4,13 +4,19 @@
 namespace tarn {
 
 void header();
+void windows_header();
+void windows_imports();
 void calls();
 void accuracy();
 void arrays();
 void loops();
 void simd_header();
 void tarn_map();
+void opencl_header();
+void catalogue();
 int comments(const char* file);
 int contract(const char* file);
+int mapping(const char* file);
+int conventions(const char* file);
 
 }  // namespace tarn
