@@ -54,10 +54,11 @@ template <class K, int width> using CallAt = Call<typename ChosenAt<K, width>::K
 
 #ifdef TARN_ARRAYS
 #include "arrays/door.hpp"
-#elif defined _WIN32
-#include "frame/windows.hpp"
 #else
 
+#ifdef _WIN32
+#include "frame/windows.hpp"
+#else
 #define TARN_SHAPE_unary(name, width, K)                                                     \
     tarn::ResultOf<K, width> name(tarn::Arg1<K, width> x) { return tarn::CallAt<K, width>::run(x); }
 #define TARN_SHAPE_binary(name, width, K)                                                    \
