@@ -1,5 +1,4 @@
-# cmake --install: the module and libtarn, their headers, the catalogue, a CMake package and, but on Windows, pkg-config
-# files. On Windows there is the module alone.
+# cmake --install: the module and libtarn, their headers, the catalogue, a CMake package and pkg-config files.
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
@@ -10,24 +9,22 @@ if(TARN_X86_64_V3)
   return()
 endif()
 
-set(libraries ocl_tarn_k1)
-if(NOT WIN32)
-  list(APPEND libraries tarn tarn_static)
+# For Windows the DLL, its import library and the header of that platform.
+if(WIN32)
+  install(TARGETS ocl_tarn_k1 RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
+  install(FILES include/ocl_tarn_k1_windows.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+  return()
 endif()
-foreach(library ${libraries})
+
+foreach(library ocl_tarn_k1 tarn tarn_static)
   target_include_directories(${library} INTERFACE $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>
                                                   $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>)
 endforeach()
-install(TARGETS ${libraries} EXPORT ocl_tarn_k1
+install(TARGETS ocl_tarn_k1 tarn tarn_static EXPORT ocl_tarn_k1
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-  RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
   ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
-if(WIN32)
-  install(FILES include/ocl_tarn_k1_windows.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
-else()
-  install(FILES include/ocl_tarn_k1.h include/ocl_tarn_k1.cl.h include/tarn.h include/tarn_simd.h
-          DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
-endif()
+install(FILES include/ocl_tarn_k1.h include/ocl_tarn_k1.cl.h include/tarn.h include/tarn_simd.h
+        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 if(TARGET catalogue)
   install(FILES ${PROJECT_BINARY_DIR}/exports.json docs/exports.schema.json DESTINATION ${CMAKE_INSTALL_DATADIR}/ocl_tarn_k1)
 endif()
@@ -38,9 +35,6 @@ install(FILES cmake/ocl_tarn_k1-config.cmake DESTINATION ${package_dir})
 write_basic_package_version_file(${CMAKE_CURRENT_BINARY_DIR}/ocl_tarn_k1-config-version.cmake COMPATIBILITY SameMajorVersion)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/ocl_tarn_k1-config-version.cmake DESTINATION ${package_dir})
 
-if(WIN32)
-  return()
-endif()
 # Found from where the file lies, so that an installed tree can be moved; a directory named absolutely stays there.
 if(IS_ABSOLUTE ${CMAKE_INSTALL_LIBDIR})
   set(TARN_PC_PREFIX ${CMAKE_INSTALL_PREFIX})

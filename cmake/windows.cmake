@@ -15,7 +15,11 @@ set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 
 # Clang does not find the C++ headers of this gcc; of its libraries the module needs none.
-execute_process(COMMAND ${target}-g++ -print-libgcc-file-name OUTPUT_VARIABLE libgcc OUTPUT_STRIP_TRAILING_WHITESPACE)
+execute_process(COMMAND ${target}-g++ -print-libgcc-file-name
+                OUTPUT_VARIABLE libgcc ERROR_QUIET OUTPUT_STRIP_TRAILING_WHITESPACE)
+if(NOT libgcc)
+  message(FATAL_ERROR "${target}-g++ is missing, whose C++ headers the module needs (Debian: g++-mingw-w64-x86-64)")
+endif()
 get_filename_component(gcc_directory "${libgcc}" DIRECTORY)
 set(CMAKE_CXX_STANDARD_INCLUDE_DIRECTORIES ${gcc_directory}/include/c++ ${gcc_directory}/include/c++/${target})
 set(CMAKE_TRY_COMPILE_TARGET_TYPE STATIC_LIBRARY)

@@ -24,7 +24,8 @@ int main(void) {
     tarn_float4 cosine;
     const tarn_float4 sine = sincosf4(x, &cosine);
     for (int i = 0; i < 4; i++)
-        printf("%g: exp %.9g, sin %.9g, cos %.9g, %g^x %.9g\n", x[i], exponential[i], sine[i], cosine[i], n[i], power[i]);
+        printf("%g: exp %.9g, sin %.9g, cos %.9g, %g^x %.9g\n", x[i], exponential[i], sine[i], cosine[i], n[i],
+               power[i]);
 
     tarn_double16 wide;
     for (int i = 0; i < 16; i++) wide.block[i / 2][i % 2] = i - 8;

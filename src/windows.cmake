@@ -11,4 +11,5 @@ target_link_options(ocl_tarn_k1 PRIVATE
   -nostdlib -Wl,--entry=tarn_entry -Wl,--exclude-all-symbols -Wl,--no-insert-timestamp -s)
 # In the place of the linker's own import library, one that knows decorated names too.
 add_custom_command(TARGET ocl_tarn_k1 POST_BUILD VERBATIM
-  COMMAND ${CMAKE_DLLTOOL} --input-def ${CMAKE_CURRENT_SOURCE_DIR}/families/imports.def --output-lib $<TARGET_LINKER_FILE:ocl_tarn_k1>)
+  COMMAND ${CMAKE_DLLTOOL} --input-def ${CMAKE_CURRENT_SOURCE_DIR}/families/imports.def
+                           --output-lib $<TARGET_LINKER_FILE:ocl_tarn_k1>)

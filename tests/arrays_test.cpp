@@ -297,7 +297,9 @@ TEST_P(VectorFunctions, HaveTheBitsOfAsManyLanes) {
         const std::size_t j = i * expected.width;
         ASSERT_TRUE(same(first.type(), first.pattern(i), expected.first.pattern(j)))
             << name << '(' << lanes_text(args, i) << ") gives " << hex(first.pattern(i)) << ", the module " << hex(expected.first.pattern(j));
-        if (expected.second.size()) ASSERT_TRUE(same(second.type(), second.pattern(i), expected.second.pattern(j))) << name << '(' << lanes_text(args, i) << ')';
+        if (expected.second.size()) {
+            ASSERT_TRUE(same(second.type(), second.pattern(i), expected.second.pattern(j))) << name << '(' << lanes_text(args, i) << ')';
+        }
     }
 }
 
@@ -392,7 +394,9 @@ TEST(LibraryFile, KeepsLevelsApart) {
             continue;
         }
         for (const auto& to : code.leads_to)
-            if (const auto target = functions.find(to); target != functions.end()) EXPECT_FALSE(target->second.avx) << code.name << " leads to " << target->second.name;
+            if (const auto target = functions.find(to); target != functions.end()) {
+                EXPECT_FALSE(target->second.avx) << code.name << " leads to " << target->second.name;
+            }
     }
     EXPECT_GT(plain, 300);
     EXPECT_GT(wide, 200);

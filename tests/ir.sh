@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# The LLVM declarations of docs/abi.md, compiled, linked to the module and called; and the mistake that the page warns of.
+# The LLVM declarations of docs/abi.md, compiled, linked to the module and called; and the mistake that it warns of.
 #   ir.sh MODULE SOURCE_DIR
 set -euo pipefail
 module=${TARN_MODULE:-$1} source=$2

@@ -13,7 +13,8 @@ std::string placed(const std::string& name, Convention convention) {
     const Shape& shape = e.family->shape;
     const Placement p = placement(shape, e.width, convention);
     std::string text = result_text(p.result, shape.result, convention) + " <";
-    for (std::size_t i = 0; i < p.args.size(); i++) text += (i ? "; " : " ") + argument_text(p.args[i], shape.args[i], convention);
+    for (std::size_t i = 0; i < p.args.size(); i++)
+        text += (i ? "; " : " ") + argument_text(p.args[i], shape.args[i], convention);
     if (p.second.where != Place::Where::nowhere) text += " > " + argument_text(p.second, shape.second, convention);
     return text;
 }

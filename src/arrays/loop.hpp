@@ -174,13 +174,13 @@ private:
         const auto at = [&](int g) __attribute__((always_inline)) { return L::fast(loaded<lanes, bytes>(x + g * lanes)...); };
         const decltype(at(0)) group[] = {at(i)...};
         (take<R>(i, flags, value_of(group[i]), value), ...);
-        (take_seconds(i, flags, group[i], second...), ...);
+        const auto take_seconds = [&](int g, const auto& from) __attribute__((always_inline)) {
+            if constexpr (sizeof...(S) != 0) (take<S>(g, flags, from.second, second), ...);
+        };
+        (take_seconds(i, group[i]), ...);
         if constexpr (requires { group[0].special; })
             if (const unsigned beyond = flags & ((flags_of<lanes>(group[i].special) << (i * lanes)) | ...))
                 Settled<L, bytes>::run(beyond, x..., value, second...);
-    }
-    template <class G> static TARN_INLINE void take_seconds(int g, unsigned flags, const G& group, S*... second) {
-        (take<S>(g, flags, group.second, second), ...);
     }
     // The flagged lanes of group g.
     template <class Lane, class V> static TARN_INLINE void take(int g, unsigned flags, V from, Lane* to) {

@@ -28,10 +28,10 @@ Placement system_v(const Shape& shape, int width) {
     return p;
 }
 
-// Four xmm registers carry arguments. What takes more than four, the vectors of 16 lanes of 64 bits, travels by a pointer
-// in the next integer register; what no longer fits whole into what is left, by one in a stack slot. A pointer to such
-// a vector has every other slot, the one to a second result the next. A result of more than four registers goes
-// through a hidden pointer.
+// Four xmm registers carry arguments. What takes more than four, the vectors of 16 lanes of 64 bits, travels by a
+// pointer in the next integer register; what no longer fits whole into what is left, by one in a stack slot. A pointer
+// to such a vector has every other slot, the one to a second result the next. A result of more than four registers
+// goes through a hidden pointer.
 Placement windows(const Shape& shape, int width) {
     constexpr int registers = 4;
     Placement p;
@@ -52,7 +52,8 @@ Placement windows(const Shape& shape, int width) {
         }
     }
     if (shape.second == Lane::none || shape.pair) return p;
-    p.second = blocks(shape.args[0], width) > registers ? Place{integer, integers, 1, true} : Place{stack, slots + 1, 1, true};
+    const bool in_memory = blocks(shape.args[0], width) > registers;
+    p.second = in_memory ? Place{integer, integers, 1, true} : Place{stack, slots + 1, 1, true};
     return p;
 }
 
@@ -74,7 +75,8 @@ bool is_vectorcall(const Shape& shape, int width) {
     for (std::size_t i = 0; i < p.args.size(); i++) {
         const Place& arg = p.args[i];
         // A single vector has the register of its place among the arguments.
-        if (arg.where == stack || (arg.where == vectors && arg.count == 1 && arg.first != static_cast<int>(i))) return false;
+        const bool elsewhere = arg.where == vectors && arg.count == 1 && arg.first != static_cast<int>(i);
+        if (arg.where == stack || elsewhere) return false;
     }
     return p.second.where != stack;
 }
@@ -99,7 +101,8 @@ std::string place_text(const Place& place, Convention convention) {
 
 std::string argument_text(const Place& place, Lane type, Convention convention) {
     if (place.by_reference) return place_text(place, convention) + ", by reference";
-    return place.where == integer ? integer_register(place.first, bytes(type), convention) : place_text(place, convention);
+    if (place.where == integer) return integer_register(place.first, bytes(type), convention);
+    return place_text(place, convention);
 }
 
 std::string result_text(const Place& place, Lane type, Convention convention) {

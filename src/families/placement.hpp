@@ -19,9 +19,10 @@ struct Place {
         stack,    // above the return address
     };
     Where where = Where::nowhere;
-    int first = 0;           // the first xmm register; which integer register, in the convention's order, or returned: 0;
-                             // which 8-byte slot above the return address, the lowest being 1
-    int count = 0;           // how many registers or slots
+    // The first xmm register; which integer register, in the convention's order, 0 for a result; which 8-byte slot
+    // above the return address, the lowest being 1.
+    int first = 0;
+    int count = 0;              // how many registers or slots
     bool by_reference = false;  // a pointer to it travels, not it
     bool operator==(const Place&) const = default;
 };
@@ -37,9 +38,9 @@ Placement placement(const Shape& shape, int width, Convention convention);
 // 16-byte registers or blocks that a vector takes; width 3 is carried as 4.
 int blocks(Lane type, int width);
 
-// Whether a Windows compiler's __vectorcall places it alike: where nothing travels in a slot, and no single vector after
-// a longer one. Widths 1 of integers and 2 of 32-bit lanes are then declared with a 16-byte vector, of which only
-// those lanes count.
+// Whether a Windows compiler's __vectorcall places it alike: where nothing travels in a slot, and no single vector
+// after a longer one. Widths 1 of integers and 2 of 32-bit lanes are then declared with a 16-byte vector, of which
+// only those lanes count.
 bool is_vectorcall(const Shape& shape, int width);
 
 // For people: "xmm0", "xmm0-xmm3", "rdx, by reference", "slot 1, by reference"; and of an integer register that holds

@@ -31,9 +31,12 @@ template <class K, int width> struct Arguments {
     }
     template <class Lane> static constexpr int used = size<Lane> > argument_registers ? 0 : size<Lane>;
 
-    static constexpr bool second_fits() { return in_register_after<typename Listed::second>(used<typename Listed::first>); }
+    static constexpr bool second_fits() {
+        return in_register_after<typename Listed::second>(used<typename Listed::first>);
+    }
     static constexpr bool third_fits() {
-        return second_fits() && in_register_after<typename Listed::third>(used<typename Listed::first> + used<typename Listed::second>);
+        constexpr int both = used<typename Listed::first> + used<typename Listed::second>;
+        return second_fits() && in_register_after<typename Listed::third>(both);
     }
     static constexpr bool first_in_memory = size<typename Listed::first> > argument_registers;
 };
@@ -46,10 +49,11 @@ template <class Lane> struct InNext {
 
 template <class K, int width> using Arg1 = Carried<typename ListedArgs<K>::first, width>;
 template <class Lane, class First, int width>
-using CarriedAfter = std::conditional_t<in_blocks<First, width> && !in_blocks<Lane, width>, InNext<Lane>, Carried<Lane, width>>;
-template <class K, int width>
+using CarriedAfter = std::conditional_t<in_blocks<First, width> && !in_blocks<Lane, width>,
+                                        InNext<Lane>, Carried<Lane, width>>;
+template <class K, int width, class Listed = ListedArgs<K>>
 using Arg2 = std::conditional_t<Arguments<K, width>::second_fits(),
-                                CarriedAfter<typename ListedArgs<K>::second, typename ListedArgs<K>::first, width>, Slot<1>>;
+                                CarriedAfter<typename Listed::second, typename Listed::first, width>, Slot<1>>;
 // A vector's pointer takes every other slot.
 template <class K, int width>
 using Arg3 = std::conditional_t<Arguments<K, width>::third_fits(), Carried<typename ListedArgs<K>::third, width>,
@@ -76,7 +80,8 @@ TARN_INLINE Vec<Lane, width> taken(Carried<Lane, width> x, void* const*) {
     if constexpr (width == 1) return x[0];
     else return __builtin_shufflevector(x, x, 0, 1);
 }
-template <class Lane, int width> TARN_INLINE const Vec<Lane, width>& taken(const InNext<Lane>& x, void* const*) { return x.block; }
+template <class Lane, int width>
+TARN_INLINE const Vec<Lane, width>& taken(const InNext<Lane>& x, void* const*) { return x.block; }
 template <class Lane, int number> TARN_INLINE Lane* second_at(Slot<number>, void* const* return_address) {
     return static_cast<Lane*>(return_address[number]);
 }
@@ -88,9 +93,8 @@ template <class Lane, int width> TARN_INLINE Carried<Lane, width> carried(const 
     else if constexpr (width == 1) return Carried<Lane, width>{v};
     else return __builtin_shufflevector(v, v, 0, 1, -1, -1);
 }
-template <class K, int width> TARN_INLINE auto carried_of(const Vec<typename Parts<typename K::Signature>::Result, width>& v) {
-    return carried<typename Parts<typename K::Signature>::Result, width>(v);
-}
+template <class K, int width, class Lane = typename Parts<typename K::Signature>::Result>
+TARN_INLINE auto carried_of(const Vec<Lane, width>& v) { return carried<Lane, width>(v); }
 
 // Two results returned.
 template <class K, int width, class Pair, class... V> TARN_INLINE void run_both(Pair& pair, const V&... x) {
@@ -115,10 +119,12 @@ template <class K, int width, class Pair, class... V> TARN_INLINE void run_both(
 #define TARN_SIGNATURE_unary(name, width, K)                                                                    \
     tarn::windows::ResultOf<K, width> __vectorcall name(tarn::windows::Arg1<K, width> x)
 #define TARN_SIGNATURE_binary(name, width, K)                                                                   \
-    tarn::windows::ResultOf<K, width> __vectorcall name(tarn::windows::Arg1<K, width> x, tarn::windows::Arg2<K, width> y)
+    tarn::windows::ResultOf<K, width> __vectorcall name(tarn::windows::Arg1<K, width> x,                        \
+                                                        tarn::windows::Arg2<K, width> y)
 #define TARN_SIGNATURE_ternary(name, width, K)                                                                  \
     tarn::windows::ResultOf<K, width> __vectorcall name(tarn::windows::Arg1<K, width> x,                        \
-                                                        tarn::windows::Arg2<K, width> y, tarn::windows::Arg3<K, width> z)
+                                                        tarn::windows::Arg2<K, width> y,                        \
+                                                        tarn::windows::Arg3<K, width> z)
 #define TARN_SIGNATURE_unary_second(name, width, K)                                                             \
     tarn::windows::ResultOf<K, width> __vectorcall name(tarn::windows::Arg1<K, width> x,                        \
                                                         tarn::windows::SecondAfter1<K, width> second)

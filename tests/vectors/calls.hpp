@@ -62,10 +62,9 @@ template <class Lane, class V, class P> struct Loops {
     static constexpr Calls calls = {unary, binary, pair, scatter};
 };
 
+template <class Lane, int bytes> struct Register { typedef Lane type __attribute__((vector_size(bytes))); };
 template <class Lane, int bytes, int pointer_bytes> constexpr Calls calls_of() {
-    typedef Lane V __attribute__((vector_size(bytes)));
-    typedef std::int64_t P __attribute__((vector_size(pointer_bytes)));
-    return Loops<Lane, V, P>::calls;
+    return Loops<Lane, typename Register<Lane, bytes>::type, typename Register<std::int64_t, pointer_bytes>::type>::calls;
 }
 
 }  // namespace

@@ -5,7 +5,7 @@
 
 #include <stdint.h>
 
-enum { cases_magic = 0x4E524154, most_arguments = 3, name_bytes = 56 };
+enum { cases_magic = 0x4E524154, most_arguments = 3, name_bytes = 48 };
 
 typedef struct cases_header {
     uint32_t magic, exports;
@@ -17,18 +17,19 @@ typedef struct cases_place {
     uint8_t where, first, by_reference, unused;
 } cases_place;
 
-/* `lanes` is the bytes that a width has lanes for, `stored` those that a second result is written with, `real` the bytes
- * of a floating-point lane, or 0. */
+/* `lanes` is the bytes that a width has lanes for, `stored` those that a second result is written with, `real` the
+ * bytes of a floating-point lane, or 0. */
 typedef struct cases_vector {
     cases_place place;
     uint16_t blocks, lanes, stored, real;
 } cases_vector;
 
 /* Of a pair the result has both vectors, one after the other, and `second` stands for none. A call is the blocks of
- * the arguments, of the result and of the second result. */
+ * the arguments, of the result and of the second result, and one that begins with what the call raises; `ordinary` is
+ * one without special lanes. Flags: `raises_alike` where no compiler may raise more than another. */
 typedef struct cases_export {
     char name[name_bytes];
-    uint32_t arguments, pair, calls, unused;
+    uint32_t arguments, pair, calls, ordinary, raises_alike, unused;
     cases_vector argument[most_arguments], result, second;
 } cases_export;
 

@@ -12,6 +12,9 @@
         .set gpr_out, 736
         .set mxcsr_out, 864
         .set x87_out, 868
+        .set mxcsr_in, 896
+        .set x87_in, 900
+        .set own_x87, 902
 
         .text
         .globl  make_call, after_call
@@ -37,6 +40,10 @@ make_call:
         .irp    n, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15
         movups  call+xmm_in+16*\n(%rip), %xmm\n
         .endr
+        fnclex
+        fnstcw  call+own_x87(%rip)
+        fldcw   call+x87_in(%rip)
+        ldmxcsr call+mxcsr_in(%rip)
         cmpq    $0, call+trap(%rip)
         je      1f
         pushfq
@@ -72,6 +79,7 @@ after_call:
         stmxcsr call+mxcsr_out(%rip)
         fnstenv call+x87_out(%rip)
         fldenv  call+x87_out(%rip)
+        fldcw   call+own_x87(%rip)
         movq    call+own_stack(%rip), %rsp
         pushfq
         andq    $~0x100, (%rsp)

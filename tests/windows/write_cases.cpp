@@ -8,22 +8,29 @@
 #include <utility>
 
 #include "families/placement.hpp"
+#include "raised.hpp"
 #include "samples.hpp"
 #include "windows/cases.h"
 
 namespace tarn::test {
 namespace {
 
+struct Rows {
+    std::vector<Lanes> args;
+    std::size_t ordinary;  // the first of many
+};
+
 // Ordinary rows together, so that wide calls of them take the short way; special ones between others.
-std::vector<Lanes> rows_for(const Family& f, std::size_t width, std::mt19937_64& random) {
-    constexpr std::size_t special = 192, ordinary = 64, any = 64;
+Rows rows_for(const Family& f, std::size_t width, std::mt19937_64& random) {
+    constexpr std::size_t ordinary = 64, any = 64;
     const std::size_t arity = f.shape.args.size();
     std::vector<std::vector<std::uint64_t>> values;
     for (std::size_t a = 0; a < arity; a++) values.push_back(structured(f, a));
     for (auto& v : values) std::shuffle(v.begin(), v.end(), random);
+    const std::size_t special = (std::max<std::size_t>(192, values[0].size()) + width - 1) / width * width;
     std::vector<std::vector<std::uint64_t>> rows(arity);
     for (std::size_t a = 0; a < arity; a++) {
-        for (std::size_t i = 0; i < std::max(special, values[0].size()); i++)
+        for (std::size_t i = 0; i < special; i++)
             rows[a].push_back(i < values[a].size() ? values[a][i] : values[a][random() % values[a].size()]);
         for (std::size_t i = 0; i < ordinary; i++) rows[a].push_back(random_lane(f, a, true, random));
         for (std::size_t i = 0; i < any; i++) rows[a].push_back(random_lane(f, a, i % 2 == 0, random));
@@ -34,7 +41,7 @@ std::vector<Lanes> rows_for(const Family& f, std::size_t width, std::mt19937_64&
         args.emplace_back(f.shape.args[a], rows[a].size());
         for (std::size_t i = 0; i < rows[a].size(); i++) args[a].set(i, rows[a][i]);
     }
-    return args;
+    return {std::move(args), special};
 }
 
 cases_place described(const Place& p) {
@@ -49,7 +56,8 @@ cases_vector described(const Place& p, Lane type, int width) {
     if (type == Lane::none) return {};
     const int lane = bytes(type);
     return {described(p), static_cast<std::uint16_t>(blocks(type, width)), static_cast<std::uint16_t>(width * lane),
-            static_cast<std::uint16_t>((width == 3 ? 4 : width) * lane), static_cast<std::uint16_t>(is_float(type) ? lane : 0)};
+            static_cast<std::uint16_t>((width == 3 ? 4 : width) * lane),
+            static_cast<std::uint16_t>(is_float(type) ? lane : 0)};
 }
 
 class File {
@@ -78,10 +86,23 @@ void write_vector(File& file, const Lanes& lanes, std::size_t first, int width, 
     file.write(all.data(), all.size());
 }
 
+// What one call raises.
+unsigned raised_by(const Function& f, const std::vector<Lanes>& args, std::size_t first) {
+    std::vector<Lanes> lanes;
+    for (const Lanes& arg : args) {
+        lanes.emplace_back(arg.type(), static_cast<std::size_t>(f.width()));
+        for (std::size_t i = 0; i < lanes.back().size(); i++) lanes.back().set(i, arg.pattern(first + i));
+    }
+    Lanes result, second;
+    clear_raised();
+    f(lanes, result, &second);
+    return raised();
+}
+
 void write_export(File& file, const Function& f, std::mt19937_64& random) {
     const Shape& shape = f.family().shape;
     const auto width = static_cast<std::size_t>(f.width());
-    const auto args = rows_for(f.family(), width, random);
+    const auto [args, ordinary] = rows_for(f.family(), width, random);
     Lanes result, second;
     f(args, result, &second);
 
@@ -92,6 +113,8 @@ void write_export(File& file, const Function& f, std::mt19937_64& random) {
     e.arguments = static_cast<std::uint32_t>(args.size());
     e.pair = shape.pair;
     e.calls = static_cast<std::uint32_t>(args[0].size() / width);
+    e.raises_alike = f.family().base != "fma" && f.family().base != "fmaf";
+    e.ordinary = static_cast<std::uint32_t>(ordinary / width);
     for (std::size_t a = 0; a < args.size(); a++) e.argument[a] = described(p.args[a], shape.args[a], f.width());
     e.result = described(p.result, shape.result, f.width());
     e.second = described(p.second, shape.second, f.width());
@@ -100,6 +123,8 @@ void write_export(File& file, const Function& f, std::mt19937_64& random) {
         for (const Lanes& arg : args) write_vector(file, arg, first, f.width(), first / width % 2 ? 0xFF : 0x7F);
         write_vector(file, result, first, f.width(), 0);
         if (shape.second != Lane::none) write_vector(file, second, first, f.width(), 0);
+        const std::uint32_t raised[4] = {raised_by(f, args, first)};
+        file.write(raised, sizeof raised);
     }
 }
 

@@ -33,7 +33,8 @@ std::string signature(const Shape& s) {
 std::string placed(const Shape& s, int width, Convention convention) {
     const Placement p = placement(s, width, convention);
     std::string text;
-    for (std::size_t i = 0; i < p.args.size(); i++) text += (i ? "; " : "") + argument_text(p.args[i], s.args[i], convention);
+    for (std::size_t i = 0; i < p.args.size(); i++)
+        text += (i ? "; " : "") + argument_text(p.args[i], s.args[i], convention);
     if (p.second.where != Place::Where::nowhere) text += "; pointer: " + place_text(p.second, convention);
     return text + " | " + result_text(p.result, s.result, convention);
 }
@@ -48,12 +49,14 @@ std::string table() {
         const Shape s = signless(f.shape);
         if (std::find(shapes.begin(), shapes.end(), s) == shapes.end()) shapes.push_back(s);
     }
-    std::string text = "\n| arguments and result | width | System V: arguments | result | Windows x64: arguments | result | declared |\n"
+    std::string text = "\n| arguments and result | width | System V: arguments | result "
+                       "| Windows x64: arguments | result | declared |\n"
                        "|---|---|---|---|---|---|---|\n";
     for (const Shape& s : shapes) {
         std::string of = signature(s), before, numbers;
         for (const int width : widths) {
-            const std::string cells = placed(s, width, Convention::system_v) + " | " + placed(s, width, Convention::windows) + " | " +
+            const std::string cells = placed(s, width, Convention::system_v) + " | " +
+                                      placed(s, width, Convention::windows) + " | " +
                                       (is_vectorcall(s, width) ? "yes" : "by name");
             if (cells == before) {
                 numbers += ", " + std::to_string(width);

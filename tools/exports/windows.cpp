@@ -16,7 +16,8 @@ std::string carried_type(Lane t, int width) {
 
 std::string declaration(const Family& f, int width, Variant v) {
     const Shape& s = f.shape;
-    const std::string result = s.pair ? result_type(s, width) : carried_type(s.result, width), name = export_name(f.base, width, v);
+    const std::string result = s.pair ? result_type(s, width) : carried_type(s.result, width);
+    const std::string name = export_name(f.base, width, v);
     std::string text = result + " TARN_CALL " + name + '(';
     static const char* const names[] = {"x", "y", "z"};
     for (std::size_t i = 0; i < s.args.size(); i++) {
@@ -32,15 +33,16 @@ void types() {
         const std::string name = "tarn_" + std::string(stem(t));
         const int per_block = 16 / bytes(t);
         const std::string block = name + std::to_string(per_block);
-        std::printf("TARN_VECTOR(%s, %s, %s);\n", c_type(t), block.c_str(), t == Lane::f32 ? "__m128" : t == Lane::f64 ? "__m128d" : "__m128i");
+        const char* const microsofts = t == Lane::f32 ? "__m128" : t == Lane::f64 ? "__m128d" : "__m128i";
+        std::printf("TARN_VECTOR(%s, %s, %s);\n", c_type(t), block.c_str(), microsofts);
         std::string same = is_float(t) ? "" : name + '1';
         for (const int width : {2, 3})
             if (width < per_block) same += (same.empty() ? "" : ", ") + name + std::to_string(width);
         if (!same.empty()) std::printf("typedef %s %s;\n", block.c_str(), same.c_str());
         for (const int width : {4, 8, 16})
             if (width > per_block)
-                std::printf("typedef struct %s%d { %s block[%d]; } %s%d%s;\n", name.c_str(), width, block.c_str(), width / per_block, name.c_str(),
-                            width, width == 4 ? (", " + name + '3').c_str() : "");
+                std::printf("typedef struct %s%d { %s block[%d]; } %s%d%s;\n", name.c_str(), width, block.c_str(),
+                            width / per_block, name.c_str(), width, width == 4 ? (", " + name + '3').c_str() : "");
         std::puts("");
     }
     std::puts("/* Sine and cosine together. */");
