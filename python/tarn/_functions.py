@@ -72,6 +72,27 @@ def _check(name, array, dtype, shape):
         raise ValueError(f"{name}: out is read-only")
 
 
+def _is_plain(overload, values, wanted):
+    """Whether libtarn takes the arrays as they lie, the usual call: of one shape, contiguous, results apart or in place."""
+    shape = values[0].shape
+    if not shape:
+        return False
+    for array, dtype in zip((*values, *wanted), overload.arguments + overload.results):
+        if array is not None and not (
+            type(array) is np.ndarray and array.dtype == dtype and array.shape == shape and array.flags.c_contiguous
+        ):
+            return False
+    given = [array for array in wanted if array is not None]
+    for array in given:
+        if not array.flags.writeable or (len(given) == 2 and np.may_share_memory(*given)):
+            return False
+        for value in values:
+            in_place = _address(value) == _address(array) and value.itemsize == array.itemsize
+            if not in_place and np.may_share_memory(value, array):
+                return False
+    return True
+
+
 def _run(name, overload, values, wanted):
     dtypes = overload.arguments + overload.results
     try:
@@ -112,15 +133,15 @@ def _function(name, overloads):
     def function(*values, out=None):
         if len(values) != count:
             raise TypeError(f"{name} takes {count} argument{'s' * (count > 1)}, {len(values)} given")
-        # One contiguous array, the usual call.
-        if count == results == 1 and out is None and type(values[0]) is np.ndarray:
-            x = values[0]
-            overload = overloads.get(x.dtype)
-            if overload and x.ndim and x.flags.c_contiguous:
-                r = np.empty(x.shape, overload.results[0])
-                overload.call(x.size, _address(x), _address(r))
-                return r
         wanted = _outputs(name, out, results)
+        overload = type(values[0]) is np.ndarray and overloads.get(values[0].dtype)
+        if overload and _is_plain(overload, values, wanted):
+            computed = [
+                array if array is not None else np.empty(values[0].shape, dtype)
+                for array, dtype in zip(wanted, overload.results)
+            ]
+            overload.call(values[0].size, *map(_address, values), *map(_address, computed))
+            return computed[0] if results == 1 else tuple(computed)
         try:
             precision = _precision(name, [(arguments[at], values[at]) for at in floats])
             arrays = [np.asarray(value) for value in values]

@@ -3,6 +3,7 @@
 #include <bit>
 #include <cstdio>
 #include <fstream>
+#include <sstream>
 
 namespace tarn {
 
@@ -150,6 +151,15 @@ std::string description(const Family& f, Of of) {
     if (!error.empty()) text += ' ' + error;
     for (const auto& sentence : exceptions(f, of)) text += ' ' + sentence;
     return text;
+}
+
+void print_version() {
+    std::istringstream version(TARN_VERSION);
+    for (const char* part : {"MAJOR", "MINOR", "PATCH"}) {
+        std::string number;
+        std::getline(version, number, '.');
+        std::printf("#define TARN_VERSION_%s %s\n", part, number.c_str());
+    }
 }
 
 void print_group(const Family& f, std::string& group) {
