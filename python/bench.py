@@ -47,7 +47,7 @@ def times(module, column, options):
 
 def main():
     parser = argparse.ArgumentParser(description="Times tarn beside NumPy, as it is and without AVX-512.")
-    parser.add_argument("--elements", type=int, default=10000)
+    parser.add_argument("--elements", type=int, default=100000)
     parser.add_argument("--seconds", type=float, default=0.5, help="for each figure")
     parser.add_argument("--numpy-alone", action="store_true", help="NumPy's figures as JSON")
     options = parser.parse_args()

@@ -19,6 +19,7 @@ class _Overload:
         self.arguments = [_dtypes[argument["lane"]] for argument in entry["arguments"]]
         results = [entry["result"], entry["second"]] if entry["second"] else [entry["result"]]
         self.results = [_dtypes[result["lane"]] for result in results]
+        self.dtypes = self.arguments + self.results
         name = "tarn_" + entry["base"] + ("" if entry["variant"] == "full" else "_" + entry["variant"])
         self.call = library.function(name, len(self.arguments) + len(self.results))
 
@@ -72,29 +73,44 @@ def _check(name, array, dtype, shape):
         raise ValueError(f"{name}: out is read-only")
 
 
-def _is_plain(overload, values, wanted):
-    """Whether libtarn takes the arrays as they lie, the usual call: of one shape, contiguous, results apart or in place."""
+def _run_plain(overload, values, wanted):
+    """The usual call: arrays of one shape that libtarn takes as they lie. None where they are anything else."""
     shape = values[0].shape
     if not shape:
-        return False
-    for array, dtype in zip((*values, *wanted), overload.arguments + overload.results):
-        if array is not None and not (
-            type(array) is np.ndarray and array.dtype == dtype and array.shape == shape and array.flags.c_contiguous
-        ):
-            return False
-    given = [array for array in wanted if array is not None]
-    for array in given:
-        if not array.flags.writeable or (len(given) == 2 and np.may_share_memory(*given)):
-            return False
-        for value in values:
-            in_place = _address(value) == _address(array) and value.itemsize == array.itemsize
-            if not in_place and np.may_share_memory(value, array):
-                return False
-    return True
+        return None
+    places = []
+    for array, dtype in zip((*values, *wanted), overload.dtypes):
+        if array is None:
+            places.append(None)
+            continue
+        if type(array) is not np.ndarray or array.dtype != dtype or array.shape != shape:
+            return None
+        flags = array.flags
+        if not flags.c_contiguous or (len(places) >= len(values) and not flags.writeable):
+            return None
+        places.append(array.__array_interface__["data"][0])
+    # Results lie apart from all else, or exactly on an argument.
+    size = values[0].size
+    for at in range(len(values), len(places)):
+        if places[at] is not None:
+            width = overload.dtypes[at].itemsize
+            for other in range(at):
+                if places[other] is not None:
+                    apart = places[at] - places[other]
+                    other_width = overload.dtypes[other].itemsize
+                    in_place = apart == 0 and width == other_width and other < len(values)
+                    if -width * size < apart < other_width * size and not in_place:
+                        return None
+    computed = list(wanted)
+    for at, array in enumerate(wanted):
+        if array is None:
+            computed[at] = np.empty(shape, overload.results[at])
+            places[len(values) + at] = computed[at].__array_interface__["data"][0]
+    overload.call(size, *places)
+    return computed
 
 
 def _run(name, overload, values, wanted):
-    dtypes = overload.arguments + overload.results
     try:
         shape = np.broadcast_shapes(*(value.shape for value in values))
     except ValueError:
@@ -113,7 +129,7 @@ def _run(name, overload, values, wanted):
     if all(value.shape == shape for value in values):
         flags.append("growinner")
     op_flags = [["readonly"]] * len(values) + [["writeonly", "allocate", "no_broadcast"]] * len(wanted)
-    with np.nditer(values + wanted, flags, op_flags, dtypes, casting="same_kind", buffersize=8192) as pieces:
+    with np.nditer(values + wanted, flags, op_flags, overload.dtypes, casting="same_kind", buffersize=8192) as pieces:
         if pieces.itersize:
             for piece in pieces:
                 parts = [np.ascontiguousarray(part) for part in piece]
@@ -134,13 +150,9 @@ def _function(name, overloads):
         if len(values) != count:
             raise TypeError(f"{name} takes {count} argument{'s' * (count > 1)}, {len(values)} given")
         wanted = _outputs(name, out, results)
-        overload = type(values[0]) is np.ndarray and overloads.get(values[0].dtype)
-        if overload and _is_plain(overload, values, wanted):
-            computed = [
-                array if array is not None else np.empty(values[0].shape, dtype)
-                for array, dtype in zip(wanted, overload.results)
-            ]
-            overload.call(values[0].size, *map(_address, values), *map(_address, computed))
+        overload = overloads.get(values[0].dtype) if type(values[0]) is np.ndarray else None
+        computed = _run_plain(overload, values, wanted) if overload else None
+        if computed:
             return computed[0] if results == 1 else tuple(computed)
         try:
             precision = _precision(name, [(arguments[at], values[at]) for at in floats])
