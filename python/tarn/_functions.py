@@ -197,6 +197,7 @@ def _text(head, overloads):
             lines.append(f"{dtype}: largest error found {error['ulp']:.4g} ulp{allowed}; {error['measured']}.")
         elif error:
             lines.append(f"{dtype}: within {error['ulp']:g} ulp.")
+        lines += [f"{dtype}: {sentence}" for sentence in entry["array_exceptions"]]
     return "\n".join(lines)
 
 
