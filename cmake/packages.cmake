@@ -24,16 +24,17 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME ocl-tarn-k1)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
-set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "OpenCL C built-in math functions on vectors and arrays
- The module __ocl_tarn_k1.so, libtarn, both for x86-64 with SSE4.1 and for
- x86-64-v3, and the catalogue of their functions.")
+set(CPACK_DEBIAN_RUNTIME_DESCRIPTION "The module __ocl_tarn_k1.so and libtarn, its functions on arrays,
+both for x86-64 with SSE4.1 and for x86-64-v3, and the catalogue of the functions.")
+# The loader's cache has to hear of them.
+file(WRITE ${CMAKE_CURRENT_BINARY_DIR}/triggers "activate-noawait ldconfig\n")
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${CMAKE_CURRENT_BINARY_DIR}/triggers)
 # The libraries import nothing.
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS OFF)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME ocl-tarn-k1-dev)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
-set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "OpenCL C built-in math functions: headers and tools
- Headers, static libraries, CMake and pkg-config files, documents, examples, and
- the tools tarn-eval, tarn-ulp, tarn-bench and tarn-exports.")
+set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION "Headers, static libraries, CMake and pkg-config files, documents, examples,
+and the tools tarn-eval, tarn-ulp, tarn-bench and tarn-exports.")
 set(CPACK_COMPONENT_DEVELOPMENT_DEPENDS runtime)
 set(CPACK_DEBIAN_ENABLE_COMPONENT_DEPENDS ON)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SHLIBDEPS ON)

@@ -35,7 +35,6 @@ version=$(field "$runtime" Version)
 
 # What control files say.
 for package in "$runtime" "$development"; do
-    dpkg-deb -I "$package" > control
     for line in Package Version Architecture Maintainer Section Priority Installed-Size Description; do
         [ -n "$(field "$package" $line)" ] || fail "$package lacks $line"
     done
@@ -47,6 +46,7 @@ for package in "$runtime" "$development"; do
         fail "$package has odd permissions or owners"
 done
 [ "$(field "$runtime" Package)" = ocl-tarn-k1 ] && [ "$(field "$development" Package)" = ocl-tarn-k1-dev ] || fail "odd names"
+[ "$(dpkg-deb -I "$runtime" triggers)" = "activate-noawait ldconfig" ] || fail "the loader's cache is not told"
 # The libraries need nothing at all; the tools what they are linked to, and the libraries of their own version.
 [ -z "$(field "$runtime" Depends)" ] || fail "the libraries depend on $(field "$runtime" Depends)"
 [[ $(field "$development" Depends) == *"ocl-tarn-k1 (= $version)"* && $(field "$development" Depends) == *libc6* ]] ||

@@ -177,13 +177,13 @@ def _function(name, overloads):
     function.__signature__ = inspect.Signature(parameters)
     module, _, short = name.rpartition(".")
     function.__module__, function.__name__, function.__qualname__ = module, short, short
-    function.__doc__ = _text(f"{short}{function.__signature__}", overloads)
+    function.__doc__ = _text(overloads)
     return function
 
 
-def _text(head, overloads):
+def _text(overloads):
     entries = [overload.entry for overload in overloads.values()]
-    lines = [head, "", entries[0]["formula"] + "."]
+    lines = [entries[0]["formula"] + "."]
     if entries[0]["domain"]:
         lines.append(f"Domain: {entries[0]['domain']}.")
     for dtype, overload in overloads.items():
