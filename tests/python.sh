@@ -31,6 +31,10 @@ unset TARN_CATALOGUE
 LD_LIBRARY_PATH=$library TARN_LIBRARY= $python example.py > output
 grep -q '^\[0.367879.* 1.648721.* 2.71828' output || { cat output; echo "README's example gives something else"; exit 1; }
 LD_LIBRARY_PATH=$library TARN_LIBRARY= $python -c "import tarn; assert str(tarn.library).startswith('$work/a prefix'), tarn.library"
+TARN_LIBRARY=$build/libtarn.so.1 TARN_CATALOGUE=$build/exports.json $python - <<PY || { echo "python/pyproject.toml is of another version"; exit 1; }
+import importlib.metadata, tarn
+assert importlib.metadata.version("tarn") == tarn.__version__
+PY
 # Nowhere at all: one line.
 if LD_LIBRARY_PATH= TARN_LIBRARY= $python -c 'import tarn' 2>output; then
     echo "libtarn is installed on this machine: what is said where it is missing is not tried"
