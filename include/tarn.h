@@ -23,6 +23,10 @@
 #ifndef TARN_H
 #define TARN_H
 
+#define TARN_VERSION_MAJOR 1
+#define TARN_VERSION_MINOR 0
+#define TARN_VERSION_PATCH 0
+
 #include <stddef.h>
 #include <stdint.h>
 

@@ -2,7 +2,6 @@
 
 #include <dlfcn.h>
 
-#include <cstdlib>
 #include <stdexcept>
 
 namespace tarn {
@@ -27,10 +26,7 @@ ArrayLibrary::ArrayLibrary(const std::string& path) : handle_(dlopen(path.c_str(
     if (!handle_) throw std::runtime_error(std::string("cannot load libtarn: ") + dlerror());
 }
 
-std::string ArrayLibrary::built_path() {
-    const char* other = std::getenv("TARN_LIBRARY");
-    return other && *other ? other : TARN_LIBRARY_PATH;
-}
+std::string ArrayLibrary::built_path() { return library_path("TARN_LIBRARY", TARN_LIBRARY_PATH); }
 
 void* ArrayLibrary::symbol(const std::string& name) const { return dlsym(handle_, name.c_str()); }
 

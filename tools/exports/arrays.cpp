@@ -76,7 +76,9 @@ void arrays() {
  * Generated from the table of families by tarn-exports; edit the table. */
 #ifndef TARN_H
 #define TARN_H
-
+)");
+    print_version();
+    std::puts(R"(
 #include <stddef.h>
 #include <stdint.h>
 

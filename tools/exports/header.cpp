@@ -52,7 +52,9 @@ void header() {
  * Generated from the table of families by tarn-exports; edit the table. */
 #ifndef OCL_TARN_K1_H
 #define OCL_TARN_K1_H
-
+)");
+    print_version();
+    std::puts(R"(
 #include <stdint.h>
 
 #ifdef _WIN32

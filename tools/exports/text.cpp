@@ -3,6 +3,7 @@
 #include <bit>
 #include <cstdio>
 #include <fstream>
+#include <sstream>
 
 namespace tarn {
 
@@ -152,6 +153,23 @@ std::string description(const Family& f, Of of) {
     return text;
 }
 
+void print_version() {
+    std::istringstream version(TARN_VERSION);
+    for (const char* part : {"MAJOR", "MINOR", "PATCH"}) {
+        std::string number;
+        std::getline(version, number, '.');
+        std::printf("#define TARN_VERSION_%s %s\n", part, number.c_str());
+    }
+}
+
+void print_group(const Family& f, std::string& group) {
+    if (f.group == group) return;
+    group = f.group;
+    std::string rule = "/* " + group + ' ';
+    rule.resize(100, '-');
+    std::printf("\n%s */\n", rule.c_str());
+}
+
 void print_comment(const std::string& text, std::size_t limit) {
     std::string line = "/*";
     std::size_t at = 0;
@@ -166,14 +184,6 @@ void print_comment(const std::string& text, std::size_t limit) {
         at = end + 1;
     }
     std::puts((line + " */").c_str());
-}
-
-void print_group(const Family& f, std::string& group) {
-    if (f.group == group) return;
-    group = f.group;
-    std::string rule = "/* " + group + ' ';
-    rule.resize(100, '-');
-    std::printf("\n%s */\n", rule.c_str());
 }
 
 int renewed(const char* file, const std::string& what, const std::string& text) {

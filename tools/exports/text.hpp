@@ -43,6 +43,8 @@ std::string description(const Family& f, Of of = Of::calls);
 // A page with the text between its marks of that name renewed, on standard output. The exit status.
 int renewed(const char* file, const std::string& what, const std::string& text);
 
+// The version as macros, the same in every header.
+void print_version();
 // What heads a family's group, where that is another than the last one's.
 void print_group(const Family& f, std::string& group);
 // As a C comment, in lines of at most `limit` characters.
