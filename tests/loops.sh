@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
 # A plain C loop becomes calls of libtarn: the object refers to the vector function, the program takes it from libtarn
 # and not from the C library, its bits are those of the module's kernel with as many lanes, and it is no slower than
-# with the C library's vector functions.   loops.sh BUILD SOURCE-DIRECTORY
+# with the C library's vector functions.   loops.sh BUILD SOURCE-DIRECTORY COMPILER-OF-LIBTARN
 set -euo pipefail
-build=$1 source=$2
+build=$1 source=$2 compiler=$3
 work=$(mktemp -d); trap 'rm -rf "$work"' EXIT
 fail() { echo "$*"; exit 1; }
 has() { grep -qw "$1" /proc/cpuinfo; }
@@ -76,7 +76,7 @@ fi
 [ $checked -gt 0 ] || { echo "skipped: neither gcc nor clang is here"; exit 77; }
 
 # One object with either library, in turns, and the least of each; again where other work of the machine came between.
-# gcc's build of libtarn is a little slower than clang's, which is the one to compare.
+# It is clang's build that has to be ahead; gcc's is slower, and only says by how much.
 cc -O3 -fno-math-errno -I"$source/include" -c "$source/examples/loop.c" -o "$work/loop.o"
 if undefined _ZGVbN4v_expf && cc "$work/loop.o" -o "$work/of_c" -lm 2>/dev/null; then
     cc "$work/loop.o" -o "$work/loop" -L"$build" -ltarn -lm "-Wl,-rpath,$build"
@@ -89,6 +89,7 @@ if undefined _ZGVbN4v_expf && cc "$work/loop.o" -o "$work/of_c" -lm 2>/dev/null;
         awk -v ours="$ours" -v theirs="$theirs" 'BEGIN { exit !(ours < theirs) }' && break
     done
     echo "expf in a loop, vectors of 128 bits: $ours ns an element, with the C library's $theirs"
-    awk -v ours="$ours" -v theirs="$theirs" 'BEGIN { exit !(ours < 1.2 * theirs) }' || fail "slower than with the C library's functions"
+    [ "$compiler" != Clang ] || awk -v ours="$ours" -v theirs="$theirs" 'BEGIN { exit !(ours < 1.1 * theirs) }' ||
+        fail "slower than with the C library's functions"
 fi
 echo "$checked loops call libtarn"
