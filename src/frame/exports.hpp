@@ -48,6 +48,10 @@ template <class K, int width> using CallAt = Call<typename ChosenAt<K, width>::K
 #define TARN_TEXT(name) #name
 #define TARN_QUOTED(name) TARN_TEXT(name)
 
+#ifdef TARN_TRACED
+#include "proofs/door.hpp"
+#else
+
 #define TARN_SHAPE_unary(name, width, K)                                                     \
     tarn::ResultOf<K, width> name(tarn::Arg1<K, width> x) { return tarn::CallAt<K, width>::run(x); }
 #define TARN_SHAPE_binary(name, width, K)                                                    \
@@ -99,3 +103,5 @@ template <class K, int width> using CallAt = Call<typename ChosenAt<K, width>::K
     TARN_EXPORT_WIDTH_SAME(base, 4, variant, like)                                           \
     TARN_EXPORT_WIDTH_SAME(base, 8, variant, like)                                           \
     TARN_EXPORT_WIDTH_SAME(base, 16, variant, like)
+
+#endif
