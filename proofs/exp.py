@@ -3,7 +3,7 @@
 from fractions import Fraction
 import gmpy2
 import powers
-from proof import Interval, enclose, enclose_constant, gappa, literal, require
+from proof import agree_with_module, enclose, enclose_constant, gappa, literal, report, require
 
 power = powers.Power("exp", 16)
 kernel = power.kernel
@@ -39,5 +39,6 @@ for exactly in (f"{{nh}} - {{n}} * {H}", "{s} - (x - {nh})"):
 require(smallest * scale < Fraction(1, 2), "n = 0 for the smallest arguments")
 rest, rest_error = max(asked("{r}").magnitude, smallest), asked("{r} - R").magnitude
 
+agree_with_module(kernel, "exp", 16, ((0.37 * i * i * (-1) ** i,) for i in range(40)))
 worst, row = powers.bound(power, "exp(x)", lambda x: enclose(gmpy2.exp, x), rest, rest_error)
-print(float(worst), row)
+report("exp", 16, worst, f"row {row}")

@@ -1,6 +1,7 @@
 """What the proofs share: a kernel's operations as its own text wrote them down (tarn-trace), Gappa for what rounding
 does to them, Sollya for what a polynomial leaves of a function, MPFR for tables. Numbers are exact fractions; whatever
 is not one is an interval around the true value."""
+import ctypes
 import json
 import math
 import os
@@ -134,6 +135,64 @@ def ulp(value, precision=53):
 SIGNS = {"add": "+", "subtract": "-", "multiply": "*", "divide": "/"}
 
 
+WIDTHS = {"f64": 64, "i64": 64, "u64": 64, "f32": 32, "i32": 32, "u32": 32}
+
+
+def pattern_of(lane, value):
+    """The pattern of a fraction rounded to a lane, or of an integer cut to it."""
+    if lane == "f64":
+        return struct.unpack("<Q", struct.pack("<d", float(value)))[0]
+    if lane == "f32":
+        with gmpy2.local_context(gmpy2.ieee(32)):
+            return struct.unpack("<I", struct.pack("<f", float(gmpy2.mpfr(gmpy2.mpq(value.numerator, value.denominator)))))[0]
+    return int(value) % (1 << WIDTHS[lane])
+
+
+def evaluated(operation, patterns, lanes, tables):
+    """One operation on patterns."""
+    name, lane, text = operation["name"], operation["lane"], operation["text"]
+    values = [lane_value(l, p) for l, p in zip(lanes, patterns)]
+    if name == "constant":
+        return int(text)
+    if name in ("bits", "words"):
+        return patterns[0]
+    if name in SIGNS:
+        a, b = values
+        return pattern_of(lane, a + b if name == "add" else a - b if name == "subtract" else a * b if name == "multiply" else a / b)
+    if name in ("and", "or", "xor"):
+        a, b = patterns
+        return a & b if name == "and" else a | b if name == "or" else a ^ b
+    if name == "not":
+        return ~patterns[0] % (1 << WIDTHS[lane])
+    if name == "shift_left":
+        return patterns[0] << int(text) & ((1 << WIDTHS[lane]) - 1)
+    if name == "shift_right":
+        return pattern_of(lane, values[0].__floor__() >> int(text))
+    if name in ("less", "less_or_equal", "greater", "greater_or_equal", "equal", "unequal"):
+        a, b = values
+        holds = {"less": a < b, "less_or_equal": a <= b, "greater": a > b, "greater_or_equal": a >= b, "equal": a == b,
+                 "unequal": a != b}[name]
+        return (1 << WIDTHS[lane]) - 1 if holds else 0
+    if name == "select":
+        return patterns[1] if patterns[0] >> (WIDTHS[lane] - 1) else patterns[2]
+    if name == "smaller":
+        return patterns[0] if values[0] < values[1] else patterns[1]
+    if name == "larger":
+        return patterns[0] if values[0] > values[1] else patterns[1]
+    if name == "gather":
+        table, column = (int(word) for word in text.split())
+        return tables[table]["entries"][patterns[0] * tables[table]["columns"] + column]
+    if name == "round" and text == "0":
+        return pattern_of(lane, Fraction(round(values[0])))  # Python rounds halves to even, too
+    if name == "convert":
+        return pattern_of(lane, values[0])
+    if name == "high_word":
+        return patterns[0] >> 32
+    if name in ("low_word", "widen_unsigned"):
+        return patterns[0] & 0xFFFFFFFF
+    raise Unproved(f"{name} cannot be evaluated")
+
+
 class Kernel:
     """The fast path of one kernel. Operations are named by number, as in what tarn-trace writes."""
 
@@ -228,6 +287,16 @@ class Kernel:
         lane, columns = self.operations[i]["lane"], table["columns"]
         return [lane_value(lane, p) for p in table["entries"][int(column)::columns]], row
 
+    def evaluate(self, *arguments):
+        """The result's pattern for patterns of arguments, each operation done as the processor does it."""
+        patterns = dict(zip(self.arguments, arguments))
+        for i in self.reached:
+            o = self.operations[i]
+            if i not in patterns:
+                patterns[i] = evaluated(o, [patterns[p] for p in o["operands"]],
+                                        [self.operations[p]["lane"] for p in o["operands"]], self.tables)
+        return patterns[self.result]
+
     # Text for Gappa and Sollya: `names` says what stands for operations that are not to be written out.
 
     def exact(self, i, names):
@@ -303,3 +372,20 @@ sup(supnorm(canonical(p / (1 + near)), {function}, [-B; B], relative, 2^(-20)));
 """)
     near, norm = dyadic(answer[-2]), dyadic(answer[-1])
     return (1 + near) * Interval(1 - norm, 1 + norm) - 1
+
+
+def report(base, width, bound, where):
+    """The line that scripts/prove reads: an upper bound in ulp, rounded up, and where it is largest, for people."""
+    print(f"proved {base} {width} {math.ceil(bound * 10000) / 10000:.4f} {where}")
+
+
+def agree_with_module(kernel, base, width, samples):
+    """The trace computes what the module computes: a guard against a trace that misreads its kernel."""
+    module = os.environ.get("TARN_MODULE", os.path.join(os.path.dirname(TRACE), "../__ocl_tarn_k1.so"))
+    require(width in (1, 16) and all(kernel.operations[i]["lane"] == "f64" for i in kernel.arguments), "doubles one by one")
+    function = getattr(ctypes.CDLL(module), f"__ocl_tarn_k1_{base}1")
+    function.restype, function.argtypes = ctypes.c_double, [ctypes.c_double] * len(kernel.arguments)
+    for sample in samples:
+        theirs = struct.unpack("<Q", struct.pack("<d", function(*sample)))[0]
+        ours = kernel.evaluate(*(struct.unpack("<Q", struct.pack("<d", x))[0] for x in sample))
+        require(ours == theirs, f"{base}{sample}: the trace gives {ours:#x}, the module {theirs:#x}")
