@@ -86,6 +86,10 @@ class Interval:
     def __rtruediv__(self, other):
         return interval(other) / self
 
+    def __abs__(self):
+        low = Fraction(0) if self.low <= 0 <= self.high else min(abs(self.low), abs(self.high))
+        return Interval(low, self.magnitude)
+
     @property
     def magnitude(self):
         return max(abs(self.low), abs(self.high))
