@@ -5,8 +5,7 @@ from fractions import Fraction
 import gmpy2
 
 import sines
-from proof import (Kernel, agree_with_module, exponent_of, gappa, literal, report, require, ulp)
-from sines import PI
+from proof import Kernel, agree_with_module, exponent_of, literal, report, require
 
 kernel = Kernel("sin", 16)
 limit = Fraction(2) ** 24
@@ -17,34 +16,21 @@ r = kernel.bits_of(next(o for o in kernel.operands(kernel.bits_of(signed), "xor"
 # Sine is odd in r as the polynomial is: signs are left away.
 n = kernel.operands(kernel.operands(r, "subtract")[1], "multiply")[0]
 pi = sines.Pieces(kernel, r, n)
-a, shifted = pi.x, kernel.operands(n, "subtract")[0]
+shifted = kernel.operands(n, "subtract")[0]
 t, shifter = kernel.constant_of(shifted, "add")
 scale = kernel.constant_of(t, "multiply")[1]
 
 
-# Binade by binade of x: n is x/pi rounded, and the steps are exact down to the third piece. `slip` is what the last
-# piece's product and pi beyond the pieces lose, at most.
-C, S, P = literal(scale), literal(shifter), [literal(piece) for piece in pi.pieces]
+def nearest(names, C):
+    n_, shifted_, t_, S = names[n], names[shifted], names[t], literal(shifter)
+    return f"({n_} - ({shifted_} - {S})) + ({shifted_} - ({t_} + {S})) + ({t_} - x * {C})"
+
+
 slips, largest_rest = {}, Fraction(0)
 for binade in range(0, exponent_of(limit)):
-    names = {a: "a"}
-    text = kernel.rounded(r, names)
-    t_, n_, shifted_ = names[t], names[n], names[shifted]
-    step, product = [names[i] for i in pi.steps], [names[i] for i in pi.products]
-    exact = [f"{product[i]} - {n_} * {P[i]}" for i in range(3)] + [f"{step[0]} - (a - {product[0]})", f"{step[1]} - ({step[0]} - {product[1]})"]
-    last = f"{product[3]} - {n_} * {P[3]}"
-    questions = " /\\ ".join(f"{e} in ?" for e in exact + [last, n_, step[1], f"{n_} - a * {C}"])
-    answers = gappa(f"""a = rnd(a_);
-{text}
-{{ a in [{literal(2 ** binade)}, {literal(2 ** (binade + 1))}] -> {questions} }}
-{n_} - a * {C} -> ({n_} - ({shifted_} - {S})) + ({shifted_} - ({t_} + {S})) + ({t_} - a * {C});
-a - {product[0]} -> ({product[0]} - {n_} * {P[0]}) * (-1) + (a * {C} - {n_}) / {C} + {n_} * (1 / {C} - {P[0]});
-{step[0]} - {product[1]} -> ({step[0]} - (a - {product[0]})) - ({product[0]} - {n_} * {P[0]}) - ({product[1]} - {n_} * {P[1]}) + (a * {C} - {n_}) / {C} + {n_} * ((1 / {C} - {P[0]}) - {P[1]});
-""")
-    require(all(answers[e].magnitude == 0 for e in exact), f"the reduction is exact from 2^{binade}")
-    slips[binade] = answers[last].magnitude + answers[n_].magnitude * pi.rest.magnitude
-    # x - n pi, of x within half a period and what n's own rounding adds.
-    largest_rest = max(largest_rest, answers[f"{n_} - a * {C}"].magnitude / scale + answers[n_].magnitude * (abs(1 / scale - PI)).magnitude)
+    exact, slips[binade], largest = sines.reduction(kernel, pi, scale, nearest, Fraction(2) ** binade, Fraction(2) ** (binade + 1))
+    require(exact, f"the first two steps are exact from 2^{binade}")
+    largest_rest = max(largest_rest, largest)
 # Below 1, n = 0 as below: r = x.
 require(scale < Fraction(1, 2), "x below 1 is its own rest")
 

@@ -4,7 +4,7 @@ from fractions import Fraction
 
 import gmpy2
 
-from proof import (dyadic, enclose, enclose_constant, exponent_of, gappa_each, lane_value, literal, pattern_of, require,
+from proof import (dyadic, enclose, enclose_constant, exponent_of, gappa, gappa_each, lane_value, literal, pattern_of, require,
                    sollya, ulp)
 
 PI = enclose_constant(gmpy2.const_pi, 300)
@@ -17,6 +17,7 @@ class Pieces:
     """r = (((x - m p1) - m p2) - m p3) - m p4, found from r: the steps, the products and the pieces."""
 
     def __init__(self, kernel, r, m):
+        self.m = m
         self.steps, self.products, self.pieces = [], [], []
         step = r
         while kernel.name(step) == "subtract" and kernel.name(kernel.operands(step)[1]) == "multiply":
@@ -31,6 +32,32 @@ class Pieces:
         self.x = step
         # What the pieces leave of pi.
         self.rest = PI - sum(self.pieces)
+
+
+def reduction(kernel, pieces, scale, chain, low, high):
+    """Gappa's word for x from low to high: that the steps down to the third piece are exact and the rests between; what
+    is lost by the last piece's product and by pi beyond the pieces; the largest |R|. `chain` says how m follows from
+    x scale, in rounded steps."""
+    r, m = pieces.steps[-1], pieces.m
+    names = {pieces.x: "x"}
+    text = kernel.rounded(r, names)
+    m_, C, P = names[m], literal(scale), [literal(piece) for piece in pieces.pieces]
+    step, product = [names[i] for i in pieces.steps], [names[i] for i in pieces.products]
+    lost = [f"{product[i]} - {m_} * {P[i]}" for i in range(4)]
+    first, second = f"{step[0]} - (x - {product[0]})", f"{step[1]} - ({step[0]} - {product[1]})"
+    nearest = f"{m_} - x * {C}"
+    answers = gappa(f"""x = rnd(x_);
+{text}
+{{ x in [{literal(low)}, {literal(high)}] -> {" in ? /@ ".join(lost + [first, second, nearest, m_])} in ? }}
+{nearest} -> {chain(names, C)};
+x - {product[0]} -> ({lost[0]}) * (-1) + (x * {C} - {m_}) / {C} + {m_} * (1 / {C} - {P[0]});
+{step[0]} - {product[1]} -> ({first}) - ({lost[0]}) - ({lost[1]}) + (x * {C} - {m_}) / {C} + {m_} * ((1 / {C} - {P[0]}) - {P[1]});
+""".replace("/@", "/\\"))
+    require(all(answers[e].magnitude == 0 for e in lost[:3]), f"products are exact from {float(low)}")
+    exact = answers[first].magnitude == 0 and answers[second].magnitude == 0
+    slip = answers[lost[3]].magnitude + answers[m_].magnitude * pieces.rest.magnitude
+    largest = answers[nearest].magnitude / scale + answers[m_].magnitude * (1 / scale - PI).magnitude
+    return exact, slip, largest
 
 
 def next_to_zeros(first, limit, distance):
@@ -101,14 +128,14 @@ def binary(value, bits=70):
     return Fraction(round(value * scale)) / scale
 
 
-def main_bound(kernel, y, rests, roundings, slip, largest_rest):
-    """For |r| from NEAR_ZERO on. roundings: how many steps of the reduction round, each a value next to r; slip: what
+def main_bound(kernel, y, rests, roundings, slip, largest_rest, from_rest=NEAR_ZERO):
+    """For |r| from from_rest on. roundings: how many steps of the reduction round, each a value next to r; slip: what
     the reduction loses besides. The bound in ulp of sin R, and the interval of r where it is."""
     boundaries = []
     for e in range(-16, 0):
         a = enclose(gmpy2.asin, Fraction(2) ** e)
         boundaries += [binary(a.low - slip * 8), binary(a.high + slip * 8)]
-    pieces = subdivide(NEAR_ZERO, binary(largest_rest + Fraction(1, 2 ** 60)), boundaries, 64)
+    pieces = subdivide(from_rest, binary(largest_rest + Fraction(1, 2 ** 60)), boundaries, 64)
     errors = local_errors(kernel.exact(y, dict.fromkeys(rests, "x")), pieces)
     # The square is rounded by itself, so that its error meets the polynomial's slope as a whole.
     square = next(i for i in kernel.all("multiply") if kernel.operands(i) == [rests[0], rests[0]])
@@ -122,7 +149,7 @@ def main_bound(kernel, y, rests, roundings, slip, largest_rest):
     worst, where = Fraction(0), None
     for (low, high), error, slope_in_square, rounding in zip(pieces, errors, slopes, gappa_each(questions)):
         rounding = rounding.magnitude + high * slope_in_square * ulp(high * high) / 2
-        near = high + Fraction(1, 2 ** 40)
+        near = high + Fraction(1, 2 ** 20)  # what has still to lose its last pieces
         delta = roundings * ulp(near) / 2 + slip
         top = min(high, PI.low / 2)
         # sin changes by at most cos of the lower end.
