@@ -5,7 +5,7 @@ import powers
 from fractions import Fraction
 from proof import agree_with_module, enclose, gappa, literal, report, require
 
-power = powers.Power("exp2", 16)
+power = powers.Raised("exp2", 16)
 kernel, limit = power.kernel, power.kernel.limit()
 require(power.scaled == power.x, "x itself is rounded to 128ths")
 require(power.step == Fraction(1, power.N), "the shifter rounds to the table's fractions")

@@ -9,32 +9,13 @@ from proof import Interval, Kernel, enclose, exponent_of, gappa, gappa_each, lit
 
 
 class Power:
-    """The parts of such a kernel, found in what it does."""
+    """The parts of such a kernel: y, a row's 2^(j/N) times a polynomial of r, the row's number j being the shifted
+    sum's. `table` are the operations that have the row's value."""
 
-    def __init__(self, base, width):
-        kernel = self.kernel = Kernel(base, width)
+    def __init__(self, kernel, y, table, rows):
+        self.kernel, self.y, self.table, self.rows, self.N = kernel, y, table, rows, len(rows)
         self.x, = kernel.arguments
-        self.table = kernel.all("gather")
-        self.rows, row = kernel.entries(self.table[0])
-        pattern, mask = kernel.constant_of(row, "and")
-        self.shifted = kernel.bits_of(pattern)
-        self.N = int(mask) + 1
-        index_bits = self.N.bit_length() - 1
-        require(len(self.rows) == self.N == 1 << index_bits, "the table has a row for each of N fractions")
-
-        a, b = kernel.operands(kernel.bits_of(kernel.result), "add")
-        mantissa, raised = (a, b) if kernel.name(b) == "shift_left" else (b, a)
-        whole, = kernel.operands(raised, "shift_left", str(52 - index_bits))
-        pattern, kept = kernel.constant_of(whole, "and")
-        require(kernel.same(kernel.bits_of(pattern), self.shifted) and kept == -self.N, "n/N whole exponents are added")
-        self.y = kernel.bits_of(mantissa)
-
-        self.scaled, self.shifter = kernel.constant_of(self.shifted, "add")
-        self.n = next(i for i in kernel.users(self.shifted) if kernel.name(i) == "subtract")
-        require(kernel.operands(self.n)[0] == self.shifted and kernel.value(kernel.operands(self.n)[1]) == self.shifter,
-                "n is the shifted sum without its shifter")
-        self.step = Fraction(2) ** (exponent_of(self.shifter) - 52)  # what a unit of the sum's last place is worth
-        self.r = kernel.neck(self.y, self.x, besides=self.table)
+        self.r = kernel.neck(y, self.x, besides=table)
 
     def function_of_row(self, row):
         return {gather: literal(row) for gather in self.table} | {self.r: "r"}
@@ -43,6 +24,61 @@ class Power:
         """What the table's entry is multiplied by, on real numbers: Sollya's text in x."""
         names = {gather: "1" for gather in self.table} | {self.r: "x"}
         return self.kernel.exact(self.y, names)
+
+
+class Raised(Power):
+    """Where n/N whole exponents are added to y's pattern."""
+
+    def __init__(self, base, width):
+        kernel = Kernel(base, width)
+        table = kernel.all("gather")
+        rows, row = kernel.entries(table[0])
+        pattern, mask = kernel.constant_of(row, "and")
+        self.shifted = kernel.bits_of(pattern)
+        index_bits = len(rows).bit_length() - 1
+        require(len(rows) == mask + 1 == 1 << index_bits, "the table has a row for each of N fractions")
+
+        a, b = kernel.operands(kernel.bits_of(kernel.result), "add")
+        mantissa, raised = (a, b) if kernel.name(b) == "shift_left" else (b, a)
+        whole, = kernel.operands(raised, "shift_left", str(52 - index_bits))
+        pattern, kept = kernel.constant_of(whole, "and")
+        require(kernel.same(kernel.bits_of(pattern), self.shifted) and kept == -len(rows), "n/N whole exponents are added")
+        super().__init__(kernel, kernel.bits_of(mantissa), table, rows)
+
+        self.scaled, self.shifter = kernel.constant_of(self.shifted, "add")
+        self.n = next(i for i in kernel.users(self.shifted) if kernel.name(i) == "subtract")
+        require(kernel.operands(self.n)[0] == self.shifted and kernel.value(kernel.operands(self.n)[1]) == self.shifter,
+                "n is the shifted sum without its shifter")
+        self.step = Fraction(2) ** (exponent_of(self.shifter) - 52)  # what a unit of the sum's last place is worth
+
+
+def reduction(power, scale, n, nearest, unit, limit):
+    """r = (x - n head) - n tail, for n next to x scale as `nearest` says and R = x - n unit: the largest |r| and where
+    r - R lies. The product with the head and the first difference are exact."""
+    kernel = power.kernel
+    s, tail_product = kernel.operands(power.r, "subtract")
+    head_product = kernel.operands(s, "subtract")[1]
+    (n1, head), (n2, tail) = kernel.constant_of(head_product, "multiply"), kernel.constant_of(tail_product, "multiply")
+    require(kernel.operands(s)[0] == power.x and n1 == n2 == n, "r is what two multiples of n leave of x")
+    names = {power.x: "x"}
+    steps = kernel.rounded(power.r, names)
+    n_, s_, r_, head_, tail_ = names[n], names[s], names[power.r], names[head_product], names[tail_product]
+    C, H, T = map(literal, (scale, head, tail))
+    smallest = Fraction(2) ** exponent_of(unit.low / 2)
+    exact = f"{head_} - {n_} * {H}", f"{s_} - (x - {head_})"
+    answers = gappa(f"""x = rnd(x_);
+{steps}
+R = x - {n_} * u;
+{{ |x| in [{literal(smallest)}, {literal(limit)}] /\\ u in [{literal(unit.low)}, {literal(unit.high)}]
+   -> {n_} - x * {C} in ? /\\ {exact[0]} in ? /\\ {exact[1]} in ? /\\ {r_} in ? /\\ {r_} - R in ? }}
+{n_} - x * {C} -> {nearest(names, C)};
+x - {head_} -> ({exact[0]}) * (-1) + (x * {C} - {n_}) / {C} + {n_} * (1 / {C} - {H});
+{r_} - R -> ({r_} - ({s_} - {tail_})) + ({exact[1]}) - ({exact[0]}) - ({tail_} - {n_} * {T}) + {n_} * ((u - {H}) - {T});
+""")
+    require(all(answers[e].magnitude == 0 for e in exact), "the first steps of the reduction are exact")
+    # Nearer to 0, n = 0 and r = x.
+    require(smallest * scale < Fraction(1, 2), "n = 0 for the smallest arguments")
+    return max(answers[r_].magnitude, smallest), answers[f"{r_} - R"]
 
 
 def bound(power, function, base_to, rest_bound, rest_error):

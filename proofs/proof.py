@@ -319,6 +319,11 @@ class Kernel:
         if self.is_constant(i):
             names[i] = literal(self.value(i))
             return ""
+        if self.name(i) == "round":
+            a, = self.operands(i, text="0")
+            text = self.rounded(a, names, rounding)
+            names[i] = f"v{i}"
+            return text + f"v{i} = int<ne>({names[a]});\n"
         a, b = self.operands(i)
         text = self.rounded(a, names, rounding) + self.rounded(b, names, rounding)
         names[i] = f"v{i}"
