@@ -15,7 +15,7 @@ class Power:
     def __init__(self, kernel, y, table, rows):
         self.kernel, self.y, self.table, self.rows, self.N = kernel, y, table, rows, len(rows)
         self.x, = kernel.arguments
-        self.r = kernel.neck(y, self.x, besides=table)
+        self.r = kernel.necks(y, self.x, besides=table)[0]
 
     def function_of_row(self, row):
         return {gather: literal(row) for gather in self.table} | {self.r: "r"}

@@ -257,9 +257,9 @@ class Kernel:
                           and len(a["operands"]) == len(b["operands"])
                           and all(self.same(p, q) for p, q in zip(a["operands"], b["operands"])))
 
-    def neck(self, target, source, besides=()):
-        """The first operation through which all of its dependence on the source goes, but for what
-        goes through others that are named."""
+    def necks(self, target, source, besides=()):
+        """The operations through each of which all of the target's dependence on the source goes, in order, but for
+        what goes through others that are named."""
         def depends(i, without, seen):
             if i == source and i != without:
                 return True
@@ -267,10 +267,8 @@ class Kernel:
                 return False
             seen.add(i)
             return any(depends(o, without, seen) for o in self.operations[i]["operands"])
-        for candidate in self.reached:
-            if source < candidate < target and depends(candidate, None, set()) and not depends(target, candidate, set()):
-                return candidate
-        raise Unproved(f"operation {target} has no neck")
+        return [c for c in self.reached
+                if source < c < target and depends(c, None, set()) and not depends(target, c, set())]
 
     def limit(self):
         """Of a mask that tests the upper word of |x|: the first |x| that is not on the fast path."""
@@ -293,13 +291,15 @@ class Kernel:
 
     def evaluate(self, *arguments):
         """The result's pattern for patterns of arguments, each operation done as the processor does it."""
-        patterns = dict(zip(self.arguments, arguments))
-        for i in self.reached:
-            o = self.operations[i]
-            if i not in patterns:
-                patterns[i] = evaluated(o, [patterns[p] for p in o["operands"]],
-                                        [self.operations[p]["lane"] for p in o["operands"]], self.tables)
-        return patterns[self.result]
+        return self.evaluate_from(dict(zip(self.arguments, arguments)), self.result)
+
+    def evaluate_from(self, patterns, i):
+        """One operation's pattern from those that are given, which are added to."""
+        o = self.operations[i]
+        if i not in patterns:
+            operands = [self.evaluate_from(patterns, p) for p in o["operands"]]
+            patterns[i] = evaluated(o, operands, [self.operations[p]["lane"] for p in o["operands"]], self.tables)
+        return patterns[i]
 
     # Text for Gappa and Sollya: `names` says what stands for operations that are not to be written out.
 
@@ -334,10 +334,13 @@ class Kernel:
 
 @lru_cache(maxsize=None)
 def gappa(script):
-    """Gappa's intervals for every question of a script, by the text of the expression."""
+    """Gappa's intervals for every question of a script, by the text of the expression; None where its assumptions
+    contradict one another."""
     ran = subprocess.run(["gappa", "-Eprecision=200"], input="@rnd = float<ieee_64, ne>;\n" + script, capture_output=True, text=True)
     text = ran.stdout + ran.stderr
     require(ran.returncode == 0 and "no contradiction" not in text, f"Gappa refuses:\n{text}\n{script}")
+    if "anything can be proved" in text:
+        return None
     found = {}
     for line in text.splitlines():
         match = re.match(r"\s+(.+) in \[([-0-9b]+)(?: \{.*?\})?, ([-0-9b]+)(?: \{.*?\})?\]$", line)
@@ -347,9 +350,13 @@ def gappa(script):
 
 
 def gappa_each(scripts):
-    """Many scripts, side by side; every script asks one question."""
+    """Many scripts, side by side; every script asks one question. None where no number fulfils what it assumes, such
+    as an interval between neighbouring doubles."""
     def one(script):
-        answers = list(gappa(script).values())
+        found = gappa(script)
+        if found is None:
+            return None
+        answers = list(found.values())
         require(len(answers) == 1, f"Gappa leaves a question open:\n{script}")
         return answers[0]
     with ThreadPoolExecutor(os.cpu_count()) as pool:
