@@ -14,10 +14,10 @@ NEXT_TO_ZERO = Fraction(1, 2 ** 48)
 
 
 class Pieces:
-    """r = (((x - m p1) - m p2) - m p3) - m p4, found from r: the steps, the products and the pieces."""
+    """r = (((x - m p1) - m p2) - m p3) - m p4, found from r: the steps, the products and the pieces of pi or half of it."""
 
-    def __init__(self, kernel, r, m):
-        self.m = m
+    def __init__(self, kernel, r, m, period=PI):
+        self.m, self.period = m, period
         self.steps, self.products, self.pieces = [], [], []
         step = r
         while kernel.name(step) == "subtract" and kernel.name(kernel.operands(step)[1]) == "multiply":
@@ -30,8 +30,8 @@ class Pieces:
             step = before
         require(len(self.pieces) == 4, "pi is in four pieces")
         self.x = step
-        # What the pieces leave of pi.
-        self.rest = PI - sum(self.pieces)
+        # What the pieces leave.
+        self.rest = period - sum(self.pieces)
 
 
 def reduction(kernel, pieces, scale, chain, low, high):
@@ -56,15 +56,15 @@ x - {product[0]} -> ({lost[0]}) * (-1) + (x * {C} - {m_}) / {C} + {m_} * (1 / {C
     require(all(answers[e].magnitude == 0 for e in lost[:3]), f"products are exact from {float(low)}")
     exact = answers[first].magnitude == 0 and answers[second].magnitude == 0
     slip = answers[lost[3]].magnitude + answers[m_].magnitude * pieces.rest.magnitude
-    largest = answers[nearest].magnitude / scale + answers[m_].magnitude * (1 / scale - PI).magnitude
+    largest = answers[nearest].magnitude / scale + answers[m_].magnitude * (1 / scale - pieces.period).magnitude
     return exact, slip, largest
 
 
-def next_to_zeros(first, limit, distance):
+def next_to_zeros(first, limit, distance, period=PI):
     """The doubles x up to the limit that are the nearest to some m pi and within a distance of it, over m = first,
     first + 1, ..."""
     bits = 160
-    step = int(PI.low * 2 ** bits)
+    step = int(period.low * 2 ** bits)
     value, top, near, count = step * first.numerator // first.denominator, int(limit * 2 ** bits), int(distance * 2 ** bits), 0
     found = []
     while value <= top:
