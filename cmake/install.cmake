@@ -1,4 +1,4 @@
-# cmake --install: the module, its header, a CMake package and a pkg-config file.
+# cmake --install: the module, its headers, its catalogue, a CMake package and a pkg-config file.
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
@@ -9,10 +9,20 @@ if(TARN_X86_64_V3)
   return()
 endif()
 
+# For Windows the DLL, its import library and the header of that platform.
+if(WIN32)
+  install(TARGETS ocl_tarn_k1 RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
+  install(FILES include/ocl_tarn_k1_windows.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+  return()
+endif()
+
 target_include_directories(ocl_tarn_k1 INTERFACE $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>
                                                  $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>)
 install(TARGETS ocl_tarn_k1 EXPORT ocl_tarn_k1 LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
-install(FILES include/ocl_tarn_k1.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+install(FILES include/ocl_tarn_k1.h include/ocl_tarn_k1.cl.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+if(TARGET catalogue)
+  install(FILES ${PROJECT_BINARY_DIR}/exports.json docs/exports.schema.json DESTINATION ${CMAKE_INSTALL_DATADIR}/ocl_tarn_k1)
+endif()
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/ocl_tarn_k1)
 install(EXPORT ocl_tarn_k1 NAMESPACE ocl_tarn_k1:: FILE ocl_tarn_k1-config.cmake DESTINATION ${package_dir})

@@ -28,6 +28,9 @@
 
 #include <stdint.h>
 
+#ifdef _WIN32
+#error "Windows x64 has a header of its own: ocl_tarn_k1_windows.h"
+#endif
 #if !defined(__x86_64__) || !(defined(__GNUC__) || defined(__clang__))
 #error "this library is for x86-64, and its vector types are those of GCC and Clang"
 #endif

@@ -8,6 +8,10 @@ prefix="$work/a prefix"
 cmake --install "$build" --prefix "$prefix" >/dev/null
 configure() { cmake -S "$1" -B "$2" "${@:3}" >"$work/log" 2>&1 || { cat "$work/log"; exit 1; }; }
 
+for file in include/ocl_tarn_k1.cl.h share/ocl_tarn_k1/exports.json share/ocl_tarn_k1/exports.schema.json; do
+    [ -s "$prefix/$file" ] || { echo "$file is not installed"; exit 1; }
+done
+
 user="$work/a user"
 mkdir "$user"
 cat > "$user/CMakeLists.txt" <<TXT

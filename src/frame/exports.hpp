@@ -52,6 +52,9 @@ template <class K, int width> using CallAt = Call<typename ChosenAt<K, width>::K
 #include "proofs/door.hpp"
 #else
 
+#ifdef _WIN32
+#include "frame/windows.hpp"
+#else
 #define TARN_SHAPE_unary(name, width, K)                                                     \
     tarn::ResultOf<K, width> name(tarn::Arg1<K, width> x) { return tarn::CallAt<K, width>::run(x); }
 #define TARN_SHAPE_binary(name, width, K)                                                    \
@@ -75,13 +78,19 @@ template <class K, int width> using CallAt = Call<typename ChosenAt<K, width>::K
 #define TARN_SHAPE_unary_pair(name, width, K)                                                \
     tarn::VecPair<tarn::SecondOf<K>, width> name(tarn::Arg1<K, width> x) {                   \
         tarn::VecPair<tarn::SecondOf<K>, width> pair;                                        \
-        tarn::run_pair<K, width>(pair, x);                                                   \
+        tarn::run_both<K, width>(pair.sine, pair.cosine, x);                                 \
         return pair;                                                                         \
     }
 
 #define TARN_EXPORT_WIDTH(shape, base, width, variant, Kernel)                                \
     extern "C" [[gnu::visibility("default")]] TARN_SHAPE_##shape(                            \
         TARN_NAME(base, width, TARN_SUFFIX_##variant), width, Kernel)
+
+#define TARN_EXPORT_WIDTH_SAME(base, width, variant, like)                                   \
+    extern "C" [[gnu::visibility("default"), gnu::alias(TARN_QUOTED(                         \
+        TARN_NAME(base, width, TARN_SUFFIX_##like)))]]                                       \
+    decltype(TARN_NAME(base, width, TARN_SUFFIX_##like)) TARN_NAME(base, width, TARN_SUFFIX_##variant);
+#endif
 
 #define TARN_EXPORT(shape, base, variant, Kernel)                                            \
     TARN_EXPORT_WIDTH(shape, base, 1, variant, Kernel)                                  \
@@ -90,11 +99,6 @@ template <class K, int width> using CallAt = Call<typename ChosenAt<K, width>::K
     TARN_EXPORT_WIDTH(shape, base, 4, variant, Kernel)                                  \
     TARN_EXPORT_WIDTH(shape, base, 8, variant, Kernel)                                  \
     TARN_EXPORT_WIDTH(shape, base, 16, variant, Kernel)
-
-#define TARN_EXPORT_WIDTH_SAME(base, width, variant, like)                                   \
-    extern "C" [[gnu::visibility("default"), gnu::alias(TARN_QUOTED(                         \
-        TARN_NAME(base, width, TARN_SUFFIX_##like)))]]                                       \
-    decltype(TARN_NAME(base, width, TARN_SUFFIX_##like)) TARN_NAME(base, width, TARN_SUFFIX_##variant);
 
 #define TARN_EXPORT_SAME(base, variant, like)                                                \
     TARN_EXPORT_WIDTH_SAME(base, 1, variant, like)                                           \

@@ -123,8 +123,8 @@ template <int width, class R, class... S, class... A>
 struct SpecialLanes<width, R, Types<S...>, Types<A...>> {
     using Callout = int(const A*..., R*, S*...);
 
-    [[gnu::noinline, gnu::cold]] static Updated<R, width> run(Updated<R, width> fast, Passed<A, width>... x,
-                                                              unsigned special, Callout* callout, S*... second) {
+    [[gnu::noinline, gnu::cold]] static Updated<R, width> TARN_IN_REGISTERS
+    run(Updated<R, width> fast, Passed<A, width>... x, unsigned special, Callout* callout, S*... second) {
         LaneArray<R, width> result(fast);
         visit(special, callout, result, LaneArray<A, width>(x)..., second...);
         return result.reload();
@@ -153,7 +153,8 @@ template <class K, int width, class R = typename Parts<typename K::Signature>::R
 struct Switched;
 template <class K, int width, class R, class... S, class... A>
 struct Switched<K, width, R, Types<S...>, Types<A...>> {
-    [[gnu::noinline, gnu::cold]] static Updated<R, width> run(Updated<R, width> fast, Passed<A, width>... x, S*... second) {
+    [[gnu::noinline, gnu::cold]] static Updated<R, width> TARN_IN_REGISTERS
+    run(Updated<R, width> fast, Passed<A, width>... x, S*... second) {
         return fast = Call<K, width>::run(x..., second...);
     }
 };
@@ -186,6 +187,18 @@ struct Call<K, width, R, Types<S...>, Types<A...>> {
         const unsigned special = evaluate(result, x..., second...) | always_special();
         if (__builtin_expect(special != 0, 0)) settle(result, x..., special, second...);
         return result;
+    }
+
+    // Two results returned, which lie in registers: memory is for special lanes alone.
+    static TARN_INLINE void run_both(Result& first, Result& second, const Vec<A, width>&... x)
+        requires(!in_memory<R, width>)
+    {
+        const unsigned special = evaluate(first, x..., reinterpret_cast<S*>(&second)...) | always_special();
+        if (__builtin_expect(special != 0, 0)) {
+            Result settled = second;
+            first = settle(first, x..., special, reinterpret_cast<S*>(&settled)...);
+            second = settled;
+        }
     }
 
     // Computes all lanes; the special ones are the result.
@@ -251,8 +264,8 @@ private:
         else return fast;
     }
 
-    [[gnu::noinline, gnu::cold]] static Updated<R, width> finished(Updated<R, width> fast, Passed<A, width>... x,
-                                                                   unsigned special) {
+    [[gnu::noinline, gnu::cold]] static Updated<R, width> TARN_IN_REGISTERS
+    finished(Updated<R, width> fast, Passed<A, width>... x, unsigned special) {
         constexpr int few = K::lanes, groups = stored_lanes(width) > few ? stored_lanes(width) / few : 1;
         Group<R, few, 16> values[groups];
         for (int i = 0; i < groups; i++) {
@@ -285,7 +298,7 @@ private:
         Group<Lane, lanes, bytes> seconds[count];
         for (int g = 0; g < count; g++) seconds[g] = all_lanes(groups[g].second);
         const auto v = vector_of<lanes, bytes, Lane, width>(seconds);
-        if constexpr (in_memory<Lane, width>) {
+        if constexpr (in_blocks<Lane, width>) {
             for (const auto& block : v.block) {
                 __builtin_memcpy(to, &block, sizeof block);
                 to += sizeof block / sizeof(Lane);
@@ -309,10 +322,11 @@ TARN_INLINE V finish_lanes(Scalar scalar, V x, V value, unsigned flags) {
     return value;
 }
 
-// Two results as one value, filled where the caller holds it.
-template <class K, int width, class Pair, class... V> TARN_INLINE void run_pair(Pair& pair, const V&... x) {
+// Two results, filled where the caller holds them.
+template <class K, int width, class R, class... V> TARN_INLINE void run_both(R& first, R& second, const V&... x) {
     using Lane = typename Parts<typename K::Signature>::Result;
-    pair.sine = Call<K, width>::run(x..., reinterpret_cast<Lane*>(&pair.cosine));
+    if constexpr (in_memory<Lane, width>) first = Call<K, width>::run(x..., reinterpret_cast<Lane*>(&second));
+    else Call<K, width>::run_both(first, second, x...);
 }
 
 }  // namespace tarn

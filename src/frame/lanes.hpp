@@ -23,7 +23,7 @@ using Group = std::conditional_t<lanes == 1, Lane,
 template <class Lane, int width>
 TARN_INLINE Vector<Lane, 16> block(const Vec<Lane, width>& v, int i) {
     using Block = Vector<Lane, 16>;
-    if constexpr (in_memory<Lane, width>) {
+    if constexpr (in_blocks<Lane, width>) {
         if constexpr (width == 3)
             if (i == 1) return opaque(filled<Block>(v.block[1][0]));
         return v.block[i];
@@ -96,17 +96,17 @@ TARN_INLINE Vec<Lane, width> vector_of(const Group<Lane, lanes, bytes> (&groups)
     } else if constexpr (lanes == 1) {
         constexpr int per_block = 16 / sizeof(Lane);
         for (int i = 0; i < count; i++) {
-            if constexpr (in_memory<Lane, width>) v.block[i / per_block][i % per_block] = groups[i];
+            if constexpr (in_blocks<Lane, width>) v.block[i / per_block][i % per_block] = groups[i];
             else v[i] = groups[i];
         }
     } else if constexpr (bytes == 16) {
         if constexpr (size == 16) {
-            if constexpr (in_memory<Lane, width>) for (int i = 0; i < count; i++) v.block[i] = groups[i];
+            if constexpr (in_blocks<Lane, width>) for (int i = 0; i < count; i++) v.block[i] = groups[i];
             else if constexpr (width == 1) v = groups[0][0];
             else if constexpr (width == 2 && sizeof(Lane) == 4) v = Vec<Lane, width>{groups[0][0], groups[0][1]};
             else v = groups[0];
         } else if constexpr (size == 8) {
-            if constexpr (in_memory<Lane, width>)
+            if constexpr (in_blocks<Lane, width>)
                 for (int i = 0; i < count; i += 2) v.block[i / 2] = join_halves(groups[i], groups[i + 1]);
             else if constexpr (width == 1) v = groups[0][0];
             else if constexpr (width == 2) v = Vec<Lane, width>{groups[0][0], groups[0][1]};
@@ -128,7 +128,7 @@ TARN_INLINE Vec<Lane, width> vector_of(const Group<Lane, lanes, bytes> (&groups)
         if constexpr (size == 32) {
             for (int i = 0; i < count; i++) put(v, 2 * i, groups[i]);
         } else if constexpr (size == 16) {
-            if constexpr (in_memory<Lane, width>) for (int i = 0; i < count; i++) v.block[i] = low_half(groups[i]);
+            if constexpr (in_blocks<Lane, width>) for (int i = 0; i < count; i++) v.block[i] = low_half(groups[i]);
             else v = low_half(groups[0]);
         } else {
             for (int i = 0; i < count; i++) {

@@ -1,14 +1,12 @@
 // Two modules that ought to be one: every export of both called on the same lanes, the results and second
 // results compared bit for bit, and with --flags what each call raises.
-#include <immintrin.h>
-
-#include <cfenv>
 #include <chrono>
 #include <cstdio>
 #include <filesystem>
 #include <map>
 
 #include "common/cli.hpp"
+#include "raised.hpp"
 #include "samples.hpp"
 
 namespace tarn::test {
@@ -98,17 +96,6 @@ struct Output {
     Lanes result, second;
     std::vector<unsigned char> flags;
 };
-
-// SSE's and x87's together, as fetestexcept sees them; the processor's own flag of subnormal operands is none of IEEE 754's.
-unsigned raised() {
-    unsigned short x87;
-    __asm__ volatile("fnstsw %0" : "=m"(x87));
-    return (_mm_getcsr() | x87) & FE_ALL_EXCEPT;
-}
-void clear_raised() {
-    __asm__ volatile("fnclex");
-    _mm_setcsr(_mm_getcsr() & ~0x3fu);
-}
 
 void call(const Function& f, const std::vector<Lanes>& args, std::size_t calls, bool flags, Output& out) {
     const std::size_t stored = f.width() == 3 ? 4 : static_cast<std::size_t>(f.width());

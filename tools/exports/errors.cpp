@@ -20,10 +20,7 @@ std::string places(const Worst& worst, const Shape& shape) {
     return text;
 }
 
-// One table of every exception, in the place of what the page holds between its two marks.
-constexpr const char* mark_begin = "<!-- generated: exceptions -->";
-constexpr const char* mark_end = "<!-- end -->";
-
+// One table of every exception.
 std::string exceptions_table() {
     std::string text = "\n| function | what differs |\n|---|---|\n";
     for (const Family& f : families()) {
@@ -115,20 +112,6 @@ int comments(const char* file) {
     return 0;
 }
 
-int contract(const char* file) {
-    std::ifstream in(file);
-    if (!in) return std::fprintf(stderr, "tarn-exports: cannot read %s\n", file), 2;
-    bool inside = false, seen = false;
-    for (std::string line; std::getline(in, line);) {
-        if (line == mark_end) inside = false;
-        if (!inside) std::puts(line.c_str());
-        if (line == mark_begin) {
-            inside = seen = true;
-            std::fputs(exceptions_table().c_str(), stdout);
-        }
-    }
-    if (!seen || inside) return std::fprintf(stderr, "tarn-exports: %s lacks its marks\n", file), 2;
-    return 0;
-}
+int contract(const char* file) { return renewed(file, "exceptions", exceptions_table()); }
 
 }  // namespace tarn

@@ -22,23 +22,6 @@ std::string declaration(const Family& f, int width, Variant v) {
     return text + (is_pure(f) ? " TARN_CONST;" : ";");
 }
 
-// Breaks a comment into lines of at most `limit` characters.
-void comment(const std::string& text, std::size_t limit) {
-    std::string line = "/*";
-    std::size_t at = 0;
-    while (at < text.size()) {
-        std::size_t end = text.find(' ', at);
-        if (end == std::string::npos) end = text.size();
-        if (line.size() + 1 + (end - at) > limit) {
-            std::puts(line.c_str());
-            line = "  ";
-        }
-        line += ' ' + text.substr(at, end - at);
-        at = end + 1;
-    }
-    std::puts((line + " */").c_str());
-}
-
 }  // namespace
 
 void header() {
@@ -72,6 +55,9 @@ void header() {
 
 #include <stdint.h>
 
+#ifdef _WIN32
+#error "Windows x64 has a header of its own: ocl_tarn_k1_windows.h"
+#endif
 #if !defined(__x86_64__) || !(defined(__GNUC__) || defined(__clang__))
 #error "this library is for x86-64, and its vector types are those of GCC and Clang"
 #endif
@@ -112,12 +98,7 @@ extern "C" {
 
     std::string group;
     for (const Family& f : families()) {
-        if (f.group != group) {
-            group = f.group;
-            std::string rule = "/* " + group + ' ';
-            rule.resize(100, '-');
-            std::printf("\n%s */\n", rule.c_str());
-        }
+        print_group(f, group);
         std::puts("");
         std::string text = f.base + ": " + f.formula + ".";
         if (!f.domain.empty()) text += " Domain: " + f.domain + ".";
@@ -125,7 +106,7 @@ extern "C" {
         const std::string error = error_line(f);
         if (!error.empty()) text += ' ' + error;
         for (const auto& sentence : exceptions(f)) text += ' ' + sentence;
-        comment(text, 108);
+        print_comment(text);
         for (const Variant v : all_variants)
             if (f.has(v))
                 for (const int width : widths) std::puts(declaration(f, width, v).c_str());

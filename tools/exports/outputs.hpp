@@ -4,9 +4,15 @@
 namespace tarn {
 
 void header();
+void windows_header();
+void windows_imports();
 void calls();
 void accuracy();
+void opencl_header();
+void catalogue();
 int comments(const char* file);
 int contract(const char* file);
+int mapping(const char* file);
+int conventions(const char* file);
 
 }  // namespace tarn

@@ -2,6 +2,7 @@
 
 #include <bit>
 #include <cstdio>
+#include <fstream>
 
 namespace tarn {
 
@@ -43,6 +44,8 @@ bool is_pure(const Family& f) {
     return (f.shape.second == Lane::none || f.shape.pair) && !f.base.starts_with("rint") &&
            !f.base.starts_with("nearbyint") && f.base != "fmaf" && f.base != "fma";
 }
+
+bool rounds_once(const Family& f) { return f.full.ulp == 0 && f.allowed == 0 && f.formula.find("twice") == std::string::npos; }
 
 std::string ulps(double u) {
     char text[32];
@@ -119,7 +122,7 @@ std::string number(Lane type, std::uint64_t pattern) {
 }
 
 std::string error_line(const Family& f) {
-    if (f.full.ulp == 0) return f.allowed == 0 && f.formula.find("twice") == std::string::npos ? "Exact, or rounded once." : "";
+    if (f.full.ulp == 0) return rounds_once(f) ? "Exact, or rounded once." : "";
     // Of all inputs one is the worst; of others, one is the worst that was found.
     const bool settled = f.measured.starts_with("all") || f.measured.starts_with("every");
     std::string text = (settled ? "Worst error " : "Largest error found ") + ulps(f.full.ulp) + " ulp";
@@ -134,6 +137,47 @@ std::string error_line(const Family& f) {
     if (f.half_worst.ulp != 0) text += ", half " + ulps(f.half_worst.ulp);
     if (!f.measured.empty()) text += (settled ? "; measured over " : "; by ") + f.measured;
     return text + '.';
+}
+
+void print_comment(const std::string& text, std::size_t limit) {
+    std::string line = "/*";
+    std::size_t at = 0;
+    while (at < text.size()) {
+        std::size_t end = text.find(' ', at);
+        if (end == std::string::npos) end = text.size();
+        if (line.size() + 1 + (end - at) > limit) {
+            std::puts(line.c_str());
+            line = "  ";
+        }
+        line += ' ' + text.substr(at, end - at);
+        at = end + 1;
+    }
+    std::puts((line + " */").c_str());
+}
+
+void print_group(const Family& f, std::string& group) {
+    if (f.group == group) return;
+    group = f.group;
+    std::string rule = "/* " + group + ' ';
+    rule.resize(100, '-');
+    std::printf("\n%s */\n", rule.c_str());
+}
+
+int renewed(const char* file, const std::string& what, const std::string& text) {
+    std::ifstream in(file);
+    if (!in) return std::fprintf(stderr, "tarn-exports: cannot read %s\n", file), 2;
+    const std::string begin = "<!-- generated: " + what + " -->", end = "<!-- end -->";
+    bool inside = false, seen = false;
+    for (std::string line; std::getline(in, line);) {
+        if (line == end) inside = false;
+        if (!inside) std::puts(line.c_str());
+        if (line == begin) {
+            inside = seen = true;
+            std::fputs(text.c_str(), stdout);
+        }
+    }
+    if (!seen || inside) return std::fprintf(stderr, "tarn-exports: %s lacks its marks\n", file), 2;
+    return 0;
 }
 
 }  // namespace tarn

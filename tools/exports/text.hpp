@@ -19,6 +19,9 @@ std::string result_type(const Shape& s, int width);
 // arguments alone.
 bool is_pure(const Family& f);
 
+// Where OpenCL allows no error; mad and madf round twice, and it says nothing of them.
+bool rounds_once(const Family& f);
+
 std::string ulps(double u);
 // "a", "a and b", "a, b and c".
 std::string listed(const std::vector<std::string>& words);
@@ -30,5 +33,13 @@ std::string number(Lane type, std::uint64_t pattern);
 // Where a result depends on more than its own lane, or surprises: a sentence each.
 std::vector<std::string> exceptions(const Family& f);
 std::string error_line(const Family& f);
+
+// A page with the text between its marks of that name renewed, on standard output. The exit status.
+int renewed(const char* file, const std::string& what, const std::string& text);
+
+// What heads a family's group, where that is another than the last one's.
+void print_group(const Family& f, std::string& group);
+// As a C comment, in lines of at most `limit` characters.
+void print_comment(const std::string& text, std::size_t limit = 108);
 
 }  // namespace tarn

@@ -1,0 +1,25 @@
+# For Windows x64, on Linux: clang with the headers and the linker of mingw-w64.
+set(CMAKE_SYSTEM_NAME Windows)
+set(CMAKE_SYSTEM_PROCESSOR x86_64)
+set(target x86_64-w64-mingw32)
+set(CMAKE_C_COMPILER clang)
+set(CMAKE_C_COMPILER_TARGET ${target})
+set(CMAKE_CXX_COMPILER clang++)
+set(CMAKE_CXX_COMPILER_TARGET ${target})
+set(CMAKE_RC_COMPILER ${target}-windres)
+set(CMAKE_DLLTOOL ${target}-dlltool)
+set(CMAKE_FIND_ROOT_PATH /usr/${target})
+set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
+set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
+
+# Clang does not find the C++ headers of this gcc; of its libraries the module needs none.
+execute_process(COMMAND ${target}-g++ -print-libgcc-file-name
+                OUTPUT_VARIABLE libgcc ERROR_QUIET OUTPUT_STRIP_TRAILING_WHITESPACE)
+if(NOT libgcc)
+  message(FATAL_ERROR "${target}-g++ is missing, whose C++ headers the module needs (Debian: g++-mingw-w64-x86-64)")
+endif()
+get_filename_component(gcc_directory "${libgcc}" DIRECTORY)
+set(CMAKE_CXX_STANDARD_INCLUDE_DIRECTORIES ${gcc_directory}/include/c++ ${gcc_directory}/include/c++/${target})
+set(CMAKE_TRY_COMPILE_TARGET_TYPE STATIC_LIBRARY)
