@@ -26,6 +26,10 @@
 #ifndef OCL_TARN_K1_H
 #define OCL_TARN_K1_H
 
+#define TARN_VERSION_MAJOR 1
+#define TARN_VERSION_MINOR 0
+#define TARN_VERSION_PATCH 0
+
 #include <stdint.h>
 
 #ifdef _WIN32

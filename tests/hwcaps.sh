@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Installs both modules into one prefix: the C library's loader picks the one for x86-64-v3 by itself where the
-# processor is of that level, and the plain one elsewhere.   hwcaps.sh PLAIN-BUILD V3-BUILD SOURCE-DIRECTORY
+# Installs both builds into one prefix: the C library's loader picks the module and the libtarn for x86-64-v3 by itself
+# where the processor is of that level, and the plain ones elsewhere.   hwcaps.sh PLAIN-BUILD V3-BUILD SOURCE-DIRECTORY
 set -euo pipefail
 plain=$1 v3=$2 source=$3
 version=$(getconf GNU_LIBC_VERSION) || version=
@@ -9,11 +9,14 @@ version=$(getconf GNU_LIBC_VERSION) || version=
 
 work=$(mktemp -d); trap 'rm -rf "$work"' EXIT
 prefix="$work/a prefix"
-# Beside the plain module the other build brings its module alone.
+# Beside the plain libraries the other build brings its own alone.
 cmake --install "$v3" --prefix "$prefix" >/dev/null
-installed=$(cd "$prefix" && find . -type f)
-[[ $installed == ./lib*/glibc-hwcaps/x86-64-v3/__ocl_tarn_k1.so ]] || { echo "$v3 installs: $installed"; exit 1; }
-directory=$(realpath "$prefix/${installed%/*}/../..")
+installed=$(cd "$prefix" && find . ! -type d | LC_ALL=C sort)
+level=$(cd "$prefix" && find . -name x86-64-v3)
+[[ $level == ./lib*/glibc-hwcaps/x86-64-v3 && $installed == "$level/__ocl_tarn_k1.so
+$level/libtarn.so.1
+$level/libtarn.so.1."* && $(wc -l <<< "$installed") == 3 ]] || { echo "$v3 installs: $installed"; exit 1; }
+directory=$(realpath "$prefix/$level/../..")
 cmake --install "$plain" --prefix "$prefix" >/dev/null
 
 # Says which file a program has, linked or by its bare name, and what one call gives.
@@ -52,7 +55,24 @@ loads $usual env LD_LIBRARY_PATH="$directory" "$work/neither" $name
 loads $name "$loader" --glibc-hwcaps-mask none "$work/linked"
 loads $name "$loader" --glibc-hwcaps-mask none "$work/run_path" $name
 loads $name "$loader" --glibc-hwcaps-mask none --library-path "$directory" "$work/neither" $name
+# libtarn, linked as its users link it.
+cat > "$work/array.c" <<'C'
+#define _GNU_SOURCE
+#include <dlfcn.h>
+#include <stdio.h>
+#include <tarn.h>
+int main(void) {
+    float x = 0.3f;
+    Dl_info info;
+    tarn_expf(1, &x, &x);
+    if (!dladdr((void*)tarn_expf, &info)) return 1;
+    printf("%s %a\n", info.dli_fname, (double)x);
+}
+C
+cc -I"$prefix/include" "$work/array.c" -o "$work/array" -L"$directory" -ltarn "-Wl,-rpath,$directory" -ldl
+loads "${usual%"$name"}libtarn.so.1" "$work/array"
+loads libtarn.so.1 "$loader" --glibc-hwcaps-mask none "$work/array"
 # Without the plain module beside it nothing is missing either.
 rm "$directory/$name"
 [ $usual = $name ] || loads $usual "$work/linked"
-echo "loaded: $usual, and $name where the level is masked"
+echo "loaded: $usual, and $name where the level is masked; so is libtarn"

@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Installs into an empty prefix and builds a user's program every way: find_package, pkg-config, add_subdirectory.
+# Installs into an empty prefix and builds a user's program every way: find_package, pkg-config, add_subdirectory;
+# with the module and with libtarn.
 # The paths have a space in them. What configuring alone shows is not built.
 set -euo pipefail
 build=$1 source=$2
@@ -17,19 +18,32 @@ mkdir "$user"
 cat > "$user/CMakeLists.txt" <<TXT
 cmake_minimum_required(VERSION 3.25)
 project(user C)
-find_package(ocl_tarn_k1 1.0 REQUIRED)
+find_package(ocl_tarn_k1 1.0 REQUIRED COMPONENTS tarn)
 add_executable(user "$source/examples/call.c")
 target_link_libraries(user PRIVATE ocl_tarn_k1::ocl_tarn_k1)
+foreach(library tarn tarn_static)
+  add_executable(user_of_\${library} "$source/examples/arrays.c")
+  target_link_libraries(user_of_\${library} PRIVATE ocl_tarn_k1::\${library})
+endforeach()
+find_package(ocl_tarn_k1 QUIET COMPONENTS guitar)
+if(ocl_tarn_k1_FOUND)
+  message(FATAL_ERROR "finds a component that there is none of")
+endif()
 TXT
 configure "$user" "$user/build" -DCMAKE_PREFIX_PATH="$prefix"
 cmake --build "$user/build" >/dev/null
 "$user/build/user" | grep -q 'exp(1) = 2.7182819'
+for library in tarn tarn_static; do "$user/build/user_of_$library" | grep -q 'exp(1) = 2.7182819'; done
 
 pc=$(find "$prefix" -name ocl_tarn_k1.pc)
 export PKG_CONFIG_PATH=${pc%/*}
 eval "cc \"\$source/examples/call.c\" -o \"\$work/call\" $(pkg-config --cflags --libs ocl_tarn_k1)" \
      "-Wl,-rpath,$(pkg-config --variable=libdir ocl_tarn_k1)"
 "$work/call" | grep -q 'exp(1) = 2.7182819'
+eval "cc \"\$source/examples/arrays.c\" -o \"\$work/arrays\" $(pkg-config --cflags --libs tarn)" \
+     "-Wl,-rpath,$(pkg-config --variable=libdir tarn)"
+"$work/arrays" | grep -q 'exp(1) = 2.7182819'
+[ "$(readelf -d "$work/arrays" | grep -c 'NEEDED.*\[libtarn.so.1\]')" = 1 ]
 
 # A library directory named absolutely stays where it is named.
 configure "$source" "$work/absolute" -DTARN_TOOLS=OFF -DTARN_TESTS=OFF -DCMAKE_INSTALL_LIBDIR=/opt/lib \

@@ -173,7 +173,8 @@ TEST(Generated, FilesFollowTheTable) {
         {"header", "include/ocl_tarn_k1.h"}, {"map", "src/families/exports.map"}, {"accuracy", "docs/accuracy.md"},
         {"windows-header", "include/ocl_tarn_k1_windows.h"}, {"windows-exports", "src/families/exports.def"},
         {"windows-imports", "src/families/imports.def"}, {"abi", "docs/abi.md"}, {"contract", "docs/contract.md"},
-        {"opencl", "include/ocl_tarn_k1.cl.h"}, {"mapping", "docs/opencl.md"}};
+        {"opencl", "include/ocl_tarn_k1.cl.h"}, {"mapping", "docs/opencl.md"}, {"arrays", "include/tarn.h"},
+        {"simd-header", "include/tarn_simd.h"}, {"loops", "src/arrays/loops.inc"}, {"tarn-map", "src/families/tarn.map"}};
     for (const auto& [what, file] : files) {
         const std::string path = std::string(TARN_SOURCE_DIR) + '/' + file;
         std::ifstream in(path);

@@ -108,6 +108,8 @@ inline const char* suffix(Variant v) {
 inline std::string export_name(const std::string& base, int width, Variant v) {
     return "__ocl_tarn_k1_" + base + std::to_string(width) + suffix(v);
 }
+// The same function on arrays.
+inline std::string array_name(const std::string& base, Variant v) { return "tarn_" + base + suffix(v); }
 
 // All families, in the order of the header.
 const std::vector<Family>& families();

@@ -2,6 +2,9 @@
 // with a width of its own names it by ExceptAt; TARN_EXPORT_SAME names an export whose kernel another
 // variant already is.
 //
+// What an export is, its door says: the module's six widths below, or with TARN_ARRAYS the functions on arrays of
+// arrays/door.hpp.
+//
 // Shapes: unary, binary, ternary; unary_second, binary_second (a second result through a pointer);
 // unary_pair (two results returned). The public header declares every export, so that a shape that
 // differs from the table of families does not compile.
@@ -35,6 +38,7 @@ template <class Usual, int own_width, class Own, int width>
 struct ChosenAt<ExceptAt<Usual, own_width, Own>, width> : ChosenAt<Usual, width> {};
 template <class Usual, int own_width, class Own> struct ExceptAt {
     using Signature = typename Usual::Signature;
+    static_assert(Own::lanes > 0, "a kernel, whether this door leads to that width or not");
 };
 template <class K, int width> using CallAt = Call<typename ChosenAt<K, width>::Kernel, width>;
 
@@ -48,8 +52,10 @@ template <class K, int width> using CallAt = Call<typename ChosenAt<K, width>::K
 #define TARN_TEXT(name) #name
 #define TARN_QUOTED(name) TARN_TEXT(name)
 
-#ifdef TARN_TRACED
+#if defined TARN_TRACED
 #include "proofs/door.hpp"
+#elif defined TARN_ARRAYS
+#include "arrays/door.hpp"
 #else
 
 #ifdef _WIN32

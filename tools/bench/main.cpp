@@ -1,30 +1,32 @@
 // tarn-bench FAMILY...: nanoseconds an element of each width beside the libraries found on the machine,
 // in one run: rounds of all of them are interleaved at random and the least of each is shown, so that
-// what else the machine does falls on all alike.
+// what else the machine does falls on all alike. With --arrays: libtarn's loops instead of the widths.
 #include <benchmark/benchmark.h>
 #include <dlfcn.h>
 
 #include <algorithm>
 #include <cmath>
+#include <filesystem>
 #include <map>
 #include <memory>
 #include <random>
 
 #include "bench/peers.hpp"
+#include "common/arrays.hpp"
 #include "common/cli.hpp"
 
 namespace {
 
 using namespace tarn;
 
-constexpr std::size_t elements = 1024;  // inputs, results and tables stay in the first cache
+std::size_t elements = 1024;  // inputs, results and tables stay in the first cache
 
 struct Buffers {
     std::vector<Lanes> args;
     Lanes result, second;
 };
 
-// A way to compute a family on 1024 elements.
+// A way to compute a family on all elements.
 struct Entrant {
     std::string family, level, column;
     std::function<void(Buffers&)> run;
@@ -58,6 +60,15 @@ std::function<void(Buffers&)> ours(const Function& f) {
         const std::byte* pointers[3] = {};
         for (std::size_t a = 0; a < b.args.size(); a++) pointers[a] = b.args[a].data();
         batch(address, pointers, b.result.data(), b.second.data(), elements / stored);
+    };
+}
+
+// The first n elements in one call of a loop of ours.
+std::function<void(Buffers&)> loop(const ArrayFunction& f, std::size_t n) {
+    return [=](Buffers& b) {
+        const void* pointers[3] = {};
+        for (std::size_t a = 0; a < b.args.size(); a++) pointers[a] = b.args[a].data();
+        f(n, pointers, b.result.data(), b.second.data());
     };
 }
 
@@ -114,6 +125,40 @@ void add_peers(const Family& f, const Level& level, const std::string& row, cons
     if (level.scalars) add("libm", libm, name + type_letter, single ? bench::runs<float> : bench::runs<double>);
 }
 
+// Few elements, beside one call of width 16.
+constexpr std::size_t few[] = {1, 7, 15, 16};
+
+// A copy by ordinary loads and stores, as loops make them: the C library's goes past the cache where there is much.
+void copy(const std::byte* from, std::byte* to, std::size_t size) {
+    constexpr std::size_t vector = 32;
+    for (std::size_t i = 0; i + vector <= size; i += vector) {
+        std::memcpy(to + i, from + i, vector);
+        benchmark::ClobberMemory();
+    }
+}
+
+// A loop over an array beside calls of width 16, the other libraries in a loop, and a copy of as much memory.
+void add_arrays(const Family& f, Variant v, const Level& level, const Module& module, const ArrayLibrary& library, const std::string& row,
+                const std::shared_ptr<Buffers>& b, std::vector<Entrant>& to) {
+    const Function call = *module.find({&f, 16, v});
+    const auto array = library.find(f, v);
+    if (!array) throw cli::Refused("libtarn has no '" + array_name(f.base, v) + "'");
+    to.push_back({row, level.key, "16", ours(call), b});
+    to.push_back({row, level.key, "array", loop(*array, elements), b});
+    to.push_back({row, level.key, "copy", [](Buffers& buffers) {
+        for (const Lanes& arg : buffers.args)
+            for (Lanes* result : {&buffers.result, &buffers.second})
+                copy(arg.data(), result->data(), std::min(arg.size() * static_cast<std::size_t>(bytes(arg.type())),
+                                                           result->size() * static_cast<std::size_t>(bytes(result->type()))));
+    }, b});
+    to.push_back({row, level.key, "one call", [=, batch = call.batch(), address = call.address()](Buffers& buffers) {
+        const std::byte* pointers[3] = {};
+        for (std::size_t a = 0; a < buffers.args.size(); a++) pointers[a] = buffers.args[a].data();
+        batch(address, pointers, buffers.result.data(), buffers.second.data(), 1);
+    }, b});
+    for (const std::size_t n : few) to.push_back({row, level.key, "n=" + std::to_string(n), loop(*array, n), b});
+}
+
 // Keeps the least time of each entrant and prints the table at the end.
 class Table : public benchmark::BenchmarkReporter {
 public:
@@ -123,7 +168,7 @@ public:
             if (run.run_type == Run::RT_Iteration) {
                 auto& least = least_[run.benchmark_name()];
                 // Width 3 spends four stored lanes on three elements.
-                const double lanes = run.benchmark_name().find("/3/") != std::string::npos ? elements * 0.75 : elements;
+                const double lanes = run.benchmark_name().find("/3/") != std::string::npos ? static_cast<double>(elements) * 0.75 : static_cast<double>(elements);
                 const double ns = run.GetAdjustedRealTime() / lanes;
                 if (least == 0 || ns < least) least = ns;
             }
@@ -143,6 +188,33 @@ public:
         }
         const auto [gain, families] = mean_gain(rows(entrants));
         if (families != 0) std::printf("%s at width 16: %.2f times as fast, the geometric mean of %d families\n", v3.name.c_str(), gain, families);
+    }
+
+    // Loops over arrays: of one level after the other, each as a table and its geometric means.
+    void print_arrays(const std::vector<Entrant>& entrants, bool markdown) const {
+        for (const Level* level : {&plain, &v3}) {
+            std::vector<Row> all;
+            for (const Row& row : rows(entrants)) if (row.level == level->key) all.push_back(row);
+            if (all.empty()) continue;
+            const char* form = markdown ? "| `%s` | %s | %s | %s | %s | %s | %s | %s | %s | %s |\n" : "%-22s%9s%9s%9s%9s%9s%9s%9s%9s%9s\n";
+            std::printf(form, level->name.c_str(), "width 16", "array", "copy", "SLEEF", "libmvec", "to w16", "SLEEF/", "libmvec/", "few/call");
+            if (markdown) std::puts("|---|---|---|---|---|---|---|---|---|---|");
+            Mean calls, sleef, mvec;
+            for (const Row& row : all) {
+                const std::string key = row.name + '/' + row.level + '/';
+                const double array = time_of(key + "array"), call = time_of(key + "16");
+                const double nearest = std::min(row.theirs[0], row.theirs[1]);
+                double most = 0;
+                for (const std::size_t n : few) most = std::max(most, time_of(key + "n=" + std::to_string(n)) / time_of(key + "one call"));
+                if (row.name.find(", large x") == std::string::npos) calls.add(call / array), sleef.add(nearest / array), mvec.add(row.theirs[2] / array);
+                std::printf(form, row.name.c_str(), number(call, 3).c_str(), number(array, 3).c_str(), number(time_of(key + "copy"), 3).c_str(),
+                            number(nearest, 3).c_str(), number(row.theirs[2], 3).c_str(), number(call / array, 2).c_str(),
+                            number(nearest / array, 2).c_str(), number(row.theirs[2] / array, 2).c_str(), number(most, 2).c_str());
+            }
+            std::printf("%sGeometric means: %s times as fast as calls of width 16, %s as SLEEF (%d functions), %s as libmvec (%d).\n%s", markdown ? "\n" : "",
+                        number(calls.value(), 2).c_str(), number(sleef.value(), 2).c_str(), sleef.count, number(mvec.value(), 2).c_str(), mvec.count,
+                        markdown ? "\n" : "");
+        }
     }
 
     // What matters of each family, as a page shows it; then the whole.
@@ -217,6 +289,14 @@ private:
                 sum += std::log(all[i - 1].ours.back() / all[i].ours.back()), count++;
         return {std::exp(sum / std::max(count, 1)), count};
     }
+    struct Mean {
+        double sum = 0;
+        int count = 0;
+        void add(double ratio) {
+            if (std::isfinite(ratio)) sum += std::log(ratio), count++;
+        }
+        double value() const { return count ? std::exp(sum / count) : INFINITY; }
+    };
     static std::string number(double v, int digits) {
         char text[32];
         std::snprintf(text, sizeof text, "%.*f", digits, v);
@@ -239,13 +319,16 @@ int main(int argc, char** argv) {
     CLI::App app{"Times exports beside the vector math libraries found on the machine.", "tarn-bench"};
     std::vector<std::string> bases;
     int rounds = 25;
-    bool variants = false, json = false, markdown = false;
+    bool variants = false, json = false, markdown = false, arrays = false;
     std::string module_path = Module::built_path(), v3_path;
     app.add_option("FAMILY", bases, "families, such as expf (all that the module has, if none is named)");
     app.add_option("--rounds", rounds, "interleaved rounds, of which the least counts")->check(CLI::Range(1, 10000));
     app.add_flag("--variants", variants, "native and half forms too");
     auto* as_json = app.add_flag("--json", json, "the times as JSON");
     app.add_flag("--markdown", markdown, "the times as a page shows them")->excludes(as_json);
+    app.add_flag("--arrays", arrays, "functions on arrays, of the libtarn beside each module")->excludes(as_json);
+    app.add_option("--elements", elements, "elements of each array, a multiple of 16 (16777216 floats are 64 MB)")
+        ->check(CLI::Range(16, 1 << 26) & CLI::Validator([](const std::string& n) { return std::stoul(n) % 16 ? n + " is no multiple of 16" : ""; }, ""));
     app.add_option("--module", module_path, "another module file (in the environment: TARN_MODULE)");
     app.add_option("--v3", v3_path, "the module for x86-64-v3 beside it, with the peers' 256-bit functions");
 
@@ -254,6 +337,10 @@ int main(int argc, char** argv) {
         std::vector<std::pair<const Level*, const Module*>> modules = {{&plain, &module}};
         std::optional<Module> wide;
         if (!v3_path.empty()) modules.emplace_back(&v3, &wide.emplace(v3_path));
+        std::vector<ArrayLibrary> libraries;
+        if (arrays)
+            for (const std::string& file : {module_path, v3_path})
+                if (!file.empty()) libraries.emplace_back((std::filesystem::absolute(file).parent_path() / "libtarn.so.1").string());
         if (bases.empty())
             for (const Family& f : families())
                 if (module.has(f)) bases.push_back(f.base);
@@ -269,8 +356,10 @@ int main(int argc, char** argv) {
                 for (const Variant v : all_variants) {
                     if (!f->has(v) || (v != Variant::full && (!variants || large))) continue;
                     const std::string row = base + suffix(v) + (large ? ", large x" : "");
-                    for (const auto& [level, m] : modules) {
-                        for (const int w : widths) entrants.push_back({row, level->key, std::to_string(w), ours(*m->find({f, w, v})), b});
+                    for (std::size_t i = 0; i < modules.size(); i++) {
+                        const auto& [level, m] = modules[i];
+                        if (arrays) add_arrays(*f, v, *level, *m, libraries[i], row, b, entrants);
+                        else for (const int w : widths) entrants.push_back({row, level->key, std::to_string(w), ours(*m->find({f, w, v})), b});
                         add_peers(*f, *level, row, b, entrants);
                     }
                 }
@@ -289,7 +378,7 @@ int main(int argc, char** argv) {
         benchmark::Initialize(&flag_count, flags);
         Table table;
         benchmark::RunSpecifiedBenchmarks(&table);
-        json ? table.print_json(entrants) : markdown ? table.print_markdown(entrants) : table.print(entrants);
+        arrays ? table.print_arrays(entrants, markdown) : json ? table.print_json(entrants) : markdown ? table.print_markdown(entrants) : table.print(entrants);
         return 0;
     });
 }

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <bit>
 #include <cstdlib>
+#include <filesystem>
 #include <stdexcept>
 #include <tuple>
 
@@ -165,10 +166,14 @@ Module::Module(const std::string& path) : handle_(dlopen(path.c_str(), RTLD_NOW 
     if (!handle_) throw std::runtime_error(std::string("cannot load the module: ") + dlerror());
 }
 
-std::string Module::built_path() {
-    const char* other = std::getenv("TARN_MODULE");
-    return other && *other ? other : TARN_MODULE_PATH;
+std::string library_path(const char* variable, const std::filesystem::path& built) {
+    if (const char* other = std::getenv(variable); other && *other) return other;
+    std::error_code none;
+    const std::string program = std::filesystem::read_symlink("/proc/self/exe", none).string();
+    return program.starts_with(TARN_BUILD_DIRECTORY "/") ? built.string() : built.filename().string();
 }
+
+std::string Module::built_path() { return library_path("TARN_MODULE", TARN_MODULE_PATH); }
 
 std::optional<Function> Module::find(const Export& e) const {
     Function f;

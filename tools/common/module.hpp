@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <vector>
@@ -78,10 +79,13 @@ private:
     Batch batch_ = nullptr;
 };
 
+// The file that the variable of the environment names. Else a program of the build takes the build's, and an installed
+// one what the loader finds by its name.
+std::string library_path(const char* variable, const std::filesystem::path& built);
+
 class Module {
 public:
-    // The module of the build that this program belongs to, the one that the environment's TARN_MODULE names, or the
-    // one named here.
+    // The module as library_path has it from TARN_MODULE, or the one named here.
     explicit Module(const std::string& path = built_path());
     static std::string built_path();
 

@@ -128,6 +128,7 @@ void catalogue() {
                     std::printf(" \"formula\": %s, \"domain\": %s, \"special_values\": %s, \"exceptions\": %s,\n",
                                 quoted(f.formula).c_str(), or_null(f.domain).c_str(), or_null(f.special).c_str(),
                                 array(exceptions(f), quoted).c_str());
+                    std::printf(" \"array_exceptions\": %s,\n", array(exceptions(f, Of::elements), quoted).c_str());
                     std::printf(" \"vector_function_abi\": %s}", vector_functions(f, width, v).c_str());
                     separator = ",\n";
                 }

@@ -52,7 +52,9 @@ void header() {
  * Generated from the table of families by tarn-exports; edit the table. */
 #ifndef OCL_TARN_K1_H
 #define OCL_TARN_K1_H
-
+)");
+    print_version();
+    std::puts(R"(
 #include <stdint.h>
 
 #ifdef _WIN32
@@ -100,13 +102,7 @@ extern "C" {
     for (const Family& f : families()) {
         print_group(f, group);
         std::puts("");
-        std::string text = f.base + ": " + f.formula + ".";
-        if (!f.domain.empty()) text += " Domain: " + f.domain + ".";
-        if (!f.special.empty()) text += " Special values: " + f.special;
-        const std::string error = error_line(f);
-        if (!error.empty()) text += ' ' + error;
-        for (const auto& sentence : exceptions(f)) text += ' ' + sentence;
-        print_comment(text);
+        print_comment(description(f));
         for (const Variant v : all_variants)
             if (f.has(v))
                 for (const int width : widths) std::puts(declaration(f, width, v).c_str());

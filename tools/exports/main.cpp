@@ -1,10 +1,9 @@
-// Writes what follows from the table of families: the public headers, the version script and its like on Windows, the
-// pages of measured errors, of exceptions, of the calling conventions and of OpenCL's built-ins, the catalogue, the
-// calls of the C callers' test; and a source file with its worst errors renewed.
-//   tarn-exports header|opencl|windows-header|windows-exports|windows-imports|map|names|accuracy|calls|json > FILE
-//   tarn-exports contract docs/contract.md > FILE, and so for abi and mapping
+// Writes what follows from the table of families: headers, version scripts and their like on Windows, pages, the
+// catalogue, what tests call; and pages and source files with what is generated in them renewed.
+//   tarn-exports OUTPUT > FILE
+//   tarn-exports OUTPUT PAGE > FILE
 #include <cstdio>
-#include <cstring>
+#include <string>
 
 #include "exports/outputs.hpp"
 #include "families/families.hpp"
@@ -20,31 +19,48 @@ void names(const char* indent, const char* end) {
                 for (const int width : widths) std::printf("%s%s%s\n", indent, export_name(f.base, width, v).c_str(), end);
 }
 
+void map() {
+    std::puts("/* Generated from the table of families by tarn-exports. */\n{\nglobal:");
+    names("    ", ";");
+    std::puts("local:\n    *;\n};");
+}
+
+void windows_exports() {
+    std::puts("; Generated from the table of families by tarn-exports.\nLIBRARY __ocl_tarn_k1.dll\nEXPORTS");
+    names("    ", "");
+}
+
+struct Output {
+    const char* name;
+    void (*write)();
+};
+constexpr Output outputs[] = {
+    {"header", header}, {"opencl", opencl_header}, {"windows-header", windows_header}, {"arrays", arrays},
+    {"simd-header", simd_header}, {"loops", loops}, {"map", map}, {"tarn-map", tarn_map},
+    {"windows-exports", windows_exports}, {"windows-imports", windows_imports}, {"accuracy", accuracy},
+    {"json", catalogue}, {"calls", calls}, {"names", [] { names("", ""); }},
+};
+
+struct Renewal {
+    const char* name;
+    int (*renew)(const char* file);
+};
+constexpr Renewal renewals[] = {
+    {"comments", comments}, {"contract", contract}, {"abi", conventions}, {"mapping", mapping},
+};
+
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (argc == 2 && !std::strcmp(argv[1], "header")) header();
-    else if (argc == 2 && !std::strcmp(argv[1], "windows-header")) windows_header();
-    else if (argc == 2 && !std::strcmp(argv[1], "windows-imports")) windows_imports();
-    else if (argc == 2 && !std::strcmp(argv[1], "names")) names("", "");
-    else if (argc == 2 && !std::strcmp(argv[1], "accuracy")) accuracy();
-    else if (argc == 2 && !std::strcmp(argv[1], "calls")) calls();
-    else if (argc == 2 && !std::strcmp(argv[1], "opencl")) opencl_header();
-    else if (argc == 2 && !std::strcmp(argv[1], "json")) catalogue();
-    else if (argc == 3 && !std::strcmp(argv[1], "comments")) return comments(argv[2]);
-    else if (argc == 3 && !std::strcmp(argv[1], "contract")) return contract(argv[2]);
-    else if (argc == 3 && !std::strcmp(argv[1], "mapping")) return mapping(argv[2]);
-    else if (argc == 3 && !std::strcmp(argv[1], "abi")) return conventions(argv[2]);
-    else if (argc == 2 && !std::strcmp(argv[1], "map")) {
-        std::puts("/* Generated from the table of families by tarn-exports. */\n{\nglobal:");
-        names("    ", ";");
-        std::puts("local:\n    *;\n};");
-    } else if (argc == 2 && !std::strcmp(argv[1], "windows-exports")) {
-        std::puts("; Generated from the table of families by tarn-exports.\nLIBRARY __ocl_tarn_k1.dll\nEXPORTS");
-        names("    ", "");
-    } else {
-        std::fputs("usage: tarn-exports header|opencl|windows-header|windows-exports|windows-imports|map|names|accuracy|calls|json,\n"
-                   "       or comments|contract|abi|mapping FILE\n", stderr);
-        return 2;
-    }
+    const std::string what = argc > 1 ? argv[1] : "";
+    for (const Output& output : outputs)
+        if (argc == 2 && what == output.name) return output.write(), 0;
+    for (const Renewal& renewal : renewals)
+        if (argc == 3 && what == renewal.name) return renewal.renew(argv[2]);
+    std::string usage = "usage: tarn-exports ";
+    for (const Output& output : outputs) usage += std::string(&output == outputs ? "" : "|") + output.name;
+    usage += ", or ";
+    for (const Renewal& renewal : renewals) usage += std::string(&renewal == renewals ? "" : "|") + renewal.name;
+    std::fprintf(stderr, "%s FILE\n", usage.c_str());
+    return 2;
 }

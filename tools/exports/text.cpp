@@ -3,6 +3,7 @@
 #include <bit>
 #include <cstdio>
 #include <fstream>
+#include <sstream>
 
 namespace tarn {
 
@@ -86,17 +87,18 @@ std::string magnitude(double limit) {
 
 }  // namespace
 
-std::vector<std::string> exceptions(const Family& f) {
+std::vector<std::string> exceptions(const Family& f, Of of) {
     std::vector<std::string> all;
-    if (!f.width_full.empty()) {
+    const bool calls = of == Of::calls;
+    if (calls && !f.width_full.empty()) {
         std::vector<int> own;
         for (const auto& [width, worst] : f.width_full) own.push_back(width);
         all.push_back((own.size() > 1 ? "Widths " : "Width ") + listed(own) + (own.size() > 1 ? " have kernels" : " has a kernel") +
                       " of " + (own.size() > 1 ? "their" : "its") + " own (full).");
     }
-    if (f.switches_above != 0)
+    if (calls && f.switches_above != 0)
         all.push_back("One lane beyond |x| = " + magnitude(f.switches_above) + " sends the whole call down another path.");
-    if (f.shares_blocks) all.push_back("A special lane makes its 16-byte block more exact (full).");
+    if (calls && f.shares_blocks) all.push_back("A special lane makes its 16-byte block more exact (full).");
     if (!f.estimates.empty())
         all.push_back("Last bits may differ between processor makers (" + forms(f.estimates) + ").");
     if (!f.native_domain.empty()) {
@@ -109,7 +111,7 @@ std::vector<std::string> exceptions(const Family& f) {
         }
         all.push_back("Native keeps its error for " + listed(parts) + ".");
     }
-    if (!f.also.empty()) all.push_back(f.also);
+    if (!f.also.empty() && (calls || f.switches_above == 0)) all.push_back(f.also);
     return all;
 }
 
@@ -121,15 +123,17 @@ std::string number(Lane type, std::uint64_t pattern) {
     return text;
 }
 
-std::string error_line(const Family& f) {
+std::string error_line(const Family& f, Of of) {
     if (f.full.ulp == 0) return rounds_once(f) ? "Exact, or rounded once." : "";
     // Of all inputs one is the worst; of others, one is the worst that was found.
     const bool settled = f.measured.starts_with("all") || f.measured.starts_with("every");
     std::string text = (settled ? "Worst error " : "Largest error found ") + ulps(f.full.ulp) + " ulp";
-    for (const auto& [width, own] : f.width_full) text += ", width " + std::to_string(width) + " " + ulps(own.ulp);
+    if (of == Of::calls)
+        for (const auto& [width, own] : f.width_full) text += ", width " + std::to_string(width) + " " + ulps(own.ulp);
     if (f.allowed > 0) {
         text += " (OpenCL allows " + ulps(f.allowed);
-        if (!f.exceeds_bound.empty()) text += ", exceeded " + widths_text(f.exceeds_bound);
+        if (of == Of::elements && f.exceeds(16)) text += ", exceeded";
+        if (of == Of::calls && !f.exceeds_bound.empty()) text += ", exceeded " + widths_text(f.exceeds_bound);
         text += ')';
     }
     if (f.native_worst.ulp != 0) text += f.half_worst.ulp != 0 ? "; native " : f.has(Variant::half) ? "; native and half " : "; native ";
@@ -137,6 +141,33 @@ std::string error_line(const Family& f) {
     if (f.half_worst.ulp != 0) text += ", half " + ulps(f.half_worst.ulp);
     if (!f.measured.empty()) text += (settled ? "; measured over " : "; by ") + f.measured;
     return text + '.';
+}
+
+std::string description(const Family& f, Of of) {
+    std::string text = f.base + ": " + f.formula + ".";
+    if (!f.domain.empty()) text += " Domain: " + f.domain + ".";
+    if (!f.special.empty()) text += " Special values: " + f.special;
+    const std::string error = error_line(f, of);
+    if (!error.empty()) text += ' ' + error;
+    for (const auto& sentence : exceptions(f, of)) text += ' ' + sentence;
+    return text;
+}
+
+void print_version() {
+    std::istringstream version(TARN_VERSION);
+    for (const char* part : {"MAJOR", "MINOR", "PATCH"}) {
+        std::string number;
+        std::getline(version, number, '.');
+        std::printf("#define TARN_VERSION_%s %s\n", part, number.c_str());
+    }
+}
+
+void print_group(const Family& f, std::string& group) {
+    if (f.group == group) return;
+    group = f.group;
+    std::string rule = "/* " + group + ' ';
+    rule.resize(100, '-');
+    std::printf("\n%s */\n", rule.c_str());
 }
 
 void print_comment(const std::string& text, std::size_t limit) {
@@ -153,14 +184,6 @@ void print_comment(const std::string& text, std::size_t limit) {
         at = end + 1;
     }
     std::puts((line + " */").c_str());
-}
-
-void print_group(const Family& f, std::string& group) {
-    if (f.group == group) return;
-    group = f.group;
-    std::string rule = "/* " + group + ' ';
-    rule.resize(100, '-');
-    std::printf("\n%s */\n", rule.c_str());
 }
 
 int renewed(const char* file, const std::string& what, const std::string& text) {

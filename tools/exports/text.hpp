@@ -30,13 +30,21 @@ std::string widths_text(const std::vector<int>& numbers);
 // An argument for people: a pattern as the number it is.
 std::string number(Lane type, std::uint64_t pattern);
 
+// What is said of a family: of the module's calls, at whose widths kernels may differ, or of the elements of arrays,
+// which width 16's kernel computes one and all.
+enum class Of { calls, elements };
+
 // Where a result depends on more than its own lane, or surprises: a sentence each.
-std::vector<std::string> exceptions(const Family& f);
-std::string error_line(const Family& f);
+std::vector<std::string> exceptions(const Family& f, Of of = Of::calls);
+std::string error_line(const Family& f, Of of = Of::calls);
+// Formula, domain, special values, error and exceptions.
+std::string description(const Family& f, Of of = Of::calls);
 
 // A page with the text between its marks of that name renewed, on standard output. The exit status.
 int renewed(const char* file, const std::string& what, const std::string& text);
 
+// The version as macros, the same in every header.
+void print_version();
 // What heads a family's group, where that is another than the last one's.
 void print_group(const Family& f, std::string& group);
 // As a C comment, in lines of at most `limit` characters.
