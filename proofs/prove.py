@@ -1,7 +1,9 @@
 """Runs proofs and holds the families' rows to them: the program behind scripts/prove."""
 import glob
+import importlib.util
 import os
 import re
+import shutil
 import subprocess
 import sys
 import time
@@ -49,6 +51,11 @@ def main():
         if name not in known():
             print(f"scripts/prove: no proof of {name}; there are {', '.join(known())}", file=sys.stderr)
             return 2
+    missing = [tool for tool in ("gappa", "sollya") if not shutil.which(tool)]
+    missing += [] if importlib.util.find_spec("gmpy2") else ["python3-gmpy2"]
+    if missing:
+        print(f"scripts/prove: {', '.join(missing)} not installed; see scripts/install-dependencies", file=sys.stderr)
+        return 2
     failed = 0
     for number, name in enumerate(names, 1):
         print(f"[{number}/{len(names)}] {name} ...", end=" ", flush=True)

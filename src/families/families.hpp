@@ -97,6 +97,14 @@ struct Family {
             if (w == width) return own;
         return full;
     }
+    // Of the full form's fast path at a width; 0: nothing is proved.
+    double proved_at(int width) const {
+        for (const auto& [w, own] : width_proved)
+            if (w == width) return own;
+        for (const auto& [w, own] : width_full)
+            if (w == width) return 0;
+        return proved;
+    }
 };
 
 inline constexpr int widths[] = {1, 2, 3, 4, 8, 16};
