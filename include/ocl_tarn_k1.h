@@ -275,8 +275,9 @@ tarn_float8 __ocl_tarn_k1_logf8_half(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_logf16_half(tarn_float16 x) TARN_CONST;
 
 /* log: ln x. Domain: x >= 0. Special values: zeros give -inf, +inf +inf, negative x NaN. Largest error
-   found 1.589 ulp (OpenCL allows 3); native 2.095e+06; by directed search, 1549 million evaluations (native
-   429 million). Last bits may differ between processor makers (full and native). */
+   found 1.589 ulp, proved at most 8.9326 on the fast path with any processor's estimates (OpenCL allows 3);
+   native 2.095e+06; by directed search, 1549 million evaluations (native 429 million). Last bits may differ
+   between processor makers (full and native). */
 double __ocl_tarn_k1_log1(double x) TARN_CONST;
 tarn_double2 __ocl_tarn_k1_log2(tarn_double2 x) TARN_CONST;
 tarn_double3 __ocl_tarn_k1_log3(tarn_double3 x) TARN_CONST;

@@ -99,8 +99,9 @@ void tarn_logf_native(size_t n, const float* x, float* r);
 void tarn_logf_half(size_t n, const float* x, float* r);
 
 /* log: ln x. Domain: x >= 0. Special values: zeros give -inf, +inf +inf, negative x NaN. Largest error
-   found 1.589 ulp (OpenCL allows 3); native 2.095e+06; by directed search, 1549 million evaluations (native
-   429 million). Last bits may differ between processor makers (full and native). */
+   found 1.589 ulp, proved at most 8.9326 on the fast path with any processor's estimates (OpenCL allows 3);
+   native 2.095e+06; by directed search, 1549 million evaluations (native 429 million). Last bits may differ
+   between processor makers (full and native). */
 void tarn_log(size_t n, const double* x, double* r);
 void tarn_log_native(size_t n, const double* x, double* r);
 
