@@ -42,7 +42,7 @@ for binade in range(0, 24):
 _, slip, largest = sines.reduction(kernel, pi, scale, nearest, Fraction(-1), Fraction(1))
 largest_rest = max(largest_rest, largest)
 
-agree_with_module(kernel, "cos", 16, ((1.37 * i ** 3 * (-1) ** i,) for i in range(180)))
+agree_with_module(kernel, "cos", ((1.37 * i ** 3 * (-1) ** i,) for i in range(180)))
 rests = (r, signed)
 worst, (low, high) = max(sines.main_bound(kernel, y, rests, 2, max(slips.values()), largest_rest),
                          sines.main_bound(kernel, y, rests, 4, slip, largest_rest, from_rest=sines.binary(sines.PI.low / 2 - 1)))

@@ -27,7 +27,7 @@ def widths_alike():
     require(power.step == 1, "the shifter rounds to integers")
     rest, slip = powers.reduction(power, scale, power.n, nearest, LN2 / power.N, kernel.limit())
     require(exp(-kernel.limit()).low > Fraction(2) ** -1022 * (1 + Fraction(1, 2 ** 40)), "results are normal")
-    agree_with_module(kernel, "exp", 16, SAMPLES)
+    agree_with_module(kernel, "exp", SAMPLES)
     worst, row = powers.bound(power, "exp(x)", exp, rest, slip)
     report("exp", 16, worst, f"row {row}")
 

@@ -1,26 +1,22 @@
 #!/usr/bin/python3
 """log in double precision, positive normal x = 2^e 1024 m, whatever estimate of 1/m a processor may give: R is that
 estimate's nearest integer, r = m R - 1, ln x = k ln 2 + T(R) + ln(1 + r)."""
-import subprocess
 from fractions import Fraction
 
 import gmpy2
 
-from proof import (TRACE, Interval, Kernel, dyadic, enclose, enclose_constant, exponent_of, gappa, gappa_each, lane_value, literal,
-                   pattern_of, require, report, sollya, ulp)
+from logs import LN2, PolynomialErrors, Rows, for_any_estimate, ln_1p, this_processor, with_estimates
+from proof import Interval, Kernel, agree_with_module, enclose, exponent_of, gappa, gappa_each, literal, report, require, ulp
 
 kernel = Kernel("log", 16)
 x, = kernel.arguments
-LN2 = enclose_constant(gmpy2.const_log2)
-# What the instruction promises of its estimate, and what narrowing its argument adds.
-ESTIMATE = Fraction(3, 2 ** 13) + Fraction(1, 2 ** 23)
 
 # (poly + T) + k ln 2.
 with_row, exponent = kernel.operands(kernel.result, "add")
 poly, gather = kernel.operands(with_row, "add")
 k, ln2 = kernel.constant_of(exponent, "multiply")
-rows, row = kernel.entries(gather)
-R = next(i for i in kernel.users(kernel.only("reciprocal_estimate")))
+table, row = kernel.entries(gather)
+R, = kernel.users(kernel.only("reciprocal_estimate"))
 kernel.operands(R, "round", "0")
 R64 = next(i for i in kernel.users(R) if kernel.name(i) == "convert")
 r = kernel.necks(poly, x)[-1]
@@ -32,30 +28,10 @@ require(one == 1 and R64 in kernel.operands(low_part, "multiply"), "r is m R - 1
 (same_m, kept) = kernel.constant_of(kernel.bits_of(m_head), "and")
 require(kernel.bits_of(same_m) == m and kept == -2 ** 26, "the head of m has 26 bits less")
 
-# The row and whether k is one more, for every R there may be.
-upper = next(i for i in kernel.reached if kernel.name(i) == "greater")
-row_of = {}
-for integer in range(512, 1025):
-    at = {R: pattern_of("f32", Fraction(integer))}
-    row_of[integer] = (kernel.evaluate_from(at, row), lane_value("i32", kernel.evaluate_from(at, upper)))
-require(all(number == integer - 512 for integer, (number, _) in row_of.items()), "a row for each R")
-
-
-def true_row(integer):
-    """ln of 512/R, or of 1024/R where k is one less for it."""
-    return enclose(gmpy2.log, Fraction(512 if row_of[integer][1] == 0 else 1024, integer))
-
-
-# m from 2^-10 to 2^-9 has an R next to 1/m.
-def for_any_estimate(integer):
-    """Where m R - 1 lies for the m that may have this R: |R - 1/m| is at most 1/2 and what the estimate is off."""
-    low = (integer - Fraction(1, 2)) / (1 + ESTIMATE)
-    high = (integer + Fraction(1, 2)) / (1 - ESTIMATE)
-    return integer / min(high, Fraction(1024)) - 1, integer / max(low, Fraction(512)) - 1
-
+rows = Rows(kernel, R, row)
 
 # r = m R - 1 is exact: a multiple of 2^-62 that is small.
-widest = max(max(abs(e) for e in for_any_estimate(integer)) for integer in row_of)
+widest = max(max(abs(e) for e in for_any_estimate(integer)) for integer in rows)
 names = {m: "m", R64: "R", m_head: "h"}
 steps = kernel.rounded(r, names)
 answers = gappa(f"""m = rnd(m_);
@@ -69,29 +45,17 @@ h * R - 1 -> (m * R - 1) + (h - m) * R;
 """)
 require(answers and all(a.magnitude == 0 for a in answers.values()) and widest < Fraction(3, 2048), "r is exact")
 
-# The polynomial against ln(1 + r), as a part of it, for |r| up to so many 64ths of a bound.
-bound = Fraction(2) ** exponent_of(2 * widest)
-lines = sollya(f"p = canonical({kernel.exact(poly, {r: 'x'})});\n" + "".join(
-    f"sup(supnorm(p, log(1 + x), [-{literal(bound * i / 64)}; {literal(bound * i / 64)}], relative, 2^(-10)));\n" for i in range(1, 65)))
-levels = [dyadic(line) for line in lines[-64:]]
-
-
-def polynomial_error(largest):
-    return levels[min(63, int(largest * 64 / bound))]
-
-
-def log1p(low, high):
-    return enclose(gmpy2.log1p, Interval(low, high))
+polynomial = PolynomialErrors(kernel.exact(poly, {r: "x"}), widest)
 
 
 def pieces_of(integer, low, high):
     """The row's rests, cut where ln x crosses a power of two while k = 0, and next to 0 for the rows without a T. Rests
     are multiples of 2^-62, none of which is where a cut is."""
-    unit, value = Fraction(2) ** -62, true_row(integer)
+    unit, value = Fraction(2) ** -62, rows.true(integer)
     cuts = [Interval(low), Interval(high)]
-    cuts += [enclose(gmpy2.expm1, side * Fraction(2) ** e - value) for e in range(-54 if rows[integer - 512] == 0 else -12, -1)
+    cuts += [enclose(gmpy2.expm1, side * Fraction(2) ** e - value) for e in range(-54 if table[integer - 512] == 0 else -12, -1)
              for side in (-1, 1)]
-    if rows[integer - 512] == 0:
+    if table[integer - 512] == 0:
         # x is a double, and r is x - 1 next to 1.
         side = 1 if high > 0 else -1
         cuts += [Interval(side * Fraction(2) ** e) for e in range(-53, -8)]
@@ -103,10 +67,10 @@ def pieces_of(integer, low, high):
 
 def bound_for(rests):
     """The largest error in ulp, and where, if R has m R - 1 within rests(R)."""
-    work = [(integer, piece) for integer in row_of for piece in pieces_of(integer, *rests(integer))]
+    work = [(integer, piece) for integer in rows for piece in pieces_of(integer, *rests(integer))]
     questions = []
     for integer, (low, high) in work:
-        names = {r: "r", gather: literal(rows[integer - 512])}
+        names = {r: "r", gather: literal(table[integer - 512])}
         exact = kernel.exact(with_row, dict(names))
         text = kernel.rounded(with_row, names)
         questions.append(f"r = rnd(r_);\n{text}{{ r in [{literal(low)}, {literal(high)}] -> {names[with_row]} - {exact} in ? }}\n")
@@ -114,22 +78,21 @@ def bound_for(rests):
     for (integer, (low, high)), rounding in zip(work, gappa_each(questions)):
         if rounding is None:
             continue
-        part, row_value = log1p(low, high), true_row(integer)
+        part, row_value = ln_1p(low, high), rows.true(integer)
         # The polynomial, the table, and the roundings.
-        total = (polynomial_error(max(abs(low), abs(high))) * part.magnitude + (row_value - rows[integer - 512]).magnitude
+        total = (polynomial.up_to(max(abs(low), abs(high))) * part.magnitude + (row_value - table[integer - 512]).magnitude
                  + rounding.magnitude)
         absolute[integer] = max(absolute.get(integer, Fraction(0)), total)
-        if row_of[integer][1] in (0, -1):
-            value = abs(part + row_value)
-            largest = max(largest, (total / ulp(value.low), f"k = 0, R = {integer}, |ln x| from {float(value.low):.7f}"))
+        value = abs(part + row_value)
+        largest = max(largest, (total / ulp(value.low), f"k = 0, R = {integer}, |ln x| from {float(value.low):.7f}"))
     # Away from k = 0: the product, the constant's error, the last sum.
     for k in [k for k in range(-1075, 1025) if k != 0]:
         off = (ln2 - LN2).magnitude * abs(k)
         if abs(k) & (abs(k) - 1) != 0:
             off += ulp(k * ln2) / 2
-        for integer in row_of if abs(k) < 4 else [512]:
+        for integer in rows if abs(k) < 4 else [512]:
             if abs(k) < 4:
-                value, error = abs(k * LN2 + true_row(integer) + log1p(*rests(integer))), absolute[integer] + off
+                value, error = abs(k * LN2 + rows.true(integer) + ln_1p(*rests(integer))), absolute[integer] + off
             else:
                 # Any row: T + ln(1 + r) is below 0.35.
                 value, error = abs(k * LN2) + Interval(Fraction(-35, 100), Fraction(35, 100)), max(absolute.values()) + off
@@ -142,19 +105,7 @@ def bound_for(rests):
     return largest
 
 
-def this_processor():
-    """The rests that this processor's estimates leave; m is a double, within half a unit of a float."""
-    found = {}
-    for line in subprocess.run([TRACE, "--reciprocals"], capture_output=True, text=True, check=True).stdout.splitlines():
-        integer, least, most = line.split()
-        least, most = (Fraction(float.fromhex(v)) for v in (least, most))
-        unit = Fraction(1, 2 ** 24)
-        least, most = max(least * (1 - unit), Fraction(1, 1024)), min(most * (1 + unit), Fraction(1, 512))
-        found[int(integer)] = (least * int(integer) - 1, most * int(integer) - 1)
-    require(set(found) <= set(row_of), "R is within the table")
-    return lambda integer: found[integer]
-
-
+agree_with_module(kernel, "log", ((0.013 * i ** 4 + 1e-4 * i + 0.01,) for i in range(300)), with_estimates(kernel, R))
 bound_here, where = bound_for(this_processor())
 print(f"with this processor's estimates at most {float(bound_here):.4f} ulp ({where})")
 report("log", 16, *bound_for(for_any_estimate))

@@ -45,17 +45,33 @@ def for_any_estimate(integer):
     return integer / min(high, Fraction(1024)) - 1, integer / max(low, Fraction(512)) - 1
 
 
+def reciprocals():
+    """For each R the least and the largest float m for which this processor's estimate of 1/m rounds to R."""
+    lines = subprocess.run([TRACE, "--reciprocals"], capture_output=True, text=True, check=True).stdout.splitlines()
+    found = {int(R): (Fraction(float.fromhex(least)), Fraction(float.fromhex(most))) for R, least, most in map(str.split, lines)}
+    require(set(found) <= set(range(512, 1025)), "R is within the table")
+    return found
+
+
 def this_processor():
     """The rests that this processor's estimates leave; m is a double, within half a unit of a float."""
-    found = {}
-    for line in subprocess.run([TRACE, "--reciprocals"], capture_output=True, text=True, check=True).stdout.splitlines():
-        integer, least, most = line.split()
-        least, most = (Fraction(float.fromhex(v)) for v in (least, most))
-        unit = Fraction(1, 2 ** 24)
+    unit, found = Fraction(1, 2 ** 24), {}
+    for R, (least, most) in reciprocals().items():
         least, most = max(least * (1 - unit), Fraction(1, 1024)), min(most * (1 + unit), Fraction(1, 512))
-        found[int(integer)] = (least * int(integer) - 1, most * int(integer) - 1)
-    require(set(found) <= set(range(512, 1025)), "R is within the table")
+        found[R] = (least * R - 1, most * R - 1)
     return lambda integer: found[integer]
+
+
+def with_estimates(kernel, R):
+    """For a trace to be evaluated: R as this processor has it."""
+    found = reciprocals()
+    m, = kernel.operands(kernel.only("reciprocal_estimate"))
+
+    def given(patterns):
+        value = lane_value("f32", kernel.evaluate_from(patterns, m))
+        integer, = (i for i, (least, most) in found.items() if least <= value <= most)
+        patterns[R] = pattern_of("f32", Fraction(integer))
+    return given
 
 
 class PolynomialErrors:

@@ -395,13 +395,18 @@ def report(base, width, bound, where):
     print(f"proved {base} {width} {math.ceil(bound * 10000) / 10000:.4f} {where}")
 
 
-def agree_with_module(kernel, base, width, samples):
-    """The trace computes what the module computes: a guard against a trace that misreads its kernel."""
+def agree_with_module(kernel, base, samples, given=lambda patterns: None):
+    """The trace computes what the module computes: a guard against a trace that misreads its kernel. Lanes one by one,
+    so that the kernel has to be width 1's too. `given` adds to the patterns what cannot be evaluated."""
     module = os.environ.get("TARN_MODULE", os.path.join(os.path.dirname(TRACE), "../__ocl_tarn_k1.so"))
-    require(width in (1, 16) and all(kernel.operations[i]["lane"] == "f64" for i in kernel.arguments), "doubles one by one")
+    types = {"f64": ctypes.c_double, "f32": ctypes.c_float}
+    lanes = [kernel.operations[i]["lane"] for i in (*kernel.arguments, kernel.result)]
     function = getattr(ctypes.CDLL(module), f"__ocl_tarn_k1_{base}1")
-    function.restype, function.argtypes = ctypes.c_double, [ctypes.c_double] * len(kernel.arguments)
+    *function.argtypes, function.restype = (types[lane] for lane in lanes)
     for sample in samples:
-        theirs = struct.unpack("<Q", struct.pack("<d", function(*sample)))[0]
-        ours = kernel.evaluate(*(struct.unpack("<Q", struct.pack("<d", x))[0] for x in sample))
+        patterns = {i: pattern_of(lane, Fraction(x)) for i, lane, x in zip(kernel.arguments, lanes, sample)}
+        arguments = [float(lane_value(lane, patterns[i])) for i, lane in zip(kernel.arguments, lanes)]
+        given(patterns)
+        theirs = pattern_of(lanes[-1], Fraction(function(*arguments)))
+        ours = kernel.evaluate_from(patterns, kernel.result)
         require(ours == theirs, f"{base}{sample}: the trace gives {ours:#x}, the module {theirs:#x}")
