@@ -70,8 +70,8 @@ and threshold; what it finds is no bound, and a longer one may find more. The te
 Families that are not here give exact or correctly rounded results.
 
 "Proved at most" is a bound of the fast path, for all its arguments ([proofs](proofs.md)); where a form starts from the
-processor's estimate of a reciprocal it holds for every estimate within the instruction's promise, and processors at
-hand stay well below it. What is not on the fast path is not proved.
+processor's estimate of a reciprocal it holds for every estimate within the instruction's promise, which is wider than
+what processors give. What is not on the fast path is not proved.
 
 A bound in brackets is exceeded: those kernels keep their bits. `half` is `native` where it has no line of its own.
 Written by `tarn-exports accuracy` from the table of families.
