@@ -162,6 +162,18 @@ TEST(Names, AreTakenApartByTheTable) {
                 }
 }
 
+TEST(ProvedBounds, AreNotBelowTheLargestErrorFound) {
+    int proved = 0;
+    for (const Family& f : families())
+        for (const int width : widths) {
+            const double bound = f.proved_at(width);
+            if (bound == 0) continue;
+            proved++;
+            EXPECT_GE(bound, f.worst(Variant::full, width).ulp) << f.base << " at width " << width;
+        }
+    EXPECT_GT(proved, 0);
+}
+
 // What is generated from the table and committed is what the table says.
 TEST(Generated, FilesFollowTheTable) {
     const auto text = [](const std::vector<std::string>& lines) {

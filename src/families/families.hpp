@@ -62,6 +62,10 @@ struct Family {
     std::vector<std::pair<int, Worst>> width_full{};
     std::vector<int> exceeds_bound{};  // widths whose kernel exceeds what OpenCL allows; their bits stay
     std::string measured{};  // over what
+    // Bounds that proofs/ proves for the fast path of the full form, for widths without a kernel of their own and for
+    // those with one; 0: none. Rounded up.
+    double proved = 0;
+    std::vector<std::pair<int, double>> width_proved{};
 
     // Where every library at hand is on its fast path, for each argument: benches and dense samples.
     std::vector<Interval> usual{};
@@ -92,6 +96,14 @@ struct Family {
         for (const auto& [w, own] : width_full)
             if (w == width) return own;
         return full;
+    }
+    // Of the full form's fast path at a width; 0: nothing is proved.
+    double proved_at(int width) const {
+        for (const auto& [w, own] : width_proved)
+            if (w == width) return own;
+        for (const auto& [w, own] : width_full)
+            if (w == width) return 0;
+        return proved;
     }
 };
 

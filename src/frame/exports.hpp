@@ -52,7 +52,9 @@ template <class K, int width> using CallAt = Call<typename ChosenAt<K, width>::K
 #define TARN_TEXT(name) #name
 #define TARN_QUOTED(name) TARN_TEXT(name)
 
-#ifdef TARN_ARRAYS
+#if defined TARN_TRACED
+#include "proofs/door.hpp"
+#elif defined TARN_ARRAYS
 #include "arrays/door.hpp"
 #else
 

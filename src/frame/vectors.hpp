@@ -21,8 +21,10 @@ using i64x2 = Vector<std::int64_t, 16>;
 using u64x2 = Vector<std::uint64_t, 16>;
 
 template <class V> using LaneOf = std::remove_cvref_t<decltype(std::declval<V&>()[0])>;
-template <class V> concept Vectors = !std::is_arithmetic_v<V> && !std::is_class_v<V> && !std::is_pointer_v<V> &&
-                                     requires(V v) { v[0]; v + v; };
+// A class that proofs put in the place of a vector.
+template <class V> inline constexpr bool stands_for_vector = false;
+template <class V> concept Vectors = !std::is_arithmetic_v<V> && (!std::is_class_v<V> || stands_for_vector<V>) &&
+                                     !std::is_pointer_v<V> && requires(V v) { v[0]; v + v; };
 template <class V> constexpr int lane_count = sizeof(V) / sizeof(LaneOf<V>);
 
 template <class V> concept Floats = Vectors<V> && std::is_floating_point_v<LaneOf<V>>;

@@ -61,7 +61,7 @@ std::string travels(const Shape& s, int width, Convention convention) {
 
 std::string error(const Family& f, int width, Variant v) {
     const Worst& worst = f.worst(v, width);
-    if (rounds_once(f)) return R"({"ulp": 0.5, "at": [], "measured": null})";
+    if (rounds_once(f)) return R"({"ulp": 0.5, "at": [], "measured": null, "proved": null})";
     if (worst.ulp == 0) return "null";
     std::size_t a = 0;
     return "{\"ulp\": " + number(worst.ulp) + ", \"at\": " +
@@ -72,7 +72,8 @@ std::string error(const Family& f, int width, Variant v) {
                                    static_cast<unsigned long long>(pattern));
                      return std::string(text);
                  }) +
-           ", \"measured\": " + or_null(f.measured) + '}';
+           ", \"measured\": " + or_null(f.measured) +
+           ", \"proved\": " + (v == Variant::full && f.proved_at(width) != 0 ? proved_text(f.proved_at(width)) : "null") + '}';
 }
 
 // What OpenCL allows of the built-in that this form serves; null where it leaves the error open.

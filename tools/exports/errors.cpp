@@ -69,6 +69,10 @@ error. A directed search (`tarn-ulp NAME --search SECONDS`) climbs from dense sa
 and threshold; what it finds is no bound, and a longer one may find more. The tests hold every figure here as a limit.
 Families that are not here give exact or correctly rounded results.
 
+"Proved at most" is a bound of the fast path, for all its arguments ([proofs](proofs.md)); where a form starts from the
+processor's estimate of a reciprocal it holds for every estimate within the instruction's promise, which is wider than
+what processors give. What is not on the fast path is not proved.
+
 A bound in brackets is exceeded: those kernels keep their bits. `half` is `native` where it has no line of its own.
 Written by `tarn-exports accuracy` from the table of families.
 )");
@@ -77,18 +81,19 @@ Written by `tarn-exports accuracy` from the table of families.
         if (f.full.ulp == 0) continue;
         if (f.group != group) {
             group = f.group;
-            std::printf("\n## %s\n\n| function | form | OpenCL allows | largest found | at | measured over |\n|---|---|---|---|---|---|\n",
+            std::printf("\n## %s\n\n| function | form | OpenCL allows | largest found | proved at most | at | measured over |\n|---|---|---|---|---|---|---|\n",
                         group.c_str());
         }
         const std::string allowed = f.allowed > 0 ? ulps(f.allowed) : f.allowed == 0 ? "0.5" : "open";
-        const auto line = [&](const std::string& form, const std::string& bound, const Worst& worst) {
+        const auto line = [&](const std::string& form, const std::string& bound, const Worst& worst, double proved = 0) {
             if (worst.ulp != 0)
-                std::printf("| `%s` | %s | %s | %s | `%s` | %s |\n", f.base.c_str(), form.c_str(), bound.c_str(),
-                            ulps(worst.ulp).c_str(), places(worst, f.shape).c_str(), f.measured.c_str());
+                std::printf("| `%s` | %s | %s | %s | %s | `%s` | %s |\n", f.base.c_str(), form.c_str(), bound.c_str(),
+                            ulps(worst.ulp).c_str(), proved != 0 ? proved_text(proved).c_str() : "", places(worst, f.shape).c_str(), f.measured.c_str());
         };
-        line("full", allowed, f.full);
+        line("full", allowed, f.full, f.proved);
         for (const auto& [width, worst] : f.width_full)
-            line("full, width " + std::to_string(width), f.exceeds(width) ? '(' + allowed + ')' : allowed, worst);
+            line("full, width " + std::to_string(width), f.exceeds(width) ? '(' + allowed + ')' : allowed, worst,
+                 f.proved_at(width));
         line("native", "open", f.native_worst);
         line("half", "8192", f.half_worst);
     }

@@ -48,6 +48,12 @@ bool is_pure(const Family& f) {
 
 bool rounds_once(const Family& f) { return f.full.ulp == 0 && f.allowed == 0 && f.formula.find("twice") == std::string::npos; }
 
+std::string proved_text(double bound) {
+    char text[32];
+    std::snprintf(text, sizeof text, "%.4f", bound);
+    return text;
+}
+
 std::string ulps(double u) {
     char text[32];
     std::snprintf(text, sizeof text, "%.4g", u);
@@ -130,6 +136,12 @@ std::string error_line(const Family& f, Of of) {
     std::string text = (settled ? "Worst error " : "Largest error found ") + ulps(f.full.ulp) + " ulp";
     if (of == Of::calls)
         for (const auto& [width, own] : f.width_full) text += ", width " + std::to_string(width) + " " + ulps(own.ulp);
+    if (f.proved != 0) {
+        text += ", proved at most " + proved_text(f.proved) + " on the fast path";
+        if (of == Of::calls)
+            for (const auto& [width, own] : f.width_proved) text += ", at width " + std::to_string(width) + ' ' + proved_text(own);
+        if (!f.estimates.empty()) text += " with any processor's estimates";
+    }
     if (f.allowed > 0) {
         text += " (OpenCL allows " + ulps(f.allowed);
         if (of == Of::elements && f.exceeds(16)) text += ", exceeded";

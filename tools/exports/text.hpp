@@ -23,6 +23,8 @@ bool is_pure(const Family& f);
 bool rounds_once(const Family& f);
 
 std::string ulps(double u);
+// A proved bound, which is not rounded down.
+std::string proved_text(double bound);
 // "a", "a and b", "a, b and c".
 std::string listed(const std::vector<std::string>& words);
 std::string listed(const std::vector<int>& numbers);

@@ -39,7 +39,7 @@ template <class V> TARN_INLINE V reduced_exactly(V m, V R) {
 
 // |r| < 2^-8; fit not recorded.
 struct BaseE {
-    static constexpr const double* rows = log_rows;
+    static constexpr const auto& rows = log_rows;
     static constexpr double c2 = f64(0xBFDFFFFFFFFFF81F);   // -0.49999999999988803
     static constexpr double c3 = f64(0x3FD55555555543C5);   // 0.33333333333308374
     static constexpr double c4 = f64(0xBFD0000148058EE1);   // -0.2500003054940248
@@ -49,7 +49,7 @@ struct BaseE {
     template <class V> static TARN_INLINE V exponent(V k) { return k * ln2; }
 };
 struct Base2 {
-    static constexpr const double* rows = log2_rows;
+    static constexpr const auto& rows = log2_rows;
     static constexpr double c1 = f64(0x3FF71547652B82FE);  // 1.4426950408889634
     static constexpr double c2 = f64(0xBFE71547652B7CF8);  // -0.7213475204443105
     static constexpr double c3 = f64(0x3FDEC709DC39E926);  // 0.48089834696260636
@@ -59,7 +59,7 @@ struct Base2 {
     template <class V> static TARN_INLINE V exponent(V k) { return k; }
 };
 struct Base10 {
-    static constexpr const double* rows = log10_rows;
+    static constexpr const auto& rows = log10_rows;
     static constexpr double c1 = f64(0x3FDBCB7B1526E50E);       // 0.4342944819032518
     static constexpr double c2 = f64(0xBFCBCB7B1526DE36);       // -0.21714724095157728
     static constexpr double c3 = f64(0x3FC287A7636F341E);       // 0.14476482730097556

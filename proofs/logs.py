@@ -1,0 +1,89 @@
+"""What the proofs of logarithms share: R, the integer nearest to the processor's estimate of 1/m for m from 2^-10 to
+2^-9, the row of ln(512/R) or ln(1024/R) that goes with it, and a polynomial of the rest m R - 1."""
+import subprocess
+from fractions import Fraction
+
+import gmpy2
+
+from proof import TRACE, Interval, dyadic, enclose, enclose_constant, exponent_of, lane_value, literal, pattern_of, require, sollya
+
+LN2 = enclose_constant(gmpy2.const_log2)
+# What the instruction promises of its estimate, and what narrowing its argument adds.
+ESTIMATE = Fraction(3, 2 ** 13) + Fraction(1, 2 ** 23)
+
+
+def ln_1p(low, high):
+    return enclose(gmpy2.log1p, Interval(low, high))
+
+
+class Rows:
+    """For every R there may be, its row and whether the exponent is one less for it."""
+
+    def __init__(self, kernel, R, row):
+        upper = kernel.only("greater", "i32")
+        self.lower_half = {}
+        for integer in range(512, 1025):
+            at = {R: pattern_of("f32", Fraction(integer))}
+            require(kernel.evaluate_from(at, row) == integer - 512, "a row for each R")
+            self.lower_half[integer] = lane_value("i32", kernel.evaluate_from(at, upper)) == 0
+
+    def __iter__(self):
+        return iter(self.lower_half)
+
+    def whole(self, integer):
+        """What R's rest is a rest of: m R is about 1 where 512 or 1024 times m is whole/R."""
+        return 512 if self.lower_half[integer] else 1024
+
+    def true(self, integer):
+        return enclose(gmpy2.log, Fraction(self.whole(integer), integer))
+
+
+def for_any_estimate(integer):
+    """Where m R - 1 lies for the m that may have this R: |R - 1/m| is at most 1/2 and what the estimate is off."""
+    low = (integer - Fraction(1, 2)) / (1 + ESTIMATE)
+    high = (integer + Fraction(1, 2)) / (1 - ESTIMATE)
+    return integer / min(high, Fraction(1024)) - 1, integer / max(low, Fraction(512)) - 1
+
+
+def reciprocals():
+    """For each R the least and the largest float m for which this processor's estimate of 1/m rounds to R."""
+    lines = subprocess.run([TRACE, "--reciprocals"], capture_output=True, text=True, check=True).stdout.splitlines()
+    found = {int(R): (Fraction(float.fromhex(least)), Fraction(float.fromhex(most))) for R, least, most in map(str.split, lines)}
+    require(set(found) <= set(range(512, 1025)), "R is within the table")
+    return found
+
+
+def this_processor():
+    """The rests that this processor's estimates leave; m is a double, within half a unit of a float."""
+    unit, found = Fraction(1, 2 ** 24), {}
+    for R, (least, most) in reciprocals().items():
+        least, most = max(least * (1 - unit), Fraction(1, 1024)), min(most * (1 + unit), Fraction(1, 512))
+        found[R] = (least * R - 1, most * R - 1)
+    return lambda integer: found[integer]
+
+
+def with_estimates(kernel, R):
+    """For a trace to be evaluated: R as this processor has it."""
+    found = reciprocals()
+    m, = kernel.operands(kernel.only("reciprocal_estimate"))
+
+    def given(patterns):
+        value = lane_value("f32", kernel.evaluate_from(patterns, m))
+        integer, = (i for i, (least, most) in found.items() if least <= value <= most)
+        patterns[R] = pattern_of("f32", Fraction(integer))
+    return given
+
+
+class PolynomialErrors:
+    """How far a polynomial of r (Sollya's text in x) is from ln(1 + r), as a part of it, for |r| up to so many 64ths of
+    a bound."""
+
+    def __init__(self, polynomial, widest):
+        self.bound = Fraction(2) ** (exponent_of(widest) + 1)
+        lines = sollya(f"p = canonical({polynomial});\n" + "".join(
+            f"sup(supnorm(p, log(1 + x), [-{literal(self.bound * i / 64)}; {literal(self.bound * i / 64)}], relative, 2^(-10)));\n"
+            for i in range(1, 65)))
+        self.levels = [dyadic(line) for line in lines[-64:]]
+
+    def up_to(self, largest):
+        return self.levels[min(63, int(largest * 64 / self.bound))]

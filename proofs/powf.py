@@ -1,0 +1,117 @@
+#!/usr/bin/python3
+"""x^y of floats, computed in double precision: z = y ln x, ln x as log.py has it with a cubic; e^z = 2^(n/2048) (1 + f),
+f linear in what n leaves. What the double result is off, as a part of it, and the rounding to a float."""
+from fractions import Fraction
+
+import gmpy2
+
+from logs import LN2, PolynomialErrors, Rows, for_any_estimate, ln_1p, this_processor, with_estimates
+from proof import Interval, Kernel, agree_with_module, enclose, gappa, literal, relative_error, report, require, ulp
+
+kernel = Kernel("powf", 16)
+x, y = kernel.arguments
+UNIT = Fraction(1, 2 ** 53)  # half a unit of a double, as a part of it
+# Beyond, results overflow; or are below 2^-128, where a float's unit is 2^-149 and a part of them that many less.
+LARGEST_Z = Fraction(8873, 100)
+
+# The result's double: table + table f with n / 2048 added to its exponent.
+double, = kernel.operands(kernel.result, "convert")
+a, raised = kernel.operands(kernel.bits_of(double), "add")
+scaled_entry = kernel.bits_of(a)
+entry, product = kernel.operands(scaled_entry, "add")
+same_entry, f = kernel.operands(product, "multiply")
+entries, j = kernel.entries(entry)
+left, slope = kernel.constant_of(f, "multiply")
+t, n = kernel.operands(left, "subtract")
+shifted, shifter = kernel.operands(n, "subtract")
+low_t, same_shifter = kernel.constant_of(shifted, "add")
+z, scale = kernel.constant_of(t, "multiply")
+whole, = kernel.operands(raised, "shift_left", "52")
+eleven, = kernel.operands(kernel.bits_of(whole), "shift_right", "11")
+low_bits, mask = kernel.constant_of(j, "and")
+word, = kernel.operands(low_bits, "low_word")
+require(same_entry == entry and len(entries) == mask + 1 == 2048, "a row for each of 2048 fractions")
+require(kernel.operands(low_t, "subtract")[0] == t and kernel.value(kernel.operands(low_t)[1]) == Fraction(1, 2), "t - 1/2")
+require(same_shifter == kernel.value(shifter) == Fraction(3, 2) * 2 ** 52, "the shifter rounds to integers")
+require(kernel.bits_of(word) == shifted == kernel.bits_of(kernel.bits_of(eleven)), "n's lower bits and the others")
+
+# z = ((p + T) + k ln 2) y.
+ln_x, wide_y = kernel.operands(z, "multiply")
+with_row, exponent = kernel.operands(ln_x, "add")
+p, gather = kernel.operands(with_row, "add")
+k, ln2 = kernel.constant_of(exponent, "multiply")
+table, row = kernel.entries(gather)
+r = kernel.operands(p, "add")[0]
+R = kernel.users(kernel.only("reciprocal_estimate"))[0]
+kernel.operands(R, "round", "0")
+rows = Rows(kernel, R, row)
+mantissa_product, one = kernel.constant_of(r, "subtract")
+m, wide_R = kernel.operands(mantissa_product, "multiply")
+require(one == 1 and kernel.operands(wide_R, "convert") == [R] and kernel.operands(wide_y, "convert") == [y], "r is m R - 1")
+# m is a float: m R and r have 35 bits at most.
+require(kernel.operations[kernel.operands(m, "convert")[0]]["lane"] == "f32", "r is exact")
+
+widest = max(max(map(abs, for_any_estimate(integer))) for integer in rows)
+require(widest < Fraction(1, 2 ** 9), "rests are small")
+errors = PolynomialErrors(kernel.exact(p, {r: "x"}), widest)
+
+
+def rounding(target, names, assumptions):
+    exact = kernel.exact(target, dict(names))
+    text = kernel.rounded(target, names)
+    found = gappa(f"r = rnd(r_);\nT = rnd(T_);\n{text}{{ {assumptions} -> {names[target]} - {exact} in ? }}\n")
+    return next(iter(found.values())).magnitude
+
+
+# Without a T: r is a multiple of 2^-24; in parts of r.
+without_row = max(rounding(p, {r: "r"}, f"|r| in [1b-{e}, 1b-{e - 1}]") * 2 ** e for e in range(10, 25)) * 2
+with_any_row = rounding(with_row, {r: "r", gather: "T"}, f"|r| <= 1b-9 /\\ |T| <= {literal(max(map(abs, table)))}")
+
+# e^z, as a part of it: t is off by its rounding and its factor's, f by its own, the sum of two is rounded, and
+# (1 + slope u) entry, u from 0 to 1, stands for 2^((j + u) / 2048).
+most_t = LARGEST_Z * scale
+t_off = ulp(most_t) / 2 + LARGEST_Z * (scale - 2048 / LN2).magnitude
+shape = relative_error(f"(1 + {literal(slope)} * (x + 1b-1))", "2^(x * 1b-11)", Fraction(1, 2) + Fraction(1, 2 ** 30))
+middle = enclose(gmpy2.exp2, Fraction(-1, 4096))
+exponential = max(((1 + shape) * middle * (entry / enclose(gmpy2.exp2, Fraction(number, 2048))) - 1).magnitude
+                  for number, entry in enumerate(entries)) * (1 + Fraction(1, 2 ** 20))
+exponential += t_off * LN2.high / 2048 * 2 + 3 * UNIT
+
+
+def in_floats(part):
+    """The units that a part of the double result is, and the half of the rounding; beyond a power of two a whole one."""
+    units = part * 2 ** 24
+    return max(units + Fraction(1, 2), min(2 * units, units + 1)) if units >= 1 else units + Fraction(1, 2)
+
+
+def bound_for(rests):
+    worst = (Fraction(0), None)
+    most = Fraction(0)
+    for integer in rows:
+        low, high = rests(integer)
+        for i in range(16):
+            a, b = low + (high - low) * i / 16, low + (high - low) * (i + 1) / 16
+            part, largest = ln_1p(a, b), max(abs(a), abs(b))
+            off = errors.up_to(largest)
+            if table[integer - 512] == 0:
+                # All of it goes with r.
+                logarithm = off + without_row * (1 + 2 * largest)
+                most = max(most, logarithm * part.magnitude)
+            else:
+                error = off * part.magnitude + (rows.true(integer) - table[integer - 512]).magnitude + with_any_row
+                most = max(most, error)
+                logarithm = error / abs(part + rows.true(integer)).low
+            worst = max(worst, (logarithm, f"k = 0, R = {integer}"))
+    for k in range(1, 150):
+        # ln x is the sum of three: its product, its constant, itself.
+        error = most + 2 * with_any_row + k * (ln2 - LN2).magnitude + 2 * ulp(k * ln2 + 1)
+        worst = max(worst, (error / (k * LN2.low - Fraction(36, 100)), f"k = {k}"))
+    logarithm, where = worst
+    z_off = LARGEST_Z * (logarithm + 2 * UNIT)
+    return in_floats((exponential + z_off * (1 + z_off)) * (1 + z_off)), where
+
+
+agree_with_module(kernel, "powf", ((1 + 0.37 * i, 30 / (1 + i) - 9) for i in range(300)), with_estimates(kernel, R))
+bound_here, where = bound_for(this_processor())
+print(f"with this processor's estimates at most {float(bound_here):.4f} ulp ({where})")
+report("powf", 16, *bound_for(for_any_estimate))

@@ -1,0 +1,412 @@
+"""What the proofs share: a kernel's operations as its own text wrote them down (tarn-trace), Gappa for what rounding
+does to them, Sollya for what a polynomial leaves of a function, MPFR for tables. Numbers are exact fractions; whatever
+is not one is an interval around the true value."""
+import ctypes
+import json
+import math
+import os
+import re
+import struct
+import subprocess
+import sys
+from concurrent.futures import ThreadPoolExecutor
+from fractions import Fraction
+from functools import lru_cache
+
+import gmpy2
+
+ROOT = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
+TRACE = os.environ.get("TARN_TRACE", os.path.join(ROOT, "build/release/tools/tarn-trace"))
+
+
+class Unproved(Exception):
+    """A step of a proof does not hold."""
+
+
+def require(holds, what):
+    if not holds:
+        raise Unproved(what)
+
+
+# Numbers -------------------------------------------------------------------------------------------------------------
+
+def lane_value(lane, pattern):
+    """The value of a pattern, as an exact fraction; an integer lane's as a signed integer."""
+    formats = {"f64": "<Q <d", "f32": "<I <f", "i64": "<Q <q", "i32": "<I <i", "u64": "<Q <Q", "u32": "<I <I"}
+    raw, typed = formats[lane].split()
+    value = struct.unpack(typed, struct.pack(raw, int(pattern)))[0]
+    return Fraction(value) if math.isfinite(value) else value
+
+
+def literal(value):
+    """A binary fraction as Gappa and Sollya read it exactly."""
+    value = Fraction(value)
+    require(value.denominator & (value.denominator - 1) == 0, f"{value} is no binary fraction")
+    return f"{value.numerator}b-{value.denominator.bit_length() - 1}"
+
+
+def fraction(text):
+    """Gappa's and Sollya's binary numbers, 5b-3, and integers."""
+    mantissa, _, exponent = text.partition("b")
+    value = Fraction(int(mantissa))
+    return value * Fraction(2) ** int(exponent) if exponent else value
+
+
+class Interval:
+    """All values between two fractions."""
+
+    def __init__(self, low, high=None):
+        self.low, self.high = Fraction(low), Fraction(low if high is None else high)
+
+    def __add__(self, other):
+        other = interval(other)
+        return Interval(self.low + other.low, self.high + other.high)
+
+    def __neg__(self):
+        return Interval(-self.high, -self.low)
+
+    def __sub__(self, other):
+        return self + -interval(other)
+
+    def __mul__(self, other):
+        ends = [a * b for a in (self.low, self.high) for b in (interval(other).low, interval(other).high)]
+        return Interval(min(ends), max(ends))
+
+    def __truediv__(self, other):
+        other = interval(other)
+        require(other.low > 0 or other.high < 0, "a divisor is not zero")
+        return self * Interval(1 / other.high, 1 / other.low)
+
+    __radd__ = __add__
+    __rmul__ = __mul__
+
+    def __rsub__(self, other):
+        return interval(other) - self
+
+    def __rtruediv__(self, other):
+        return interval(other) / self
+
+    def __abs__(self):
+        low = Fraction(0) if self.low <= 0 <= self.high else min(abs(self.low), abs(self.high))
+        return Interval(low, self.magnitude)
+
+    @property
+    def magnitude(self):
+        return max(abs(self.low), abs(self.high))
+
+    def __repr__(self):
+        return f"[{float(self.low):.6g}, {float(self.high):.6g}]"
+
+
+def interval(value):
+    return value if isinstance(value, Interval) else Interval(value)
+
+
+def enclose(function, argument, bits=200):
+    """MPFR's enclosure of an increasing function of a fraction or an interval of them."""
+    argument = interval(argument)
+    ends = []
+    for end, mode in ((argument.low, gmpy2.RoundDown), (argument.high, gmpy2.RoundUp)):
+        with gmpy2.local_context(gmpy2.context(), precision=bits, round=mode):
+            exact = gmpy2.mpfr(gmpy2.mpq(end.numerator, end.denominator))
+            ends.append(Fraction(*gmpy2.mpfr(function(exact)).as_integer_ratio()))
+    return Interval(*ends)
+
+
+def enclose_constant(function, bits=200):
+    """MPFR's enclosure of a constant such as lambda: gmpy2.const_pi()."""
+    ends = []
+    for mode in (gmpy2.RoundDown, gmpy2.RoundUp):
+        with gmpy2.local_context(gmpy2.context(), precision=bits, round=mode):
+            ends.append(Fraction(*function().as_integer_ratio()))
+    return Interval(*ends)
+
+
+def exponent_of(value):
+    """floor(log2 |value|)."""
+    n, d = abs(value.numerator), value.denominator
+    guess = n.bit_length() - d.bit_length()
+    return guess if Fraction(2) ** guess <= abs(value) else guess - 1
+
+
+def ulp(value, precision=53):
+    """One unit in the last place of an exact result."""
+    return Fraction(2) ** (exponent_of(value) - precision + 1)
+
+
+# A kernel's operations -----------------------------------------------------------------------------------------------
+
+SIGNS = {"add": "+", "subtract": "-", "multiply": "*", "divide": "/"}
+
+
+WIDTHS = {"f64": 64, "i64": 64, "u64": 64, "f32": 32, "i32": 32, "u32": 32}
+
+
+def pattern_of(lane, value):
+    """The pattern of a fraction rounded to a lane, or of an integer cut to it."""
+    if lane == "f64":
+        return struct.unpack("<Q", struct.pack("<d", float(value)))[0]
+    if lane == "f32":
+        with gmpy2.local_context(gmpy2.ieee(32)):
+            return struct.unpack("<I", struct.pack("<f", float(gmpy2.mpfr(gmpy2.mpq(value.numerator, value.denominator)))))[0]
+    return int(value) % (1 << WIDTHS[lane])
+
+
+def evaluated(operation, patterns, lanes, tables):
+    """One operation on patterns."""
+    name, lane, text = operation["name"], operation["lane"], operation["text"]
+    values = [lane_value(l, p) for l, p in zip(lanes, patterns)]
+    if name == "constant":
+        return int(text)
+    if name in ("bits", "words"):
+        return patterns[0]
+    if name in SIGNS:
+        a, b = values
+        return pattern_of(lane, a + b if name == "add" else a - b if name == "subtract" else a * b if name == "multiply" else a / b)
+    if name in ("and", "or", "xor"):
+        a, b = patterns
+        return a & b if name == "and" else a | b if name == "or" else a ^ b
+    if name == "not":
+        return ~patterns[0] % (1 << WIDTHS[lane])
+    if name == "shift_left":
+        return patterns[0] << int(text) & ((1 << WIDTHS[lane]) - 1)
+    if name == "shift_right":
+        return pattern_of(lane, values[0].__floor__() >> int(text))
+    if name in ("less", "less_or_equal", "greater", "greater_or_equal", "equal", "unequal"):
+        a, b = values
+        holds = {"less": a < b, "less_or_equal": a <= b, "greater": a > b, "greater_or_equal": a >= b, "equal": a == b,
+                 "unequal": a != b}[name]
+        return (1 << WIDTHS[lane]) - 1 if holds else 0
+    if name == "select":
+        return patterns[1] if patterns[0] >> (WIDTHS[lane] - 1) else patterns[2]
+    if name == "smaller":
+        return patterns[0] if values[0] < values[1] else patterns[1]
+    if name == "larger":
+        return patterns[0] if values[0] > values[1] else patterns[1]
+    if name == "gather":
+        table, column = (int(word) for word in text.split())
+        return tables[table]["entries"][patterns[0] * tables[table]["columns"] + column]
+    if name == "round" and text == "0":
+        return pattern_of(lane, Fraction(round(values[0])))  # Python rounds halves to even, too
+    if name == "convert":
+        return pattern_of(lane, values[0])
+    if name == "high_word":
+        return patterns[0] >> 32
+    if name in ("low_word", "widen_unsigned"):
+        return patterns[0] & 0xFFFFFFFF
+    raise Unproved(f"{name} cannot be evaluated")
+
+
+class Kernel:
+    """The fast path of one kernel. Operations are named by number, as in what tarn-trace writes."""
+
+    def __init__(self, base, width):
+        ran = subprocess.run([TRACE, base, str(width)], capture_output=True, text=True)
+        if ran.returncode != 0:
+            sys.exit(ran.stderr.strip())
+        written = json.loads(ran.stdout)
+        self.operations = written["operations"]
+        self.tables = written["tables"]
+        self.result = self.operations[-1]["operands"][0]
+        reached, pending = set(), [self.result]
+        while pending:
+            i = pending.pop()
+            if i not in reached:
+                reached.add(i)
+                pending += self.operations[i]["operands"]
+        self.reached = sorted(reached)
+        self.arguments = [i for i, o in enumerate(self.operations) if o["name"] == "argument"]
+
+    def name(self, i):
+        return self.operations[i]["name"]
+
+    def operands(self, i, name=None, text=None):
+        """What an operation takes; a proof says which operation it has to be."""
+        o = self.operations[i]
+        require(name in (None, o["name"]), f"operation {i} is {o['name']}, not {name}")
+        require(text in (None, o["text"]), f"operation {i} has {o['text']}, not {text}")
+        return o["operands"]
+
+    def is_constant(self, i):
+        return self.name(i) == "constant"
+
+    def value(self, i):
+        require(self.is_constant(i), f"operation {i} is a constant")
+        return lane_value(self.operations[i]["lane"], self.operations[i]["text"])
+
+    def constant_of(self, i, name):
+        """Of an operation between something and a constant: both."""
+        a, b = self.operands(i, name)
+        return (b, self.value(a)) if self.is_constant(a) else (a, self.value(b))
+
+    def all(self, name, lane=None):
+        return [i for i in self.reached if self.name(i) == name and lane in (None, self.operations[i]["lane"])]
+
+    def only(self, name, lane=None):
+        found = self.all(name, lane)
+        require(len(found) == 1, f"{len(found)} operations are {name}")
+        return found[0]
+
+    def users(self, i):
+        return [j for j in self.reached if i in self.operations[j]["operands"]]
+
+    def same(self, i, j):
+        """Whether two operations compute the same: the text may say one thing twice."""
+        a, b = self.operations[i], self.operations[j]
+        return i == j or ((a["name"], a["lane"], a["text"]) == (b["name"], b["lane"], b["text"]) and a["name"] != "argument"
+                          and len(a["operands"]) == len(b["operands"])
+                          and all(self.same(p, q) for p, q in zip(a["operands"], b["operands"])))
+
+    def necks(self, target, source, besides=()):
+        """The operations through each of which all of the target's dependence on the source goes, in order, but for
+        what goes through others that are named."""
+        def depends(i, without, seen):
+            if i == source and i != without:
+                return True
+            if i == without or i in besides or i in seen:
+                return False
+            seen.add(i)
+            return any(depends(o, without, seen) for o in self.operations[i]["operands"])
+        return [c for c in self.reached
+                if source < c < target and depends(c, None, set()) and not depends(target, c, set())]
+
+    def limit(self):
+        """Of a mask that tests the upper word of |x|: the first |x| that is not on the fast path."""
+        word, bound = self.operands(next(i for i in range(len(self.operations) - 1, 0, -1) if self.name(i) == "greater"))
+        magnitude, = self.operands(word, "words")
+        pattern, mask = self.constant_of(self.operands(magnitude, "bits")[0], "and")
+        require(self.bits_of(pattern) in self.arguments and mask == 2 ** 63 - 1, "the mask tests |x|")
+        return lane_value("f64", (int(self.value(bound)) + 1) << 32)
+
+    def bits_of(self, i):
+        """What a bit operation takes the pattern of."""
+        return self.operands(i, "bits")[0]
+
+    def entries(self, i):
+        """The table that a gather reads, one list a row, and the operation that has the row's number."""
+        (row,), (number, column) = self.operands(i, "gather"), self.operations[i]["text"].split()
+        table = self.tables[int(number)]
+        lane, columns = self.operations[i]["lane"], table["columns"]
+        return [lane_value(lane, p) for p in table["entries"][int(column)::columns]], row
+
+    def evaluate(self, *arguments):
+        """The result's pattern for patterns of arguments, each operation done as the processor does it."""
+        return self.evaluate_from(dict(zip(self.arguments, arguments)), self.result)
+
+    def evaluate_from(self, patterns, i):
+        """One operation's pattern from those that are given, which are added to."""
+        o = self.operations[i]
+        if i not in patterns:
+            operands = [self.evaluate_from(patterns, p) for p in o["operands"]]
+            patterns[i] = evaluated(o, operands, [self.operations[p]["lane"] for p in o["operands"]], self.tables)
+        return patterns[i]
+
+    # Text for Gappa and Sollya: `names` says what stands for operations that are not to be written out.
+
+    def exact(self, i, names):
+        """The operations up to i on real numbers."""
+        if i in names:
+            return names[i]
+        if self.is_constant(i):
+            return literal(self.value(i))
+        a, b = self.operands(i)
+        return f"({self.exact(a, names)} {SIGNS[self.name(i)]} {self.exact(b, names)})"
+
+    def rounded(self, i, names, rounding="rnd"):
+        """Gappa's definitions of the operations up to i, each rounded; adds them to `names`."""
+        if i in names:
+            return ""
+        if self.is_constant(i):
+            names[i] = literal(self.value(i))
+            return ""
+        if self.name(i) == "round":
+            a, = self.operands(i, text="0")
+            text = self.rounded(a, names, rounding)
+            names[i] = f"v{i}"
+            return text + f"v{i} = int<ne>({names[a]});\n"
+        a, b = self.operands(i)
+        text = self.rounded(a, names, rounding) + self.rounded(b, names, rounding)
+        names[i] = f"v{i}"
+        return text + f"v{i} = {rounding}({names[a]} {SIGNS[self.name(i)]} {names[b]});\n"
+
+
+# Gappa and Sollya ------------------------------------------------------------------------------------------------------
+
+@lru_cache(maxsize=None)
+def gappa(script):
+    """Gappa's intervals for every question of a script, by the text of the expression; None where its assumptions
+    contradict one another."""
+    ran = subprocess.run(["gappa", "-Eprecision=200"], input="@rnd = float<ieee_64, ne>;\n" + script, capture_output=True, text=True)
+    text = ran.stdout + ran.stderr
+    require(ran.returncode == 0 and "no contradiction" not in text, f"Gappa refuses:\n{text}\n{script}")
+    if "anything can be proved" in text:
+        return None
+    found = {}
+    for line in text.splitlines():
+        match = re.match(r"\s+(.+) in \[([-0-9b]+)(?: \{.*?\})?, ([-0-9b]+)(?: \{.*?\})?\]$", line)
+        if match:
+            found[match[1]] = Interval(fraction(match[2]), fraction(match[3]))
+    return found
+
+
+def gappa_each(scripts):
+    """Many scripts, side by side; every script asks one question. None where no number fulfils what it assumes, such
+    as an interval between neighbouring doubles."""
+    def one(script):
+        found = gappa(script)
+        if found is None:
+            return None
+        answers = list(found.values())
+        require(len(answers) == 1, f"Gappa leaves a question open:\n{script}")
+        return answers[0]
+    with ThreadPoolExecutor(os.cpu_count()) as pool:
+        return list(pool.map(one, scripts))
+
+
+def sollya(script):
+    ran = subprocess.run(["sollya", "--warnonstderr"], input="prec = 300; display = dyadic; verbosity = 0;\n" + script + "quit;\n",
+                         capture_output=True, text=True)
+    require("error" not in ran.stderr.lower(), f"Sollya refuses:\n{ran.stderr}\n{script}")
+    return [line for line in ran.stdout.splitlines() if line.strip()]
+
+
+def dyadic(text):
+    mantissa, _, exponent = text.strip().partition("b")
+    return Fraction(int(mantissa)) * Fraction(2) ** int(exponent or 0)
+
+
+def relative_error(polynomial, function, bound):
+    """Where polynomial/function - 1 lies for |x| up to a bound. Samples say around which value; the distance from
+    there is a supremum norm that Sollya proves."""
+    answer = sollya(f"""
+p = canonical({polynomial}); B = {literal(bound)}; e = p / ({function}) - 1;
+low = evaluate(e, B); high = low;
+for i from -64 to 63 do {{ v = evaluate(e, i * B / 64 + 1b-99); if (v < low) then low = v; if (v > high) then high = v; }};
+near = round((low + high) / 2, 100, RN);
+near;
+sup(supnorm(canonical(p / (1 + near)), {function}, [-B; B], relative, 2^(-20)));
+""")
+    near, norm = dyadic(answer[-2]), dyadic(answer[-1])
+    return (1 + near) * Interval(1 - norm, 1 + norm) - 1
+
+
+def report(base, width, bound, where):
+    """The line that scripts/prove reads: an upper bound in ulp, rounded up, and where it is largest, for people."""
+    print(f"proved {base} {width} {math.ceil(bound * 10000) / 10000:.4f} {where}")
+
+
+def agree_with_module(kernel, base, samples, given=lambda patterns: None):
+    """The trace computes what the module computes: a guard against a trace that misreads its kernel. Lanes one by one,
+    so that the kernel has to be width 1's too. `given` adds to the patterns what cannot be evaluated."""
+    module = os.environ.get("TARN_MODULE", os.path.join(os.path.dirname(TRACE), "../__ocl_tarn_k1.so"))
+    types = {"f64": ctypes.c_double, "f32": ctypes.c_float}
+    lanes = [kernel.operations[i]["lane"] for i in (*kernel.arguments, kernel.result)]
+    function = getattr(ctypes.CDLL(module), f"__ocl_tarn_k1_{base}1")
+    *function.argtypes, function.restype = (types[lane] for lane in lanes)
+    for sample in samples:
+        patterns = {i: pattern_of(lane, Fraction(x)) for i, lane, x in zip(kernel.arguments, lanes, sample)}
+        arguments = [float(lane_value(lane, patterns[i])) for i, lane in zip(kernel.arguments, lanes)]
+        given(patterns)
+        theirs = pattern_of(lanes[-1], Fraction(function(*arguments)))
+        ours = kernel.evaluate_from(patterns, kernel.result)
+        require(ours == theirs, f"{base}{sample}: the trace gives {ours:#x}, the module {theirs:#x}")
