@@ -5,8 +5,9 @@ from fractions import Fraction
 
 import gmpy2
 
-from logs import LN2, PolynomialErrors, Rows, for_any_estimate, ln_1p, this_processor, with_estimates
-from proof import Interval, Kernel, agree_with_module, enclose, exponent_of, gappa, gappa_each, literal, report, require, ulp
+from logs import PolynomialErrors, Rows, for_any_estimate, ln_1p, this_processor, with_estimates
+from proof import (LN2, Interval, Kernel, agree_with_module, enclose, gappa, gappa_each, in_units, literal, report, require,
+                   ulp)
 
 kernel = Kernel("log", 16)
 x, = kernel.arguments
@@ -68,12 +69,8 @@ def pieces_of(integer, low, high):
 def bound_for(rests):
     """The largest error in ulp, and where, if R has m R - 1 within rests(R)."""
     work = [(integer, piece) for integer in rows for piece in pieces_of(integer, *rests(integer))]
-    questions = []
-    for integer, (low, high) in work:
-        names = {r: "r", gather: literal(table[integer - 512])}
-        exact = kernel.exact(with_row, dict(names))
-        text = kernel.rounded(with_row, names)
-        questions.append(f"r = rnd(r_);\n{text}{{ r in [{literal(low)}, {literal(high)}] -> {names[with_row]} - {exact} in ? }}\n")
+    questions = [kernel.rounding_question(with_row, {r: "r", gather: literal(table[integer - 512])}, "r = rnd(r_);\n",
+                                          f"r in [{literal(low)}, {literal(high)}]") for integer, (low, high) in work]
     largest, absolute = (Fraction(0), None), {}
     for (integer, (low, high)), rounding in zip(work, gappa_each(questions)):
         if rounding is None:
@@ -96,12 +93,8 @@ def bound_for(rests):
             else:
                 # Any row: T + ln(1 + r) is below 0.35.
                 value, error = abs(k * LN2) + Interval(Fraction(-35, 100), Fraction(35, 100)), max(absolute.values()) + off
-            units = error / ulp(value.low)
-            # The last sum's rounding is half a unit. Beyond a power of two from a value below it, it may be a whole
-            # one, but no more than the sum is beyond the power, which is a double itself.
-            beyond = exponent_of(value.low) != exponent_of(value.high + error)
-            units = max(units + Fraction(1, 2), min(2 * units, units + 1)) if beyond else units + Fraction(1, 2)
-            largest = max(largest, (units, f"k = {k}" if abs(k) >= 4 else f"k = {k}, R = {integer}"))
+            where = f"k = {k}" if abs(k) >= 4 else f"k = {k}, R = {integer}"
+            largest = max(largest, (in_units(value, error), where))
     return largest
 
 

@@ -5,8 +5,8 @@ from fractions import Fraction
 
 import gmpy2
 
-from logs import LN2, PolynomialErrors, Rows, for_any_estimate, ln_1p, this_processor, with_estimates
-from proof import Interval, Kernel, agree_with_module, enclose, exponent_of, gappa, gappa_each, literal, report, require, ulp
+from logs import PolynomialErrors, Rows, for_any_estimate, ln_1p, this_processor, with_estimates
+from proof import LN2, Interval, Kernel, agree_with_module, enclose, gappa, gappa_each, in_units, literal, report, require, ulp
 
 kernel = Kernel("log1p", 16)
 x, = kernel.arguments
@@ -127,21 +127,10 @@ require(ln2_head - Fraction(36, 100) > widest, "y_tail")
 
 def rounding_of_rest(low, high, constant, tail, y_tail_most):
     """Gappa's question: what the roundings make of everything but y."""
-    names = {total: "v", constants: "q", y_tail: "a", sum_tail: "b"}
-    exact = kernel.exact(rest, dict(names))
-    text = kernel.rounded(rest, names)
-    return (f"v = rnd(v_);\nq = rnd(q_);\na = rnd(a_);\nb = rnd(b_);\n{text}{{ v in [{literal(low)}, {literal(high)}] /\\ "
-            f"q in [{literal(constant.low)}, {literal(constant.high)}] /\\ |a| <= {literal(y_tail_most)} /\\ "
-            f"|b| <= {literal(tail)} -> {names[rest]} - {exact} in ? }}\n")
-
-
-def in_units(value, error):
-    """Error before the last sum, and that sum's half a unit. Beyond a power of two from a value below it, it may be a
-    whole one, but no more than the sum is beyond the power, which is a double itself."""
-    units = error / ulp(value.low)
-    if exponent_of(value.low) == exponent_of(value.high + error):
-        return units + Fraction(1, 2)
-    return max(units + Fraction(1, 2), min(2 * units, units + 1))
+    return kernel.rounding_question(
+        rest, {total: "v", constants: "q", y_tail: "a", sum_tail: "b"}, "v = rnd(v_);\nq = rnd(q_);\na = rnd(a_);\nb = rnd(b_);\n",
+        f"v in [{literal(low)}, {literal(high)}] /\\ q in [{literal(constant.low)}, {literal(constant.high)}] /\\ "
+        f"|a| <= {literal(y_tail_most)} /\\ |b| <= {literal(tail)}")
 
 
 def outward(low, high, unit=Fraction(1, 2 ** 80)):

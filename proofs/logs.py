@@ -5,9 +5,8 @@ from fractions import Fraction
 
 import gmpy2
 
-from proof import TRACE, Interval, dyadic, enclose, enclose_constant, exponent_of, lane_value, literal, pattern_of, require, sollya
+from proof import TRACE, Interval, dyadic, enclose, exponent_of, lane_value, literal, pattern_of, require, sollya
 
-LN2 = enclose_constant(gmpy2.const_log2)
 # What the instruction promises of its estimate, and what narrowing its argument adds.
 ESTIMATE = Fraction(3, 2 ** 13) + Fraction(1, 2 ** 23)
 

@@ -5,8 +5,8 @@ from fractions import Fraction
 
 import gmpy2
 
-from logs import LN2, PolynomialErrors, Rows, for_any_estimate, ln_1p, this_processor, with_estimates
-from proof import Interval, Kernel, agree_with_module, enclose, gappa, literal, relative_error, report, require, ulp
+from logs import PolynomialErrors, Rows, for_any_estimate, ln_1p, this_processor, with_estimates
+from proof import LN2, Interval, Kernel, agree_with_module, enclose, gappa, literal, relative_error, report, require, ulp
 
 kernel = Kernel("powf", 16)
 x, y = kernel.arguments
@@ -57,9 +57,7 @@ errors = PolynomialErrors(kernel.exact(p, {r: "x"}), widest)
 
 
 def rounding(target, names, assumptions):
-    exact = kernel.exact(target, dict(names))
-    text = kernel.rounded(target, names)
-    found = gappa(f"r = rnd(r_);\nT = rnd(T_);\n{text}{{ {assumptions} -> {names[target]} - {exact} in ? }}\n")
+    found = gappa(kernel.rounding_question(target, names, "r = rnd(r_);\nT = rnd(T_);\n", assumptions))
     return next(iter(found.values())).magnitude
 
 

@@ -122,6 +122,9 @@ def enclose_constant(function, bits=200):
     return Interval(*ends)
 
 
+LN2 = enclose_constant(gmpy2.const_log2)
+
+
 def exponent_of(value):
     """floor(log2 |value|)."""
     n, d = abs(value.numerator), value.denominator
@@ -134,11 +137,19 @@ def ulp(value, precision=53):
     return Fraction(2) ** (exponent_of(value) - precision + 1)
 
 
+def in_units(value, error, precision=53):
+    """In ulp of a value, of which the magnitudes are an interval: an error before the last operation, and half a unit
+    for that one. Beyond a power of two from a value below it, it may be rounded by a whole unit, but by no more than
+    it is beyond the power, which can be held itself."""
+    units = error / ulp(value.low, precision)
+    if exponent_of(value.low) == exponent_of(value.high + error):
+        return units + Fraction(1, 2)
+    return max(units + Fraction(1, 2), min(2 * units, units + 1))
+
+
 # A kernel's operations -----------------------------------------------------------------------------------------------
 
 SIGNS = {"add": "+", "subtract": "-", "multiply": "*", "divide": "/"}
-
-
 WIDTHS = {"f64": 64, "i64": 64, "u64": 64, "f32": 32, "i32": 32, "u32": 32}
 
 
@@ -328,6 +339,31 @@ class Kernel:
         text = self.rounded(a, names, rounding) + self.rounded(b, names, rounding)
         names[i] = f"v{i}"
         return text + f"v{i} = {rounding}({names[a]} {SIGNS[self.name(i)]} {names[b]});\n"
+
+    def rounding_question(self, target, names, definitions, assumptions):
+        """Gappa's question: what the roundings up to the target add to it."""
+        exact = self.exact(target, names)
+        names = dict(names)
+        text = self.rounded(target, names)
+        return f"{definitions}{text}{{ {assumptions} -> {names[target]} - {exact} in ? }}\n"
+
+
+class NearestInteger:
+    """n next to x scale, by a shifter that is added to their product and taken away again."""
+
+    def __init__(self, kernel, n):
+        self.n = n
+        self.shifted, shifter = kernel.operands(n, "subtract")
+        self.scaled, self.shifter = kernel.constant_of(self.shifted, "add")
+        require(kernel.value(shifter) == self.shifter, "n is the shifted sum without its shifter")
+        self.x, self.scale = kernel.constant_of(self.scaled, "multiply")
+        require(exponent_of(self.shifter) == 52, "the shifter rounds to integers")
+
+    def chain(self, names, x):
+        """For Gappa: n - x scale by what each step rounds."""
+        n, shifted, scaled = names[self.n], names[self.shifted], names[self.scaled]
+        C, S = literal(self.scale), literal(self.shifter)
+        return f"({n} - ({shifted} - {S})) + ({shifted} - ({scaled} + {S})) + ({scaled} - {x} * {C})"
 
 
 # Gappa and Sollya ------------------------------------------------------------------------------------------------------

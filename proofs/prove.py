@@ -54,7 +54,7 @@ def main():
     missing = [tool for tool in ("gappa", "sollya") if not shutil.which(tool)]
     missing += [] if importlib.util.find_spec("gmpy2") else ["python3-gmpy2"]
     if missing:
-        print(f"scripts/prove: {', '.join(missing)} not installed; see scripts/install-dependencies", file=sys.stderr)
+        print(f"scripts/prove: {', '.join(missing)} not installed; scripts/prove does it", file=sys.stderr)
         return 2
     failed = 0
     for number, name in enumerate(names, 1):

@@ -4,8 +4,8 @@ from fractions import Fraction
 
 import gmpy2
 
-from proof import (dyadic, enclose, enclose_constant, exponent_of, gappa, gappa_each, lane_value, literal, pattern_of, require,
-                   sollya, ulp)
+from proof import (dyadic, enclose, enclose_constant, exponent_of, gappa, gappa_each, lane_value, literal, pattern_of, report,
+                   require, sollya, ulp)
 
 PI = enclose_constant(gmpy2.const_pi, 300)
 # Below this the reduction rounds once; below the other, arguments are taken one by one.
@@ -35,9 +35,9 @@ class Pieces:
 
 
 def reduction(kernel, pieces, scale, chain, low, high):
-    """Gappa's word for x from low to high: that the steps down to the third piece are exact and the rests between; what
-    is lost by the last piece's product and by pi beyond the pieces; the largest |R|. `chain` says how m follows from
-    x scale, in rounded steps."""
+    """Gappa's word for x from low to high: that products down to the third piece are exact, and whether the first two
+    differences are; what is lost by the last piece's product and by pi beyond the pieces; the largest |R|. chain(names)
+    says how m follows from x scale, in rounded steps."""
     r, m = pieces.steps[-1], pieces.m
     names = {pieces.x: "x"}
     text = kernel.rounded(r, names)
@@ -46,13 +46,14 @@ def reduction(kernel, pieces, scale, chain, low, high):
     lost = [f"{product[i]} - {m_} * {P[i]}" for i in range(4)]
     first, second = f"{step[0]} - (x - {product[0]})", f"{step[1]} - ({step[0]} - {product[1]})"
     nearest = f"{m_} - x * {C}"
+    questions = " /\\ ".join(f"{e} in ?" for e in lost + [first, second, nearest, m_])
     answers = gappa(f"""x = rnd(x_);
 {text}
-{{ x in [{literal(low)}, {literal(high)}] -> {" in ? /@ ".join(lost + [first, second, nearest, m_])} in ? }}
-{nearest} -> {chain(names, C)};
+{{ x in [{literal(low)}, {literal(high)}] -> {questions} }}
+{nearest} -> {chain(names)};
 x - {product[0]} -> ({lost[0]}) * (-1) + (x * {C} - {m_}) / {C} + {m_} * (1 / {C} - {P[0]});
 {step[0]} - {product[1]} -> ({first}) - ({lost[0]}) - ({lost[1]}) + (x * {C} - {m_}) / {C} + {m_} * ((1 / {C} - {P[0]}) - {P[1]});
-""".replace("/@", "/\\"))
+""")
     require(all(answers[e].magnitude == 0 for e in lost[:3]), f"products are exact from {float(low)}")
     exact = answers[first].magnitude == 0 and answers[second].magnitude == 0
     slip = answers[lost[3]].magnitude + answers[m_].magnitude * pieces.rest.magnitude
@@ -139,12 +140,8 @@ def main_bound(kernel, y, rests, roundings, slip, largest_rest, from_rest=NEAR_Z
     errors = local_errors(kernel.exact(y, dict.fromkeys(rests, "x")), pieces)
     # The square is rounded by itself, so that its error meets the polynomial's slope as a whole.
     square = next(i for i in kernel.all("multiply") if kernel.operands(i) == [rests[0], rests[0]])
-    questions = []
-    for low, high in pieces:
-        names = dict.fromkeys(rests, "r") | {square: "z"}
-        exact = kernel.exact(y, dict(names))
-        text = kernel.rounded(y, names)
-        questions.append(f"r = rnd(r_);\nz = rnd(r * r);\n{text}{{ r in [{literal(low)}, {literal(high)}] -> {names[y]} - {exact} in ? }}\n")
+    questions = [kernel.rounding_question(y, dict.fromkeys(rests, "r") | {square: "z"}, "r = rnd(r_);\nz = rnd(r * r);\n",
+                                          f"r in [{literal(low)}, {literal(high)}]") for low, high in pieces]
     slopes = slopes_in_square(kernel.exact(y, {square: "x"} | dict.fromkeys(rests, "1")), pieces)
     worst, where = Fraction(0), None
     for (low, high), error, slope_in_square, rounding in zip(pieces, errors, slopes, gappa_each(questions)):
@@ -168,17 +165,24 @@ def slip_near_zero(slips):
     return max(slip / ulp(min(NEXT_TO_ZERO, Fraction(2) ** (binade - 53)) / 2) for binade, slip in slips.items())
 
 
+def binades_near_zero():
+    return [(Fraction(2) ** e, Fraction(2) ** (e + 1)) for e in range(-60, exponent_of(NEAR_ZERO))]
+
+
 def bound_near_zero(kernel, y, rests, slip_in_units):
-    """For |r| below NEAR_ZERO, where the reduction rounds once, last. In ulp of sin R: the rounding of r, the slip, the
-    polynomial, its rounding. Half a unit of r or of y is a whole one of sin R across a power of two."""
-    binades = [(Fraction(2) ** e, Fraction(2) ** (e + 1)) for e in range(-60, exponent_of(NEAR_ZERO))]
-    questions = []
-    for low, high in binades:
-        names = dict.fromkeys(rests, "r")
-        exact = kernel.exact(y, dict(names))
-        text = kernel.rounded(y, names)
-        questions.append(f"r = rnd(r_);\n{text}{{ r in [{literal(low)}, {literal(high)}] -> {names[y]} - {exact} in ? }}\n")
+    """For |r| below NEAR_ZERO, where the reduction rounds once, last: what went before are multiples of 2^-52, the third
+    piece's product is one of 2^-68. In ulp of sin R: the rounding of r, the slip, the polynomial, its rounding. Half a
+    unit of r or of y is a whole one of sin R across a power of two."""
+    binades = binades_near_zero()
+    questions = [kernel.rounding_question(y, dict.fromkeys(rests, "r"), "r = rnd(r_);\n",
+                                          f"r in [{literal(low)}, {literal(high)}]") for low, high in binades]
     rounding = max(answer.magnitude / ulp(low / 2) for (low, _), answer in zip(binades, gappa_each(questions)))
     error, = local_errors(kernel.exact(y, dict.fromkeys(rests, "x")), [(binades[0][0], NEAR_ZERO)])
     # A part of a value is 2^53 times as many units at most.
     return 1 + slip_in_units + rounding + 2 ** 53 * error
+
+
+def report_places(base, away, near, next_to, where):
+    """The largest of the three, and each for people."""
+    print(f"away from 0 {float(away):.4f}, near 0 {float(near):.4f}, next to 0 {float(next_to):.4f}")
+    report(base, 16, max(away, near, next_to), where)

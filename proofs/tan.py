@@ -6,8 +6,8 @@ from fractions import Fraction
 import gmpy2
 
 import sines
-from proof import (Interval, Kernel, agree_with_module, dyadic, enclose, exponent_of, gappa, gappa_each, literal, report,
-                   require, sollya, ulp)
+from proof import (Interval, Kernel, NearestInteger, agree_with_module, dyadic, enclose, exponent_of, gappa_each, in_units,
+                   literal, require, sollya, ulp)
 
 HALF_PI = sines.PI / 2
 kernel = Kernel("tan", 16)
@@ -19,24 +19,17 @@ numerator, denominator = choices[0][2], choices[0][1]
 r = next(o for o in kernel.operands(numerator, "multiply") if kernel.name(o) == "subtract")
 n = kernel.operands(kernel.operands(r)[1], "multiply")[0]
 pieces_of_pi = sines.Pieces(kernel, r, n, HALF_PI)
-shifted = kernel.operands(n, "subtract")[0]
-t, shifter = kernel.constant_of(shifted, "add")
-scale = kernel.constant_of(t, "multiply")[1]
+nearest = NearestInteger(kernel, n)
 square = next(i for i in kernel.all("multiply") if kernel.operands(i) == [r, r])
-
-
-def nearest(names, C):
-    n_, shifted_, t_, S = names[n], names[shifted], names[t], literal(shifter)
-    return f"({n_} - ({shifted_} - {S})) + ({shifted_} - ({t_} + {S})) + ({t_} - x * {C})"
-
 
 slips, largest_rest = {}, Fraction(0)
 for binade in range(-1, exponent_of(limit) + 1):
     high = min(Fraction(2) ** (binade + 1), limit)
-    exact, slips[binade], largest = sines.reduction(kernel, pieces_of_pi, scale, nearest, Fraction(2) ** binade, high)
+    exact, slips[binade], largest = sines.reduction(kernel, pieces_of_pi, nearest.scale,
+                                                    lambda names: nearest.chain(names, "x"), Fraction(2) ** binade, high)
     require(exact, f"the first two steps are exact from 2^{binade}")
     largest_rest = max(largest_rest, largest)
-require(scale < 1, "x below 1/2 is its own rest")
+require(nearest.scale < 1, "x below 1/2 is its own rest")
 
 
 def tangent(x):
@@ -57,6 +50,7 @@ def convergent(depth):
                 new[power + 1] -= c
             over, under = new, over
         return under, over
+
     def at_one(rest):
         A, B = cut(rest)
         return sum(A) / sum(B)
@@ -81,14 +75,9 @@ def quotient_errors(pieces):
 def rounding_errors(pieces):
     """For each interval of r, parts of r P/Q that its roundings are, but for the division's: those of the numerator, the
     denominator and, through both, of r's square."""
-    questions = []
-    for low, high in pieces:
-        for target in (numerator, denominator):
-            names = {r: "r", square: "z"}
-            exact = kernel.exact(target, dict(names))
-            text = kernel.rounded(target, names)
-            questions.append(f"r = rnd(r_);\nz = rnd(r * r);\n{text}{{ r in [{literal(low)}, {literal(high)}] -> {names[target]} - {exact} in ? }}\n")
-    answers = gappa_each(questions)
+    answers = gappa_each([kernel.rounding_question(target, {r: "r", square: "z"}, "r = rnd(r_);\nz = rnd(r * r);\n",
+                                                   f"r in [{literal(low)}, {literal(high)}]")
+                          for low, high in pieces for target in (numerator, denominator)])
     P, Q = (kernel.exact(target, {r: "1", square: "x"}) for target in (numerator, denominator))
     script = f"p = canonical({P}); q = canonical({Q}); d = canonical(diff(p) * q - p * diff(q));\n"
     for low, high in pieces:
@@ -117,12 +106,10 @@ def bound(low_end, high_end, roundings, slip):
         delta = roundings * ulp(high + Fraction(1, 2 ** 40)) / 2 + slip
         values = tangent(Interval(low - delta, high + delta))
         # tan' / tan = 2 / sin 2r
-        part = approximation + rounding + approximation * rounding + delta * (1 / values.low + values.high) * (1 + Fraction(1, 2 ** 30))
+        part = approximation + rounding + approximation * rounding
+        part += delta * (1 / values.low + values.high) * (1 + Fraction(1, 2 ** 30))
         for value, what in ((values, "tan"), (1 / values, "cot")):
-            before = part * value.high
-            units = before / ulp(value.low)
-            beyond = exponent_of(value.low) != exponent_of(value.high + before)
-            units = max(units + Fraction(1, 2), min(2 * units, units + 1)) if beyond else units + Fraction(1, 2)
+            units = in_units(value, part * value.high)
             worst = max(worst, (units, f"{what}, |r| from {float(low):.6f} to {float(high):.6f}"))
     return worst
 
@@ -131,9 +118,8 @@ agree_with_module(kernel, "tan", ((0.137 * i ** 3 * (-1) ** i,) for i in range(9
 slip = max(slips.values())
 far = bound(sines.NEAR_ZERO, sines.binary(largest_rest + Fraction(1, 2 ** 50)), 2, slip)
 # Next to zero the reduction rounds once, last: a unit at most of the result, as the quotient's rounding is.
-binades = [(Fraction(2) ** e, Fraction(2) ** (e + 1)) for e in range(-60, exponent_of(sines.NEAR_ZERO))]
+binades = sines.binades_near_zero()
 near = 2 + sines.slip_near_zero(slips) + 2 ** 53 * max(
     a + b + a * b for a, b in zip(quotient_errors(binades), rounding_errors(binades)))
 next_to_zero = sines.largest_error(kernel, sines.next_to_zeros(Fraction(1), limit, sines.NEXT_TO_ZERO, HALF_PI), gmpy2.tan)
-print(f"away from 0 {float(far[0]):.4f}, near 0 {float(near):.4f}, next to 0 {float(next_to_zero):.4f}")
-report("tan", 16, *max(far, (near, "|r| near 0"), (next_to_zero, "an argument next to a multiple of pi/2")))
+sines.report_places("tan", far[0], near, next_to_zero, far[1])
