@@ -27,23 +27,27 @@ def chain(names):
             f"({v} - (x + {H})) * {C} + ({H} * {C} - {literal(half)})")
 
 
-slips, largest_rest = {}, Fraction(0)
+reductions = []
 for binade in range(0, 24):
     low, high = Fraction(2) ** binade, min(Fraction(2) ** (binade + 1), limit)
     for ends in ((low, high), (-high, -low)):
-        exact, slip, largest = sines.reduction(kernel, pi, nearest.scale, chain, *ends)
-        require(exact, f"the first two steps are exact from 2^{binade}")
-        slips[binade] = max(slip, slips.get(binade, Fraction(0)))
-        largest_rest = max(largest_rest, largest)
+        found = sines.Reduction(kernel, pi, nearest.scale, chain, *ends)
+        require(found.exact, f"the first two steps are exact from 2^{binade}")
+        reductions.append((binade, found))
+every = [found for _, found in reductions]
 # Below 1, m is 1/2 or -1/2, R far from 0, and all four steps round.
-_, slip, largest = sines.reduction(kernel, pi, nearest.scale, chain, Fraction(-1), Fraction(1))
-largest_rest = max(largest_rest, largest)
+below_1 = sines.Reduction(kernel, pi, nearest.scale, chain, Fraction(-1), Fraction(1))
 
 agree_with_module(kernel, "cos", ((1.37 * i ** 3 * (-1) ** i,) for i in range(180)))
 rests = (r, signed)
-far_from_0 = sines.binary(sines.PI.low / 2 - 1)
-worst, (low, high) = max(sines.main_bound(kernel, y, rests, 2, max(slips.values()), largest_rest),
-                         sines.main_bound(kernel, y, rests, 4, slip, largest_rest, from_rest=far_from_0))
-near_zero = sines.bound_near_zero(kernel, y, rests, sines.slip_near_zero(slips))
-next_to_zero = sines.largest_error(kernel, sines.next_to_zeros(Fraction(1, 2), limit, sines.NEXT_TO_ZERO), gmpy2.cos)
+largest_rest = max(found.largest for found in (*every, below_1))
+far_from_0 = sines.binary(sines.HALF_PI.low - 1)
+quarter_turn, lost = sines.binary(sines.HALF_PI.low, 200), sines.loss(every, 2)
+at = sines.one_by_one(kernel, gmpy2.cos, sines.PI, quarter_turn, Fraction(1, 2), limit, lost, signs=(1, -1))
+worst, (low, high) = max(
+    sines.main_bound(kernel, y, rests, lost, largest_rest, at),
+    sines.main_bound(kernel, y, rests, sines.loss([below_1], 4), largest_rest, at, from_rest=far_from_0))
+near_zero = sines.bound_near_zero(kernel, y, rests, sines.slip_near_zero(reductions))
+next_to_zero = sines.largest_error(
+    kernel, sines.doubles_near(quarter_turn, sines.NEXT_TO_ZERO, Fraction(1), limit, sines.PI), gmpy2.cos)
 sines.report_places("cos", worst, near_zero, next_to_zero, f"|r| from {float(low):.6f} to {float(high):.6f}")

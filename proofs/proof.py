@@ -109,7 +109,7 @@ def enclose(function, argument, bits=200):
     for end, mode in ((argument.low, gmpy2.RoundDown), (argument.high, gmpy2.RoundUp)):
         with gmpy2.local_context(gmpy2.context(), precision=bits, round=mode):
             exact = gmpy2.mpfr(gmpy2.mpq(end.numerator, end.denominator))
-            ends.append(Fraction(*gmpy2.mpfr(function(exact)).as_integer_ratio()))
+            ends.append(Fraction(*map(int, gmpy2.mpfr(function(exact)).as_integer_ratio())))
     return Interval(*ends)
 
 
@@ -118,7 +118,7 @@ def enclose_constant(function, bits=200):
     ends = []
     for mode in (gmpy2.RoundDown, gmpy2.RoundUp):
         with gmpy2.local_context(gmpy2.context(), precision=bits, round=mode):
-            ends.append(Fraction(*function().as_integer_ratio()))
+            ends.append(Fraction(*map(int, function().as_integer_ratio())))
     return Interval(*ends)
 
 

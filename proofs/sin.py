@@ -18,17 +18,22 @@ n = kernel.operands(kernel.operands(r, "subtract")[1], "multiply")[0]
 pi = sines.Pieces(kernel, r, n)
 nearest = NearestInteger(kernel, n)
 
-slips, largest_rest = {}, Fraction(0)
+reductions = []
 for binade in range(0, exponent_of(limit)):
-    exact, slips[binade], largest = sines.reduction(kernel, pi, nearest.scale, lambda names: nearest.chain(names, "x"),
-                                                    Fraction(2) ** binade, Fraction(2) ** (binade + 1))
-    require(exact, f"the first two steps are exact from 2^{binade}")
-    largest_rest = max(largest_rest, largest)
+    found = sines.Reduction(kernel, pi, nearest.scale, lambda names: nearest.chain(names, "x"), Fraction(2) ** binade,
+                            Fraction(2) ** (binade + 1))
+    require(found.exact, f"the first two steps are exact from 2^{binade}")
+    reductions.append((binade, found))
 # Below 1, n = 0 as below: r = x.
 require(nearest.scale < Fraction(1, 2), "x below 1 is its own rest")
 
 agree_with_module(kernel, "sin", ((1.37 * i ** 3,) for i in range(200)))
-worst, (low, high) = sines.main_bound(kernel, y, (r, signed), 2, max(slips.values()), largest_rest)
-near_zero = sines.bound_near_zero(kernel, y, (r, signed), sines.slip_near_zero(slips))
-next_to_zero = sines.largest_error(kernel, sines.next_to_zeros(Fraction(1), limit, sines.NEXT_TO_ZERO), gmpy2.sin)
+every = [found for _, found in reductions]
+lost = sines.loss(every, 2)
+worst, (low, high) = sines.main_bound(
+    kernel, y, (r, signed), lost, max(found.largest for found in every),
+    sines.one_by_one(kernel, gmpy2.sin, sines.PI, Fraction(0), sines.NEAR_ZERO, limit, lost))
+near_zero = sines.bound_near_zero(kernel, y, (r, signed), sines.slip_near_zero(reductions))
+next_to_zero = sines.largest_error(
+    kernel, sines.doubles_near(Fraction(0), sines.NEXT_TO_ZERO, Fraction(1), limit, sines.PI), gmpy2.sin)
 sines.report_places("sin", worst, near_zero, next_to_zero, f"|r| from {float(low):.6f} to {float(high):.6f}")

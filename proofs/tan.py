@@ -7,9 +7,8 @@ import gmpy2
 
 import sines
 from proof import (Interval, Kernel, NearestInteger, agree_with_module, dyadic, enclose, exponent_of, gappa_each, in_units,
-                   literal, require, sollya, ulp)
+                   lane_value, literal, pattern_of, require, sollya, ulp)
 
-HALF_PI = sines.PI / 2
 kernel = Kernel("tan", 16)
 limit = Fraction(128000)
 y = next(i for i in kernel.all("divide"))
@@ -18,17 +17,16 @@ require(choices[0][1:] == choices[1][:0:-1] and choices[0][0] == choices[1][0], 
 numerator, denominator = choices[0][2], choices[0][1]
 r = next(o for o in kernel.operands(numerator, "multiply") if kernel.name(o) == "subtract")
 n = kernel.operands(kernel.operands(r)[1], "multiply")[0]
-pieces_of_pi = sines.Pieces(kernel, r, n, HALF_PI)
+pieces_of_pi = sines.Pieces(kernel, r, n, sines.HALF_PI)
 nearest = NearestInteger(kernel, n)
 square = next(i for i in kernel.all("multiply") if kernel.operands(i) == [r, r])
 
-slips, largest_rest = {}, Fraction(0)
+reductions = []
 for binade in range(-1, exponent_of(limit) + 1):
-    high = min(Fraction(2) ** (binade + 1), limit)
-    exact, slips[binade], largest = sines.reduction(kernel, pieces_of_pi, nearest.scale,
-                                                    lambda names: nearest.chain(names, "x"), Fraction(2) ** binade, high)
-    require(exact, f"the first two steps are exact from 2^{binade}")
-    largest_rest = max(largest_rest, largest)
+    found = sines.Reduction(kernel, pieces_of_pi, nearest.scale, lambda names: nearest.chain(names, "x"),
+                            Fraction(2) ** binade, min(Fraction(2) ** (binade + 1), limit))
+    require(found.exact, f"the first two steps are exact from 2^{binade}")
+    reductions.append((binade, found))
 require(nearest.scale < 1, "x below 1/2 is its own rest")
 
 
@@ -94,32 +92,52 @@ def rounding_errors(pieces):
     return parts
 
 
-def bound(low_end, high_end, roundings, slip):
-    """For |r| between two ends; the largest error in ulp of tan R or its inverse, and where."""
-    cuts = []
-    for e in range(-16, 1):
-        a = enclose(gmpy2.atan, Fraction(2) ** e)
-        cuts += [sines.binary(a.low - 8 * slip), sines.binary(a.high + 8 * slip)]
-    pieces = sines.subdivide(low_end, high_end, cuts, 32)
-    worst = (Fraction(0), None)
-    for (low, high), approximation, rounding in zip(pieces, quotient_errors(pieces), rounding_errors(pieces)):
-        delta = roundings * ulp(high + Fraction(1, 2 ** 40)) / 2 + slip
-        values = tangent(Interval(low - delta, high + delta))
+def cotangent(x):
+    return 1 / tangent(x)
+
+
+def bound(largest_rest, lost, one_by_one):
+    """For |r| from NEAR_ZERO on, in ulp of tan R or its inverse, and where."""
+    def bound_of(piece, approximation, rounding):
+        low, high = piece
+        loss = lost(low, high)
+        values = tangent(Interval(low - loss, high + loss))
         # tan' / tan = 2 / sin 2r
         part = approximation + rounding + approximation * rounding
-        part += delta * (1 / values.low + values.high) * (1 + Fraction(1, 2 ** 30))
-        for value, what in ((values, "tan"), (1 / values, "cot")):
-            units = in_units(value, part * value.high)
-            worst = max(worst, (units, f"{what}, |r| from {float(low):.6f} to {float(high):.6f}"))
-    return worst
+        part += loss * (1 / values.low + values.high) * (1 + Fraction(1, 2 ** 30))
+        return max(in_units(value, part * value.high) for value in (values, 1 / values))
+
+    def bounds_of(pieces):
+        return map(bound_of, pieces, quotient_errors(pieces), rounding_errors(pieces))
+
+    def result(upside_down):
+        def of(x):
+            patterns = {r: pattern_of("f64", x)}
+            over, under = (lane_value("f64", kernel.evaluate_from(patterns, o)) for o in (numerator, denominator))
+            return lane_value("f64", pattern_of("f64", under / over if upside_down else over / under))
+        return of
+
+    crossings = []
+    for e in range(exponent_of(sines.NEAR_ZERO), 1):
+        at = enclose(gmpy2.atan, Fraction(2) ** e)
+        for crossing, upside_down in ((sines.Crossing(at, tangent, e, True), False),
+                                      (sines.Crossing(at, cotangent, -e, False), True)):
+            if crossing.strip[0] >= sines.NEAR_ZERO:
+                crossings.append((crossing, crossing.bound(result(upside_down), lost(*crossing.strip))))
+    pieces = sines.subdivide(sines.NEAR_ZERO, sines.binary(largest_rest + Fraction(1, 2 ** 50)), 8)
+    pieces = sines.less(pieces, [crossing.strip for crossing, _ in crossings[::2]])
+    return sines.largest_of(*sines.refined(pieces, bounds_of), crossings, one_by_one)
 
 
 agree_with_module(kernel, "tan", ((0.137 * i ** 3 * (-1) ** i,) for i in range(90)))
-slip = max(slips.values())
-far = bound(sines.NEAR_ZERO, sines.binary(largest_rest + Fraction(1, 2 ** 50)), 2, slip)
+every = [found for _, found in reductions]
+lost = sines.loss(every, 2)
+worst, (low, high) = bound(max(found.largest for found in every), lost, sines.one_by_one(
+    kernel, gmpy2.tan, sines.HALF_PI, Fraction(0), sines.NEAR_ZERO, limit, lost))
 # Next to zero the reduction rounds once, last: a unit at most of the result, as the quotient's rounding is.
 binades = sines.binades_near_zero()
-near = 2 + sines.slip_near_zero(slips) + 2 ** 53 * max(
+near_zero = 2 + sines.slip_near_zero(reductions) + 2 ** 53 * max(
     a + b + a * b for a, b in zip(quotient_errors(binades), rounding_errors(binades)))
-next_to_zero = sines.largest_error(kernel, sines.next_to_zeros(Fraction(1), limit, sines.NEXT_TO_ZERO, HALF_PI), gmpy2.tan)
-sines.report_places("tan", far[0], near, next_to_zero, far[1])
+next_to_zero = sines.largest_error(
+    kernel, sines.doubles_near(Fraction(0), sines.NEXT_TO_ZERO, Fraction(1), limit, sines.HALF_PI), gmpy2.tan)
+sines.report_places("tan", worst, near_zero, next_to_zero, f"|r| from {float(low):.6f} to {float(high):.6f}")
