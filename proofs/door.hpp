@@ -22,7 +22,7 @@ template <class K, class R, class... A> void write_down(R (*)(A...)) {
     // In the order in which they are written, which an argument list does not promise.
     std::tuple<Traced<A>...> arguments{Traced<A>::of("argument", {})...};
     const auto result = std::apply([](auto... x) { return K::fast(x...); }, arguments);
-    Traced<R>::of("result", {result.value.number});
+    Traced<R>::of("result", {result.value.number, result.special.number});
 }
 
 template <class K> struct Registered {

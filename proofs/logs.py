@@ -4,8 +4,9 @@ import subprocess
 from fractions import Fraction
 
 import gmpy2
+import numpy as np
 
-from proof import TRACE, Interval, dyadic, enclose, exponent_of, lane_value, literal, pattern_of, require, sollya
+from proof import TRACE, Interval, dyadic, enclose, exponent_of, literal, require, sollya
 
 # What the instruction promises of its estimate, and what narrowing its argument adds.
 ESTIMATE = Fraction(3, 2 ** 13) + Fraction(1, 2 ** 23)
@@ -20,11 +21,10 @@ class Rows:
 
     def __init__(self, kernel, R, row):
         upper = kernel.only("greater", "i32")
-        self.lower_half = {}
-        for integer in range(512, 1025):
-            at = {R: pattern_of("f32", Fraction(integer))}
-            require(kernel.evaluate_from(at, row) == integer - 512, "a row for each R")
-            self.lower_half[integer] = lane_value("i32", kernel.evaluate_from(at, upper)) == 0
+        integers = np.arange(512, 1025)
+        given = {R: integers.astype(np.float32)}
+        require(list(kernel.lanes(row, given)) == list(range(513)), "a row for each R")
+        self.lower_half = dict(zip(integers.tolist(), (kernel.lanes(upper, given) == 0).tolist()))
 
     def __iter__(self):
         return iter(self.lower_half)
@@ -59,18 +59,6 @@ def this_processor():
         least, most = max(least * (1 - unit), Fraction(1, 1024)), min(most * (1 + unit), Fraction(1, 512))
         found[R] = (least * R - 1, most * R - 1)
     return lambda integer: found[integer]
-
-
-def with_estimates(kernel, R):
-    """For a trace to be evaluated: R as this processor has it."""
-    found = reciprocals()
-    m, = kernel.operands(kernel.only("reciprocal_estimate"))
-
-    def given(patterns):
-        value = lane_value("f32", kernel.evaluate_from(patterns, m))
-        integer, = (i for i, (least, most) in found.items() if least <= value <= most)
-        patterns[R] = pattern_of("f32", Fraction(integer))
-    return given
 
 
 class PolynomialErrors:

@@ -1,7 +1,6 @@
 """What the proofs share: a kernel's operations as its own text wrote them down (tarn-trace), Gappa for what rounding
 does to them, Sollya for what a polynomial leaves of a function, MPFR for tables. Numbers are exact fractions; whatever
 is not one is an interval around the true value."""
-import ctypes
 import json
 import math
 import os
@@ -14,6 +13,9 @@ from fractions import Fraction
 from functools import lru_cache
 
 import gmpy2
+import numpy as np
+
+import lanes
 
 ROOT = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
 TRACE = os.environ.get("TARN_TRACE", os.path.join(ROOT, "build/release/tools/tarn-trace"))
@@ -150,62 +152,6 @@ def in_units(value, error, precision=53):
 # A kernel's operations -----------------------------------------------------------------------------------------------
 
 SIGNS = {"add": "+", "subtract": "-", "multiply": "*", "divide": "/"}
-WIDTHS = {"f64": 64, "i64": 64, "u64": 64, "f32": 32, "i32": 32, "u32": 32}
-
-
-def pattern_of(lane, value):
-    """The pattern of a fraction rounded to a lane, or of an integer cut to it."""
-    if lane == "f64":
-        return struct.unpack("<Q", struct.pack("<d", float(value)))[0]
-    if lane == "f32":
-        with gmpy2.local_context(gmpy2.ieee(32)):
-            return struct.unpack("<I", struct.pack("<f", float(gmpy2.mpfr(gmpy2.mpq(value.numerator, value.denominator)))))[0]
-    return int(value) % (1 << WIDTHS[lane])
-
-
-def evaluated(operation, patterns, lanes, tables):
-    """One operation on patterns."""
-    name, lane, text = operation["name"], operation["lane"], operation["text"]
-    values = [lane_value(l, p) for l, p in zip(lanes, patterns)]
-    if name == "constant":
-        return int(text)
-    if name in ("bits", "words"):
-        return patterns[0]
-    if name in SIGNS:
-        a, b = values
-        return pattern_of(lane, a + b if name == "add" else a - b if name == "subtract" else a * b if name == "multiply" else a / b)
-    if name in ("and", "or", "xor"):
-        a, b = patterns
-        return a & b if name == "and" else a | b if name == "or" else a ^ b
-    if name == "not":
-        return ~patterns[0] % (1 << WIDTHS[lane])
-    if name == "shift_left":
-        return patterns[0] << int(text) & ((1 << WIDTHS[lane]) - 1)
-    if name == "shift_right":
-        return pattern_of(lane, values[0].__floor__() >> int(text))
-    if name in ("less", "less_or_equal", "greater", "greater_or_equal", "equal", "unequal"):
-        a, b = values
-        holds = {"less": a < b, "less_or_equal": a <= b, "greater": a > b, "greater_or_equal": a >= b, "equal": a == b,
-                 "unequal": a != b}[name]
-        return (1 << WIDTHS[lane]) - 1 if holds else 0
-    if name == "select":
-        return patterns[1] if patterns[0] >> (WIDTHS[lane] - 1) else patterns[2]
-    if name == "smaller":
-        return patterns[0] if values[0] < values[1] else patterns[1]
-    if name == "larger":
-        return patterns[0] if values[0] > values[1] else patterns[1]
-    if name == "gather":
-        table, column = (int(word) for word in text.split())
-        return tables[table]["entries"][patterns[0] * tables[table]["columns"] + column]
-    if name == "round" and text == "0":
-        return pattern_of(lane, Fraction(round(values[0])))  # Python rounds halves to even, too
-    if name == "convert":
-        return pattern_of(lane, values[0])
-    if name == "high_word":
-        return patterns[0] >> 32
-    if name in ("low_word", "widen_unsigned"):
-        return patterns[0] & 0xFFFFFFFF
-    raise Unproved(f"{name} cannot be evaluated")
 
 
 class Kernel:
@@ -218,7 +164,7 @@ class Kernel:
         written = json.loads(ran.stdout)
         self.operations = written["operations"]
         self.tables = written["tables"]
-        self.result = self.operations[-1]["operands"][0]
+        self.result, self.special = self.operations[-1]["operands"]
         reached, pending = set(), [self.result]
         while pending:
             i = pending.pop()
@@ -300,17 +246,16 @@ class Kernel:
         lane, columns = self.operations[i]["lane"], table["columns"]
         return [lane_value(lane, p) for p in table["entries"][int(column)::columns]], row
 
-    def evaluate(self, *arguments):
-        """The result's pattern for patterns of arguments, each operation done as the processor does it."""
-        return self.evaluate_from(dict(zip(self.arguments, arguments)), self.result)
-
-    def evaluate_from(self, patterns, i):
-        """One operation's pattern from those that are given, which are added to."""
-        o = self.operations[i]
-        if i not in patterns:
-            operands = [self.evaluate_from(patterns, p) for p in o["operands"]]
-            patterns[i] = evaluated(o, operands, [self.operations[p]["lane"] for p in o["operands"]], self.tables)
-        return patterns[i]
+    def lanes(self, i, given):
+        """What operation i gives on lanes, from operations whose lanes are given; adds to them."""
+        if i not in given:
+            o = self.operations[i]
+            with np.errstate(all="ignore"):
+                given[i] = lanes.operate(o["name"], o["lane"], o["text"], [self.lanes(p, given) for p in o["operands"]], self.tables)
+            if o["name"] == "reciprocal_estimate":
+                given[i] = module_call("invf", 16, "_native", "f32", given[o["operands"][0]])  # the estimate itself
+            require(given[i] is not None, f"{o['name']} {o['text']} cannot be done on lanes")
+        return given[i]
 
     # Text for Gappa and Sollya: `names` says what stands for operations that are not to be written out.
 
@@ -431,18 +376,37 @@ def report(base, width, bound, where):
     print(f"proved {base} {width} {math.ceil(bound * 10000) / 10000:.4f} {where}")
 
 
-def agree_with_module(kernel, base, samples, given=lambda patterns: None):
-    """The trace computes what the module computes: a guard against a trace that misreads its kernel. Lanes one by one,
-    so that the kernel has to be width 1's too. `given` adds to the patterns what cannot be evaluated."""
-    module = os.environ.get("TARN_MODULE", os.path.join(os.path.dirname(TRACE), "../__ocl_tarn_k1.so"))
-    types = {"f64": ctypes.c_double, "f32": ctypes.c_float}
-    lanes = [kernel.operations[i]["lane"] for i in (*kernel.arguments, kernel.result)]
-    function = getattr(ctypes.CDLL(module), f"__ocl_tarn_k1_{base}1")
-    *function.argtypes, function.restype = (types[lane] for lane in lanes)
-    for sample in samples:
-        patterns = {i: pattern_of(lane, Fraction(x)) for i, lane, x in zip(kernel.arguments, lanes, sample)}
-        arguments = [float(lane_value(lane, patterns[i])) for i, lane in zip(kernel.arguments, lanes)]
-        given(patterns)
-        theirs = pattern_of(lanes[-1], Fraction(function(*arguments)))
-        ours = kernel.evaluate_from(patterns, kernel.result)
-        require(ours == theirs, f"{base}{sample}: the trace gives {ours:#x}, the module {theirs:#x}")
+def module_call(base, width, form, lane, *arguments):
+    """The module's own result on lanes, NaN being any NaN."""
+    words = b"".join(argument.view(f"u{argument.dtype.itemsize}").astype(np.uint64).tobytes() for argument in arguments)
+    ran = subprocess.run([TRACE.replace("tarn-trace", "tarn-call"), f"__ocl_tarn_k1_{base}{width}{form}"], input=words, capture_output=True)
+    require(ran.returncode == 0, ran.stderr.decode())
+    return lanes.of_patterns(lane, np.frombuffer(ran.stdout, dtype=np.uint64))
+
+
+def any_lanes(lane, arguments, count=1 << 14):
+    """For each argument lanes of all kinds: all exponents alike, around 1, and special ones."""
+    random, kind = np.random.default_rng(20), lanes.TYPES[lane]
+    word = np.dtype(f"u{np.dtype(kind).itemsize}")
+    special = np.array([0, 1, np.inf, np.nan, np.finfo(kind).max, np.finfo(kind).tiny, np.finfo(kind).smallest_subnormal, 0.5, 2], dtype=kind)
+    special = np.concatenate([special, -special])
+    for _ in range(arguments):
+        yield random.permutation(np.concatenate([
+            random.integers(0, np.iinfo(word).max, count, dtype=word, endpoint=True).view(kind),
+            (random.normal(size=count) * 2.0 ** random.integers(-20, 20, count)).astype(kind), np.tile(special, 20)]))
+
+
+def agree_with_module(kernel, base, width=16):
+    """The trace computes what the module computes, where it calls lanes ordinary: a guard against a trace that misreads
+    its kernel."""
+    lane = kernel.operations[kernel.arguments[0]]["lane"]
+    arguments = list(any_lanes(lane, len(kernel.arguments)))
+    given = dict(zip(kernel.arguments, arguments))
+    ours = kernel.lanes(kernel.result, given)
+    ordinary = np.nonzero(~(kernel.lanes(kernel.special, given) < 0))[0]
+    ordinary = ordinary[:len(ordinary) // width * width]
+    require(len(ordinary) > 1000, f"{len(ordinary)} lanes are ordinary")
+    arguments, ours = [argument[ordinary] for argument in arguments], ours[ordinary]
+    theirs = module_call(base, width, "", kernel.operations[kernel.result]["lane"], *arguments)
+    for i in np.nonzero(~lanes.same(ours, theirs))[0]:
+        raise Unproved(f"{base} of {[a[i] for a in arguments]}: the trace gives {ours[i]}, the module {theirs[i]}")

@@ -5,8 +5,9 @@ from fractions import Fraction
 import gmpy2
 import numpy as np
 
-from proof import (Interval, dyadic, enclose, enclose_constant, exponent_of, gappa, gappa_each, interval, lane_value,
-                   literal, pattern_of, report, require, sollya, ulp)
+import lanes
+from proof import (Interval, dyadic, enclose, enclose_constant, exponent_of, gappa, gappa_each, interval, literal, report,
+                   require, sollya, ulp)
 
 PI = enclose_constant(gmpy2.const_pi, 300)
 HALF_PI = PI / 2
@@ -106,8 +107,8 @@ def doubles_near(offset, distance, low, limit, period):
 def largest_error(kernel, arguments, function):
     """Of the kernel itself at given arguments, in ulp."""
     largest = Fraction(0)
-    for x in arguments:
-        result = lane_value("f64", kernel.evaluate(pattern_of("f64", x)))
+    results = kernel.lanes(kernel.result, {kernel.arguments[0]: lanes.of_fractions(arguments)})
+    for x, result in zip(arguments, lanes.fractions(results)):
         with gmpy2.local_context(gmpy2.context(), precision=400):
             exact = Fraction(*map(int, function(gmpy2.mpfr(gmpy2.mpq(x.numerator, x.denominator))).as_integer_ratio()))
         largest = max(largest, abs(result - exact) / ulp(exact))
@@ -201,10 +202,9 @@ class Crossing:
         self.strip = self.doubles[0] - unit / 2, self.doubles[-1] + unit / 2
 
     def bound(self, evaluate, loss):
-        """The largest error over these, evaluate(r) being the kernel's result and R within a loss of r."""
+        """The largest error over these, evaluate(lanes) being the kernel's results and R within a loss of r."""
         worst = Fraction(0)
-        for r in self.doubles:
-            result = evaluate(r)
+        for r, result in zip(self.doubles, lanes.fractions(evaluate(lanes.of_fractions(self.doubles)))):
             for low, high, unit in ((r - loss, min(r + loss, self.at.high), self.units[0]),
                                     (max(r - loss, self.at.low), r + loss, self.units[1])):
                 if low <= high:
@@ -240,8 +240,7 @@ def main_bound(kernel, y, rests, lost, largest_rest, one_by_one, from_rest=NEAR_
         return map(bound_of, pieces, local_errors(polynomial, pieces), slopes_in_square(quotient, pieces), gappa_each(questions))
 
     def result(r):
-        pattern = pattern_of("f64", r)
-        return lane_value("f64", kernel.evaluate_from(dict.fromkeys(rests, pattern), y))
+        return kernel.lanes(y, dict.fromkeys(rests, r))
 
     crossings = [Crossing(enclose(gmpy2.asin, Fraction(2) ** e), sine, e, True) for e in range(-16, 0)]
     crossings = [c for c in crossings if c.strip[0] >= from_rest]

@@ -7,7 +7,7 @@ import gmpy2
 
 import sines
 from proof import (Interval, Kernel, NearestInteger, agree_with_module, dyadic, enclose, exponent_of, gappa_each, in_units,
-                   lane_value, literal, pattern_of, require, sollya, ulp)
+                   literal, require, sollya, ulp)
 
 kernel = Kernel("tan", 16)
 limit = Fraction(128000)
@@ -112,9 +112,8 @@ def bound(largest_rest, lost, one_by_one):
 
     def result(upside_down):
         def of(x):
-            patterns = {r: pattern_of("f64", x)}
-            over, under = (lane_value("f64", kernel.evaluate_from(patterns, o)) for o in (numerator, denominator))
-            return lane_value("f64", pattern_of("f64", under / over if upside_down else over / under))
+            over, under = (kernel.lanes(o, {r: x}) for o in (numerator, denominator))
+            return under / over if upside_down else over / under
         return of
 
     crossings = []
@@ -129,7 +128,7 @@ def bound(largest_rest, lost, one_by_one):
     return sines.largest_of(*sines.refined(pieces, bounds_of), crossings, one_by_one)
 
 
-agree_with_module(kernel, "tan", ((0.137 * i ** 3 * (-1) ** i,) for i in range(90)))
+agree_with_module(kernel, "tan")
 every = [found for _, found in reductions]
 lost = sines.loss(every, 2)
 worst, (low, high) = bound(max(found.largest for found in every), lost, sines.one_by_one(
