@@ -8,6 +8,7 @@ import sines
 from proof import Kernel, NearestInteger, agree_with_module, literal, require
 
 kernel = Kernel("cos", 16)
+agree_with_module(kernel, "cos")
 limit = Fraction(2) ** 23 + 2
 y = kernel.result
 signed = kernel.operands(y, "add")[1]
@@ -38,7 +39,6 @@ every = [found for _, found in reductions]
 # Below 1, m is 1/2 or -1/2, R far from 0, and all four steps round.
 below_1 = sines.Reduction(kernel, pi, nearest.scale, chain, Fraction(-1), Fraction(1))
 
-agree_with_module(kernel, "cos")
 rests = (r, signed)
 largest_rest = max(found.largest for found in (*every, below_1))
 far_from_0 = sines.binary(sines.HALF_PI.low - 1)

@@ -9,6 +9,7 @@ from proof import agree_with_module, enclose, exponent_of, gappa, literal, repor
 
 power = powers.Raised("exp2", 16)
 kernel, limit = power.kernel, power.kernel.limit()
+agree_with_module(kernel, "exp2")
 x, shifter = kernel.constant_of(power.shifted, "add")
 require(x == power.x and kernel.value(kernel.operands(power.n)[1]) == shifter, "x itself is shifted, there and back")
 step = Fraction(2) ** (exponent_of(shifter) - 52)
@@ -28,6 +29,5 @@ x - {n} -> ({n} - ({shifted} - {S})) * (-1) - ({shifted} - (x + {S}));
 require(reduction[f"{r} - (x - {n})"].magnitude == 0, "r is exact")
 # Nearer to 0 the shifted sum is the shifter: n = 0 and r = x.
 rest = max(reduction[f"x - {n}"].magnitude, smallest)
-agree_with_module(kernel, "exp2")
 worst, row = powers.bound(power, "2^x", lambda x: enclose(gmpy2.exp2, x), rest, Fraction(0))
 report("exp2", 16, worst, f"row {row}")

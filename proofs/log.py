@@ -5,11 +5,12 @@ from fractions import Fraction
 
 import gmpy2
 
-from logs import PolynomialErrors, Rows, for_any_estimate, ln_1p, this_processor
-from proof import (LN2, Interval, Kernel, agree_with_module, enclose, gappa, gappa_each, in_units, literal, report, require,
+from logs import PolynomialErrors, Rows, for_any_estimate, ln_1p, report_estimates
+from proof import (LN2, Interval, Kernel, agree_with_module, enclose, gappa, gappa_each, in_units, literal, require,
                    ulp)
 
 kernel = Kernel("log", 16)
+agree_with_module(kernel, "log")
 x, = kernel.arguments
 
 # (poly + T) + k ln 2.
@@ -98,7 +99,4 @@ def bound_for(rests):
     return largest
 
 
-agree_with_module(kernel, "log")
-bound_here, where = bound_for(this_processor())
-print(f"with this processor's estimates at most {float(bound_here):.4f} ulp ({where})")
-report("log", 16, *bound_for(for_any_estimate))
+report_estimates("log", bound_for)

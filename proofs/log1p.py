@@ -5,10 +5,11 @@ from fractions import Fraction
 
 import gmpy2
 
-from logs import PolynomialErrors, Rows, for_any_estimate, ln_1p, this_processor
-from proof import LN2, Interval, Kernel, agree_with_module, enclose, gappa, gappa_each, in_units, literal, report, require, ulp
+from logs import PolynomialErrors, Rows, for_any_estimate, ln_1p, report_estimates
+from proof import LN2, Interval, Kernel, agree_with_module, enclose, gappa, gappa_each, in_units, literal, require, ulp
 
 kernel = Kernel("log1p", 16)
+agree_with_module(kernel, "log1p")
 x, = kernel.arguments
 SMALL = Fraction(1, 2 ** 60)
 HUGE = 95  # from this power of two on, c is rounded
@@ -201,9 +202,4 @@ def bound_for(rests):
 
 # Below 2^-60 the result is x + p, |p| at most x^2 but where squares are below all numbers: half a unit and 2^-7.
 next_to_zero = Fraction(1, 2) + SMALL * 2 ** 53 * 2
-agree_with_module(kernel, "log1p")
-bound_here, where = bound_for(this_processor())
-print(f"with this processor's estimates at most {float(bound_here):.4f} ulp ({where})")
-worst = bound_for(for_any_estimate)
-require(worst[0] > next_to_zero, "next to 0")
-report("log1p", 16, *worst)
+report_estimates("log1p", lambda rests: max(bound_for(rests), (next_to_zero, "next to 0")))

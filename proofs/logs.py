@@ -1,12 +1,13 @@
 """What the proofs of logarithms share: R, the integer nearest to the processor's estimate of 1/m for m from 2^-10 to
 2^-9, the row of ln(512/R) or ln(1024/R) that goes with it, and a polynomial of the rest m R - 1."""
 import subprocess
+import sys
 from fractions import Fraction
 
 import gmpy2
 import numpy as np
 
-from proof import TRACE, Interval, dyadic, enclose, exponent_of, literal, require, sollya
+from proof import TRACE, Interval, enclose, exponent_of, literal, report, require, sollya
 
 # What the instruction promises of its estimate, and what narrowing its argument adds.
 ESTIMATE = Fraction(3, 2 ** 13) + Fraction(1, 2 ** 23)
@@ -67,10 +68,17 @@ class PolynomialErrors:
 
     def __init__(self, polynomial, widest):
         self.bound = Fraction(2) ** (exponent_of(widest) + 1)
-        lines = sollya(f"p = canonical({polynomial});\n" + "".join(
+        self.levels = sollya(f"p = canonical({polynomial});\n" + "".join(
             f"sup(supnorm(p, log(1 + x), [-{literal(self.bound * i / 64)}; {literal(self.bound * i / 64)}], relative, 2^(-10)));\n"
-            for i in range(1, 65)))
-        self.levels = [dyadic(line) for line in lines[-64:]]
+            for i in range(1, 65)), 64)
 
     def up_to(self, largest):
         return self.levels[min(63, int(largest * 64 / self.bound))]
+
+
+def report_estimates(base, bound_for):
+    """The bound for every estimate that the instruction permits; with --here also that for this processor's."""
+    if "--here" in sys.argv[1:]:
+        bound, where = bound_for(this_processor())
+        print(f"with this processor's estimates at most {float(bound):.4f} ulp ({where})")
+    report(base, 16, *bound_for(for_any_estimate))

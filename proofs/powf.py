@@ -5,10 +5,11 @@ from fractions import Fraction
 
 import gmpy2
 
-from logs import PolynomialErrors, Rows, for_any_estimate, ln_1p, this_processor
-from proof import LN2, Kernel, agree_with_module, enclose, gappa, literal, relative_error, report, require, ulp
+from logs import PolynomialErrors, Rows, for_any_estimate, ln_1p, report_estimates
+from proof import LN2, Kernel, agree_with_module, enclose, gappa, literal, relative_error, require, ulp
 
 kernel = Kernel("powf", 16)
+agree_with_module(kernel, "powf")
 x, y = kernel.arguments
 UNIT = Fraction(1, 2 ** 53)  # half a unit of a double, as a part of it
 # Beyond, results overflow; or are below 2^-128, where a float's unit is 2^-149 and a part of them that many less.
@@ -109,7 +110,4 @@ def bound_for(rests):
     return in_floats((exponential + z_off * (1 + z_off)) * (1 + z_off)), where
 
 
-agree_with_module(kernel, "powf")
-bound_here, where = bound_for(this_processor())
-print(f"with this processor's estimates at most {float(bound_here):.4f} ulp ({where})")
-report("powf", 16, *bound_for(for_any_estimate))
+report_estimates("powf", bound_for)

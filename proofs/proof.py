@@ -344,30 +344,27 @@ def gappa_each(scripts):
         return list(pool.map(one, scripts))
 
 
-def sollya(script):
-    ran = subprocess.run(["sollya", "--warnonstderr"], input="prec = 300; display = dyadic; verbosity = 0;\n" + script + "quit;\n",
+def sollya(script, count):
+    """Sollya's answers to a script that asks for so many numbers."""
+    ran = subprocess.run(["sollya", "--warnonstderr"], input=f"prec = 300!; display = dyadic!; verbosity = 0!;\n{script}quit;\n",
                          capture_output=True, text=True)
-    require("error" not in ran.stderr.lower(), f"Sollya refuses:\n{ran.stderr}\n{script}")
-    return [line for line in ran.stdout.splitlines() if line.strip()]
-
-
-def dyadic(text):
-    mantissa, _, exponent = text.strip().partition("b")
-    return Fraction(int(mantissa)) * Fraction(2) ** int(exponent or 0)
+    lines = ran.stdout.split()
+    require(ran.returncode == 0 and len(lines) == count and all(re.fullmatch(r"-?\d+(b-?\d+)?", line) for line in lines),
+            f"Sollya refuses:\n{ran.stdout}{ran.stderr}\n{script}")
+    return [fraction(line) for line in lines]
 
 
 def relative_error(polynomial, function, bound):
     """Where polynomial/function - 1 lies for |x| up to a bound. Samples say around which value; the distance from
     there is a supremum norm that Sollya proves."""
-    answer = sollya(f"""
+    near, norm = sollya(f"""
 p = canonical({polynomial}); B = {literal(bound)}; e = p / ({function}) - 1;
 low = evaluate(e, B); high = low;
 for i from -64 to 63 do {{ v = evaluate(e, i * B / 64 + 1b-99); if (v < low) then low = v; if (v > high) then high = v; }};
 near = round((low + high) / 2, 100, RN);
 near;
 sup(supnorm(canonical(p / (1 + near)), {function}, [-B; B], relative, 2^(-20)));
-""")
-    near, norm = dyadic(answer[-2]), dyadic(answer[-1])
+""", 2)
     return (1 + near) * Interval(1 - norm, 1 + norm) - 1
 
 

@@ -8,6 +8,7 @@ import sines
 from proof import Kernel, NearestInteger, agree_with_module, exponent_of, require
 
 kernel = Kernel("sin", 16)
+agree_with_module(kernel, "sin")
 limit = Fraction(2) ** 24
 # The result is y with the sign of x, y the polynomial of r with a sign.
 y = kernel.bits_of(next(o for o in kernel.operands(kernel.bits_of(kernel.result), "xor")))
@@ -27,7 +28,6 @@ for binade in range(0, exponent_of(limit)):
 # Below 1, n = 0 as below: r = x.
 require(nearest.scale < Fraction(1, 2), "x below 1 is its own rest")
 
-agree_with_module(kernel, "sin")
 every = [found for _, found in reductions]
 lost = sines.loss(every, 2)
 worst, (low, high) = sines.main_bound(

@@ -6,7 +6,7 @@ import gmpy2
 import numpy as np
 
 import lanes
-from proof import (Interval, dyadic, enclose, enclose_constant, exponent_of, gappa, gappa_each, interval, literal, report,
+from proof import (Interval, enclose, enclose_constant, exponent_of, gappa, gappa_each, interval, literal, report,
                    require, sollya, ulp)
 
 PI = enclose_constant(gmpy2.const_pi, 300)
@@ -99,7 +99,7 @@ def doubles_near(offset, distance, low, limit, period):
             centers = (offset + (first + int(m)) * period.low for m in np.nonzero(places <= np.uint64(2 * margin))[0])
         for center in centers:
             begin = max(-((distance - center) // unit), 2 ** 52)
-            end = min((center + distance) // unit + 1, 2 ** 53 - 1, limit // unit)
+            end = min((center + distance) // unit, 2 ** 53 - 1, limit // unit)
             found += [i * unit for i in range(begin, end + 1)]
     return found
 
@@ -172,15 +172,13 @@ def local_errors(polynomial, pieces):
     script = f"p = canonical({polynomial});\n"
     for low, high in pieces:
         script += f"sup(supnorm(p, sin(x), [{literal(low)}; {literal(high)}], relative, 2^(-10)));\n"
-    lines = sollya(script)
-    return [dyadic(line) for line in lines[-len(pieces):]]
+    return sollya(script, len(pieces))
 
 
 def slopes_in_square(polynomial, pieces):
     """For each interval of r, the largest slope of the polynomial's quotient by r as a function of r's square."""
-    lines = sollya(f"d = diff(canonical({polynomial}));\n" + "".join(
-        f"sup(abs(evaluate(d, [{literal(low * low)}; {literal(high * high)}])));\n" for low, high in pieces))
-    return [dyadic(line) for line in lines[-len(pieces):]]
+    return sollya(f"d = diff(canonical({polynomial}));\n" + "".join(
+        f"sup(abs(evaluate(d, [{literal(low * low)}; {literal(high * high)}])));\n" for low, high in pieces), len(pieces))
 
 
 def binary(value, bits=70):

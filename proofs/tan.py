@@ -6,10 +6,11 @@ from fractions import Fraction
 import gmpy2
 
 import sines
-from proof import (Interval, Kernel, NearestInteger, agree_with_module, dyadic, enclose, exponent_of, gappa_each, in_units,
+from proof import (Interval, Kernel, NearestInteger, agree_with_module, enclose, exponent_of, gappa_each, in_units,
                    literal, require, sollya, ulp)
 
 kernel = Kernel("tan", 16)
+agree_with_module(kernel, "tan")
 limit = Fraction(128000)
 y = next(i for i in kernel.all("divide"))
 choices = [kernel.operands(o, "select") for o in kernel.operands(y)]
@@ -66,7 +67,7 @@ def quotient_errors(pieces):
     for low, high in pieces:
         ends = f"[{literal(low * low)}; {literal(high * high)}]"
         script += f"sup(supnorm(d + 1, 1, {ends}, absolute, 2^(-5)));\ninf(abs(evaluate(q * a, {ends})));\n"
-    numbers = [dyadic(line) for line in sollya(script)[-2 * len(pieces):]]
+    numbers = sollya(script, 2 * len(pieces))
     return [difference / least * (1 + part) + part for difference, least in zip(numbers[::2], numbers[1::2])]
 
 
@@ -81,7 +82,7 @@ def rounding_errors(pieces):
     for low, high in pieces:
         ends = f"[{literal(low * low)}; {literal(high * high)}]"
         script += f"inf(evaluate(p, {ends}));\ninf(evaluate(q, {ends}));\nsup(abs(evaluate(d, {ends})));\n"
-    numbers = [dyadic(line) for line in sollya(script)[-3 * len(pieces):]]
+    numbers = sollya(script, 3 * len(pieces))
     parts = []
     for i, (low, high) in enumerate(pieces):
         least_p, least_q, slope = numbers[3 * i:3 * i + 3]
@@ -128,7 +129,6 @@ def bound(largest_rest, lost, one_by_one):
     return sines.largest_of(*sines.refined(pieces, bounds_of), crossings, one_by_one)
 
 
-agree_with_module(kernel, "tan")
 every = [found for _, found in reductions]
 lost = sines.loss(every, 2)
 worst, (low, high) = bound(max(found.largest for found in every), lost, sines.one_by_one(
