@@ -78,23 +78,21 @@ def bound_for(rests):
             continue
         part, row_value = ln_1p(low, high), rows.true(integer)
         # The polynomial, the table, and the roundings.
-        total = (polynomial.up_to(max(abs(low), abs(high))) * part.magnitude + (row_value - table[integer - 512]).magnitude
+        total = (polynomial.between(low, high) * part.magnitude + (row_value - table[integer - 512]).magnitude
                  + rounding.magnitude)
         absolute[integer] = max(absolute.get(integer, Fraction(0)), total)
         value = abs(part + row_value)
         largest = max(largest, (total / ulp(value.low), f"k = 0, R = {integer}, |ln x| from {float(value.low):.7f}"))
-    # Away from k = 0: the product, the constant's error, the last sum.
+    # Away from k = 0: the product as it is rounded, the last sum.
     for k in [k for k in range(-1075, 1025) if k != 0]:
-        off = (ln2 - LN2).magnitude * abs(k)
-        if abs(k) & (abs(k) - 1) != 0:
-            off += ulp(k * ln2) / 2
-        for integer in rows if abs(k) < 4 else [512]:
-            if abs(k) < 4:
+        off = (Fraction(float(k * ln2)) - k * LN2).magnitude
+        for integer in rows if abs(k) < 16 else [512]:
+            if abs(k) < 16:
                 value, error = abs(k * LN2 + rows.true(integer) + ln_1p(*rests(integer))), absolute[integer] + off
             else:
                 # Any row: T + ln(1 + r) is below 0.35.
                 value, error = abs(k * LN2) + Interval(Fraction(-35, 100), Fraction(35, 100)), max(absolute.values()) + off
-            where = f"k = {k}" if abs(k) >= 4 else f"k = {k}, R = {integer}"
+            where = f"k = {k}" if abs(k) >= 16 else f"k = {k}, R = {integer}"
             largest = max(largest, (in_units(value, error), where))
     return largest
 

@@ -5,7 +5,7 @@ from fractions import Fraction
 
 import gmpy2
 
-from logs import PolynomialErrors, Rows, for_any_estimate, ln_1p, report_estimates
+from logs import PolynomialErrors, Rows, for_any_estimate, ln_1p, outward, report_estimates
 from proof import LN2, Interval, Kernel, agree_with_module, enclose, gappa, gappa_each, in_units, literal, require, ulp
 
 kernel = Kernel("log1p", 16)
@@ -134,10 +134,6 @@ def rounding_of_rest(low, high, constant, tail, y_tail_most):
         f"|a| <= {literal(y_tail_most)} /\\ |b| <= {literal(tail)}")
 
 
-def outward(low, high, unit=Fraction(1, 2 ** 80)):
-    return low // unit * unit, -(-high // unit) * unit
-
-
 def pieces_of(integer, low, high):
     """The row's sums in parts, cut where ln(1 + x) crosses a power of two at k = 0, and by binades next to 0."""
     value = rows.true(integer)
@@ -177,7 +173,7 @@ def bound_for(rests):
     worst, most_but_y = (Fraction(0), None), Fraction(0)
     for integer, (low, high) in work:
         part, largest = ln_1p(low, high), max(abs(low), abs(high))
-        error = errors.up_to(largest) * part.magnitude
+        error = errors.between(low, high) * part.magnitude
         if integer in by_row:
             off = rows.true(integer) - heads[integer - 512] - table_tails[integer - 512]
             error += off.magnitude + by_row[integer] + EL_ROUNDING * (1 + 2 * largest) + 2 * largest * ulp(largest) / 2

@@ -1,5 +1,6 @@
 """What the proofs of logarithms share: R, the integer nearest to the processor's estimate of 1/m for m from 2^-10 to
 2^-9, the row of ln(512/R) or ln(1024/R) that goes with it, and a polynomial of the rest m R - 1."""
+import math
 import subprocess
 import sys
 from fractions import Fraction
@@ -7,7 +8,7 @@ from fractions import Fraction
 import gmpy2
 import numpy as np
 
-from proof import TRACE, Interval, enclose, exponent_of, literal, report, require, sollya
+from proof import TRACE, Interval, enclose, literal, report, require, sollya
 
 # What the instruction promises of its estimate, and what narrowing its argument adds.
 ESTIMATE = Fraction(3, 2 ** 13) + Fraction(1, 2 ** 23)
@@ -15,6 +16,10 @@ ESTIMATE = Fraction(3, 2 ** 13) + Fraction(1, 2 ** 23)
 
 def ln_1p(low, high):
     return enclose(gmpy2.log1p, Interval(low, high))
+
+
+def outward(low, high, unit=Fraction(1, 2 ** 80)):
+    return low // unit * unit, -(-high // unit) * unit
 
 
 class Rows:
@@ -62,18 +67,24 @@ def this_processor():
     return lambda integer: found[integer]
 
 
+def polynomial_errors(polynomial, pieces):
+    """How far a polynomial of r (Sollya's text in x) is from ln(1 + r), as a part of it, in each interval of r."""
+    return sollya(f"p = canonical({polynomial});\n" + "".join(
+        f"sup(supnorm(p, log(1 + x), [{literal(low)}; {literal(high)}], relative, 2^(-10)));\n" for low, high in pieces), len(pieces))
+
+
 class PolynomialErrors:
-    """How far a polynomial of r (Sollya's text in x) is from ln(1 + r), as a part of it, for |r| up to so many 64ths of
-    a bound."""
+    """The same in each of so many parts of where r may be."""
 
-    def __init__(self, polynomial, widest):
-        self.bound = Fraction(2) ** (exponent_of(widest) + 1)
-        self.levels = sollya(f"p = canonical({polynomial});\n" + "".join(
-            f"sup(supnorm(p, log(1 + x), [-{literal(self.bound * i / 64)}; {literal(self.bound * i / 64)}], relative, 2^(-10)));\n"
-            for i in range(1, 65)), 64)
+    def __init__(self, polynomial, widest, parts=128):
+        self.widest, self.parts = Fraction(math.ceil(widest * 2 ** 30), 2 ** 30), parts
+        ends = [self.widest * (2 * i - parts) / parts for i in range(parts + 1)]
+        self.errors = polynomial_errors(polynomial, list(zip(ends, ends[1:])))
 
-    def up_to(self, largest):
-        return self.levels[min(63, int(largest * 64 / self.bound))]
+    def between(self, low, high):
+        first, last = (int((end / self.widest + 1) * self.parts / 2) for end in (low, high))
+        require(0 <= first and last <= self.parts, "r is where it may be")
+        return max(self.errors[min(first, self.parts - 1):last + 1])
 
 
 def report_estimates(base, bound_for):

@@ -80,7 +80,7 @@ x - {head_} -> ({exact[0]}) * (-1) + (x * {C} - {n_}) / {C} + {n_} * (1 / {C} - 
 def bound(power, function, base_to, rest_bound, rest_error):
     """The error of the result in ulp, row by row, and the worst row. |r| is at most rest_bound and r - R within
     rest_error; the base's powers are `function` of x to Sollya, and base_to(x) encloses them."""
-    shape = relative_error(power.polynomial(), function, rest_bound)
+    shape = relative_error(power.polynomial(), function, -rest_bound, rest_bound)
     spread, slip = base_to(Interval(-rest_bound, rest_bound)), base_to(rest_error)
     questions = []
     for row in power.rows:

@@ -5,8 +5,8 @@ from fractions import Fraction
 
 import gmpy2
 
-from logs import PolynomialErrors, Rows, for_any_estimate, ln_1p, report_estimates
-from proof import LN2, Kernel, agree_with_module, enclose, gappa, literal, relative_error, require, ulp
+from logs import PolynomialErrors, Rows, for_any_estimate, ln_1p, outward, polynomial_errors, report_estimates
+from proof import LN2, Interval, Kernel, agree_with_module, enclose, gappa, literal, refined, relative_error, require, ulp
 
 kernel = Kernel("powf", 16)
 agree_with_module(kernel, "powf")
@@ -54,7 +54,8 @@ require(kernel.operations[kernel.operands(m, "convert")[0]]["lane"] == "f32", "r
 
 widest = max(max(map(abs, for_any_estimate(integer))) for integer in rows)
 require(widest < Fraction(1, 2 ** 9), "rests are small")
-errors = PolynomialErrors(kernel.exact(p, {r: "x"}), widest)
+polynomial = kernel.exact(p, {r: "x"})
+errors = PolynomialErrors(polynomial, widest)
 
 
 def rounding(target, names, assumptions):
@@ -70,44 +71,70 @@ with_any_row = rounding(with_row, {r: "r", gather: "T"}, f"|r| <= 1b-9 /\\ |T| <
 # (1 + slope u) entry, u from 0 to 1, stands for 2^((j + u) / 2048).
 most_t = LARGEST_Z * scale
 t_off = ulp(most_t) / 2 + LARGEST_Z * (scale - 2048 / LN2).magnitude
-shape = relative_error(f"(1 + {literal(slope)} * (x + 1b-1))", "2^(x * 1b-11)", Fraction(1, 2) + Fraction(1, 2 ** 30))
 middle = enclose(gmpy2.exp2, Fraction(-1, 4096))
-exponential = max(((1 + shape) * middle * (entry / enclose(gmpy2.exp2, Fraction(number, 2048))) - 1).magnitude
-                  for number, entry in enumerate(entries)) * (1 + Fraction(1, 2 ** 20))
-exponential += t_off * LN2.high / 2048 * 2 + 3 * UNIT
+t_part = t_off * LN2.high / 2048 * 2 + 3 * UNIT
 
 
-def in_floats(part):
-    """The units that a part of the double result is, and the half of the rounding; beyond a power of two a whole one."""
-    units = part * 2 ** 24
-    return max(units + Fraction(1, 2), min(2 * units, units + 1)) if units >= 1 else units + Fraction(1, 2)
+def exponential_error(low, high, numbers):
+    """In parts of e^z, for u - 1/2 between two ends and these rows."""
+    shape = relative_error(f"(1 + {literal(slope)} * (x + 1b-1))", "2^(x * 1b-11)", low, high)
+    every = [(1 + shape) * middle * (entries[number] / enclose(gmpy2.exp2, Fraction(number, 2048))) - 1 for number in numbers]
+    least, most = min(each.low for each in every), max(each.high for each in every)
+    return Interval(least, most) * (1 + Fraction(1, 2 ** 20)) + Interval(-t_part, t_part)
+
+
+ROUND = Fraction(1, 2 ** 30)
+exponential = exponential_error(-Fraction(1, 2) - ROUND, Fraction(1, 2) + ROUND, range(2048))
+# Within 2^-22 of a power of two, as a part of it, u is next to 0 or 1.
+NEXT = Fraction(1, 2 ** 10)
+require(Fraction(1, 2 ** 22) * 2048 / LN2.low < NEXT, "u next to a power of two")
+next_to_power = max(exponential_error(-Fraction(1, 2) - ROUND, -Fraction(1, 2) + NEXT, [0]).high,
+                    exponential_error(Fraction(1, 2) - NEXT, Fraction(1, 2) + ROUND, [2047]).high)
+
+
+def in_floats(z_off):
+    """The units of the result, and half of one for its rounding. Only where a double beyond a power of two from an exact
+    value below it is off by more than a unit is it rounded by a whole one."""
+    both = (1 + exponential.magnitude) * (1 + z_off * (1 + z_off)) - 1
+    across = (1 + next_to_power) * (1 + z_off * (1 + z_off)) - 1
+    require(both < Fraction(1, 2 ** 22), "doubles are near")
+    return max(both * 2 ** 24 + Fraction(1, 2), across * 2 ** 24 + 1 if across * 2 ** 24 >= 1 else 0)
+
+
+def logarithm_error(integer, piece, error):
+    """What ln x is off at k = 0, and that as a part of it: for R, r in a piece and the polynomial's error there."""
+    (low, high), entry = piece, table[integer - 512]
+    part = ln_1p(low, high)
+    if entry == 0:
+        # All of it goes with r.
+        error += without_row * (1 + 2 * max(abs(low), abs(high)))
+        return error * part.magnitude, error
+    error = error * part.magnitude + (rows.true(integer) - entry).magnitude + with_any_row
+    return error, error / abs(part + rows.true(integer)).low
 
 
 def bound_for(rests):
-    worst = (Fraction(0), None)
-    most = Fraction(0)
+    coarse, most = [], Fraction(0)
     for integer in rows:
         low, high = rests(integer)
-        for i in range(16):
-            a, b = low + (high - low) * i / 16, low + (high - low) * (i + 1) / 16
-            part, largest = ln_1p(a, b), max(abs(a), abs(b))
-            off = errors.up_to(largest)
-            if table[integer - 512] == 0:
-                # All of it goes with r.
-                logarithm = off + without_row * (1 + 2 * largest)
-                most = max(most, logarithm * part.magnitude)
-            else:
-                error = off * part.magnitude + (rows.true(integer) - table[integer - 512]).magnitude + with_any_row
-                most = max(most, error)
-                logarithm = error / abs(part + rows.true(integer)).low
-            worst = max(worst, (logarithm, f"k = 0, R = {integer}"))
+        ends = [low + (high - low) * i / 16 for i in range(17)]
+        found = [logarithm_error(integer, piece, errors.between(*piece)) for piece in zip(ends, ends[1:])]
+        most = max(most, *(absolute for absolute, _ in found))
+        coarse.append((max(part for _, part in found), integer))
+    # Rows that may be the worst are looked at closely.
+    worst = (Fraction(0), None)
+    for part, integer in sorted(coarse, reverse=True):
+        if part > worst[0]:
+            closely, _ = refined([outward(*rests(integer))], lambda pieces: [
+                logarithm_error(integer, *each)[1] for each in zip(pieces, polynomial_errors(polynomial, pieces))])
+            worst = max(worst, (closely, f"k = 0, R = {integer}"))
     for k in range(1, 150):
         # ln x is the sum of three: its product, its constant, itself.
         error = most + 2 * with_any_row + k * (ln2 - LN2).magnitude + 2 * ulp(k * ln2 + 1)
         worst = max(worst, (error / (k * LN2.low - Fraction(36, 100)), f"k = {k}"))
     logarithm, where = worst
     z_off = LARGEST_Z * (logarithm + 2 * UNIT)
-    return in_floats((exponential + z_off * (1 + z_off)) * (1 + z_off)), where
+    return in_floats(z_off), where
 
 
 report_estimates("powf", bound_for)

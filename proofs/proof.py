@@ -149,6 +149,22 @@ def in_units(value, error, precision=53):
     return max(units + Fraction(1, 2), min(2 * units, units + 1))
 
 
+def refined(pieces, bounds_of):
+    """The largest of what bounds_of(pieces) says of each, and where: those near the largest are halved until that
+    changes nothing."""
+    bounds = dict(zip(pieces, bounds_of(pieces)))
+    for _ in range(12):
+        worst = max(bounds.values())
+        halves = []
+        for low, high in [piece for piece, bound in bounds.items() if bound > worst * Fraction(49, 50)]:
+            del bounds[low, high]
+            halves += [(low, (low + high) / 2), ((low + high) / 2, high)]
+        bounds |= zip(halves, bounds_of(halves))
+        if max(bounds.values()) > worst * Fraction(999, 1000):
+            break
+    return max((bound, piece) for piece, bound in bounds.items())
+
+
 # A kernel's operations -----------------------------------------------------------------------------------------------
 
 SIGNS = {"add": "+", "subtract": "-", "multiply": "*", "divide": "/"}
@@ -354,16 +370,17 @@ def sollya(script, count):
     return [fraction(line) for line in lines]
 
 
-def relative_error(polynomial, function, bound):
-    """Where polynomial/function - 1 lies for |x| up to a bound. Samples say around which value; the distance from
-    there is a supremum norm that Sollya proves."""
+def relative_error(polynomial, function, low, high):
+    """Where polynomial/function - 1 lies for x between two ends. Samples say around which value; the distance from there
+    is a supremum norm that Sollya proves."""
     near, norm = sollya(f"""
-p = canonical({polynomial}); B = {literal(bound)}; e = p / ({function}) - 1;
+p = canonical({polynomial}); A = {literal(low)}; B = {literal(high)}; e = p / ({function}) - 1;
 low = evaluate(e, B); high = low;
-for i from -64 to 63 do {{ v = evaluate(e, i * B / 64 + 1b-99); if (v < low) then low = v; if (v > high) then high = v; }};
+for i from 0 to 127 do {{
+    v = evaluate(e, A + (B - A) * i / 128 + 1b-99); if (v < low) then low = v; if (v > high) then high = v; }};
 near = round((low + high) / 2, 100, RN);
 near;
-sup(supnorm(canonical(p / (1 + near)), {function}, [-B; B], relative, 2^(-20)));
+sup(supnorm(canonical(p / (1 + near)), {function}, [A; B], relative, 2^(-20)));
 """, 2)
     return (1 + near) * Interval(1 - norm, 1 + norm) - 1
 

@@ -6,8 +6,8 @@ import gmpy2
 import numpy as np
 
 import lanes
-from proof import (Interval, enclose, enclose_constant, exponent_of, gappa, gappa_each, interval, literal, report,
-                   require, sollya, ulp)
+from proof import (Interval, enclose, enclose_constant, exponent_of, gappa, gappa_each, interval, literal, refined,
+                   report, require, sollya, ulp)
 
 PI = enclose_constant(gmpy2.const_pi, 300)
 HALF_PI = PI / 2
@@ -141,22 +141,6 @@ def less(pieces, strips):
         parts = [part for low, high in pieces for part in ((low, min(high, strip_low)), (max(low, strip_high), high))]
         pieces = [(low, high) for low, high in parts if low < high]
     return pieces
-
-
-def refined(pieces, bounds_of):
-    """The largest of what bounds_of(pieces) says of each, and where: those near the largest are halved until that
-    changes nothing."""
-    bounds = dict(zip(pieces, bounds_of(pieces)))
-    for _ in range(12):
-        worst = max(bounds.values())
-        halves = []
-        for low, high in [piece for piece, bound in bounds.items() if bound > worst * Fraction(49, 50)]:
-            del bounds[low, high]
-            halves += [(low, (low + high) / 2), ((low + high) / 2, high)]
-        bounds |= zip(halves, bounds_of(halves))
-        if max(bounds.values()) > worst * Fraction(999, 1000):
-            break
-    return max((bound, piece) for piece, bound in bounds.items())
 
 
 def sine(x):

@@ -7,7 +7,7 @@ import gmpy2
 
 import sines
 from proof import (Interval, Kernel, NearestInteger, agree_with_module, enclose, exponent_of, gappa_each, in_units,
-                   literal, require, sollya, ulp)
+                   literal, refined, require, sollya, ulp)
 
 kernel = Kernel("tan", 16)
 agree_with_module(kernel, "tan")
@@ -126,7 +126,7 @@ def bound(largest_rest, lost, one_by_one):
                 crossings.append((crossing, crossing.bound(result(upside_down), lost(*crossing.strip))))
     pieces = sines.subdivide(sines.NEAR_ZERO, sines.binary(largest_rest + Fraction(1, 2 ** 50)), 8)
     pieces = sines.less(pieces, [crossing.strip for crossing, _ in crossings[::2]])
-    return sines.largest_of(*sines.refined(pieces, bounds_of), crossings, one_by_one)
+    return sines.largest_of(*refined(pieces, bounds_of), crossings, one_by_one)
 
 
 every = [found for _, found in reductions]
