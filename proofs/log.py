@@ -31,6 +31,7 @@ require(one == 1 and R64 in kernel.operands(low_part, "multiply"), "r is m R - 1
 require(kernel.bits_of(same_m) == m and kept == -2 ** 26, "the head of m has 26 bits less")
 
 rows = Rows(kernel, R, row)
+rows.require_exponent(kernel, x, k)
 
 # r = m R - 1 is exact: a multiple of 2^-62 that is small.
 widest = max(max(abs(e) for e in for_any_estimate(integer)) for integer in rows)

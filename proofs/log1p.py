@@ -6,7 +6,7 @@ from fractions import Fraction
 import gmpy2
 
 from logs import PolynomialErrors, Rows, for_any_estimate, ln_1p, outward, report_estimates
-from proof import LN2, Interval, Kernel, agree_with_module, enclose, gappa, gappa_each, in_units, literal, require, ulp
+from proof import LN2, Interval, Kernel, agree_with_module, enclose, exponent_of, gappa, gappa_each, in_units, literal, require, ulp
 
 kernel = Kernel("log1p", 16)
 agree_with_module(kernel, "log1p")
@@ -48,6 +48,7 @@ scaled, one = kernel.constant_of(r, "subtract")
 s, scale = kernel.operands(scaled, "multiply")
 c, same_scale = kernel.operands(el, "multiply")
 require(one == 1 and same_scale == scale, "r is s R 2^e - 1, beside c R 2^e")
+rows.require_exponent(kernel, s, k)
 before_cut, keep = kernel.operands(kernel.bits_of(s), "and")
 is_tiny, mask = kernel.constant_of(keep, "or")
 magnitude, tiny = kernel.constant_of(is_tiny, "less")
@@ -64,6 +65,12 @@ a, b = kernel.operands(kernel.bits_of(power), "subtract")
 require(kernel.value(a) == 0x7F4 << 52 and kernel.constant_of(b, "and")[1] == 0x7FF << 52
         and kernel.bits_of(kernel.constant_of(b, "and")[0]) == s, "2^(-E - 10)")
 require(kernel.operands(integer64, "convert") == [R], "R")
+
+
+# So k is E or E + 1, for s from 2^-53 to where x leaves the fast path.
+below, above = kernel.operands(kernel.special, "or")
+least, most = (kernel.constant_of(*each)[1] for each in ((below, "less"), (kernel.operands(above, "not")[0], "less_or_equal")))
+K = range(exponent_of(1 + least), exponent_of(1 + most) + 2)
 
 
 def exact_parts(low, high):
@@ -189,7 +196,7 @@ def bound_for(rests):
                      outward(0, tail_of_ln2)[1]), Fraction(1, 2 ** 62), ulp(Fraction(800)) / 2))
     most_but_y += next(iter(any_rest.values())).magnitude + EL_ROUNDING * 2 + Fraction(1, 2 ** 8) * Fraction(1, 2 ** 62)
     most_but_y += ulp(tail_of_ln2) * 3 / 2  # the product, its sum with the table's tail, and what the table is off
-    for k in [k for k in range(-60, 1025) if k != 0]:
+    for k in [k for k in K if k != 0]:
         error = most_but_y + abs(k) * (ln2_head + ln2_tail - LN2).magnitude
         value = abs(k * LN2) + Interval(Fraction(-36, 100), Fraction(36, 100))
         worst = max(worst, (in_units(value, error), f"k = {k}"))

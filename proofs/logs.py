@@ -8,6 +8,7 @@ from fractions import Fraction
 import gmpy2
 import numpy as np
 
+import lanes
 from proof import TRACE, Interval, enclose, literal, report, require, sollya
 
 # What the instruction promises of its estimate, and what narrowing its argument adds.
@@ -26,7 +27,7 @@ class Rows:
     """For every R there may be, its row and whether the exponent is one less for it."""
 
     def __init__(self, kernel, R, row):
-        upper = kernel.only("greater", "i32")
+        upper, self.R = kernel.only("greater", "i32"), R
         integers = np.arange(512, 1025)
         given = {R: integers.astype(np.float32)}
         require(list(kernel.lanes(row, given)) == list(range(513)), "a row for each R")
@@ -38,6 +39,29 @@ class Rows:
     def whole(self, integer):
         """What R's rest is a rest of: m R is about 1 where 512 or 1024 times m is whole/R."""
         return 512 if self.lower_half[integer] else 1024
+
+    def require_exponent(self, kernel, x, k):
+        """That m is x but for its exponent, from 2^-10 to 2^-9, and k ln 2 what is left of ln x beside a row and a rest:
+        for every exponent with every R, and m for each bit of it, whose operations know no other bit's."""
+        m, = kernel.operands(kernel.only("reciprocal_estimate"))
+        if kernel.name(m) == "convert":
+            m, = kernel.operands(m)
+        lane = kernel.operations[x]["lane"]
+        low, count = (52, 2046) if lane == "f64" else (23, 254)
+        fields = [0, 2 ** low - 1, *(1 << bit for bit in range(low))]
+        sample = lanes.of_patterns(lane, [e << low | field for e in range(1, count + 1) for field in fields])
+        significands = kernel.lanes(m, {x: sample})
+        (x_part, _), (m_part, m_power) = np.frexp(sample), np.frexp(significands)
+        require(bool((x_part == m_part).all() and (m_power == -9).all()), "m is x but for its exponent")
+        kept = kernel.constant_of(kernel.constant_of(kernel.bits_of(m), "or")[0], "and")[1]
+        require(kept == 2 ** low - 1, "m is made bit by bit")
+        # R by R for all exponents at once.
+        sample = lanes.of_patterns(lane, [e << low for e in range(1, count + 1)])
+        for integer in self:
+            given = {x: sample, self.R: np.full(sample.shape, integer, dtype=np.float32)}
+            # x = m 2^c, and whole is 2^9 or 2^10.
+            expected = np.frexp(sample)[1] + 9 - (9 if self.whole(integer) == 512 else 10)
+            require(bool((kernel.lanes(k, given) == expected).all()), f"k with R = {integer}")
 
     def true(self, integer):
         return enclose(gmpy2.log, Fraction(self.whole(integer), integer))

@@ -46,6 +46,7 @@ r = kernel.operands(p, "add")[0]
 R = kernel.users(kernel.only("reciprocal_estimate"))[0]
 kernel.operands(R, "round", "0")
 rows = Rows(kernel, R, row)
+rows.require_exponent(kernel, x, kernel.operands(k, "convert")[0])
 mantissa_product, one = kernel.constant_of(r, "subtract")
 m, wide_R = kernel.operands(mantissa_product, "multiply")
 require(one == 1 and kernel.operands(wide_R, "convert") == [R] and kernel.operands(wide_y, "convert") == [y], "r is m R - 1")

@@ -9,7 +9,7 @@ import sys
 import time
 
 ROOT = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
-LIBRARY = {"proof", "prove", "powers", "sines", "lanes", "logs"}
+LIBRARY = {"proof", "prove", "powers", "sines", "lanes", "logs", "permitted"}
 WIDTHS_ALIKE = 16  # what a proof of the kernel without a width of its own says
 
 
