@@ -1,5 +1,5 @@
-// Calls an export on lanes from standard input: for each argument all its patterns, 8 bytes each, then the next's. Writes
-// the results' patterns so. Proofs hold what they read off a kernel to it.
+// Calls an export on lanes from standard input: for each argument all its patterns, 8 bytes each, then the next's.
+// Writes the results' patterns so. Proofs hold what they read off a kernel to it.
 //   tarn-call NAME
 #include <cstdio>
 #include <exception>

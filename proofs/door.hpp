@@ -28,7 +28,8 @@ template <class K, class R, class... A> void write_down(R (*)(A...)) {
 template <class K> struct Registered {
     template <int width> static void add(const char* base) {
         using Chosen = typename ChosenAt<K, width>::Kernel;
-        traced_kernels.push_back({base, width, [] { write_down<Chosen>(static_cast<typename Chosen::Signature*>(nullptr)); }});
+        const auto write = [] { write_down<Chosen>(static_cast<typename Chosen::Signature*>(nullptr)); };
+        traced_kernels.push_back({base, width, write});
     }
     explicit Registered(const char* base) {
         add<1>(base);

@@ -50,8 +50,10 @@ def width_2():
     n = kernel.only("round")
     require(kernel.operands(n, text="0") == [t], "n is rounded from the same product")
     scale = kernel.constant_of(t, "multiply")[1]
-    rest, slip = powers.reduction(
-        power, scale, n, lambda names: f"({names[n]} - {names[t]}) + ({names[t]} - x * {literal(scale)})", LN2 / 64, kernel.limit())
+
+    def chain(names):
+        return f"({names[n]} - {names[t]}) + ({names[t]} - x * {literal(scale)})"
+    rest, slip = powers.reduction(power, scale, n, chain, LN2 / 64, kernel.limit())
     require(exp(-kernel.limit()).low > Fraction(2) ** -1020, "results are normal")
     agree_with_module(kernel, "exp", 2)
     worst, row = powers.bound(power, "exp(x)", exp, rest, slip)

@@ -1,12 +1,12 @@
 """Operations of a trace done on many lanes at once, as the processor does them: NumPy's are its own."""
-import numpy as np
-
 from fractions import Fraction
+
+import numpy as np
 
 TYPES = {"f64": np.float64, "i64": np.int64, "u64": np.uint64, "f32": np.float32, "i32": np.int32, "u32": np.uint32}
 ARITHMETIC = {"add": np.add, "subtract": np.subtract, "multiply": np.multiply, "divide": np.divide,
-              "and": np.bitwise_and, "or": np.bitwise_or, "xor": np.bitwise_xor, "not": np.invert, "negate": np.negative,
-              "sqrt": np.sqrt}
+              "and": np.bitwise_and, "or": np.bitwise_or, "xor": np.bitwise_xor, "not": np.invert,
+              "negate": np.negative, "sqrt": np.sqrt}
 COMPARISONS = {"less": np.less, "less_or_equal": np.less_equal, "greater": np.greater,
                "greater_or_equal": np.greater_equal, "equal": np.equal, "unequal": np.not_equal}
 

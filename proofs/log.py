@@ -37,14 +37,15 @@ rows.require_exponent(kernel, x, k)
 widest = max(max(abs(e) for e in for_any_estimate(integer)) for integer in rows)
 names = {m: "m", R64: "R", m_head: "h"}
 steps = kernel.rounded(r, names)
+high_, low_, r_, small = names[high_part], names[low_part], names[r], literal(Fraction(3, 2048))
 answers = gappa(f"""m = rnd(m_);
 h = fixed<-36, dn>(m);
 R = int<ne>(R_);
 {steps}
-{{ m in [1b-10, 1b-9] /\\ R in [512, 1024] /\\ m * R - 1 in [{literal(-Fraction(3, 2048))}, {literal(Fraction(3, 2048))}]
-   -> {names[high_part]} - (h * R - 1) in ? /\\ {names[low_part]} - (m - h) * R in ? /\\ {names[r]} - ({names[high_part]} + {names[low_part]}) in ? }}
+{{ m in [1b-10, 1b-9] /\\ R in [512, 1024] /\\ m * R - 1 in [-{small}, {small}]
+   -> {high_} - (h * R - 1) in ? /\\ {low_} - (m - h) * R in ? /\\ {r_} - ({high_} + {low_}) in ? }}
 h * R - 1 -> (m * R - 1) + (h - m) * R;
-{names[high_part]} + {names[low_part]} -> ({names[high_part]} - (h * R - 1)) + ({names[low_part]} - (m - h) * R) + (m * R - 1);
+{high_} + {low_} -> ({high_} - (h * R - 1)) + ({low_} - (m - h) * R) + (m * R - 1);
 """)
 require(answers and all(a.magnitude == 0 for a in answers.values()) and widest < Fraction(3, 2048), "r is exact")
 
@@ -56,8 +57,8 @@ def pieces_of(integer, low, high):
     are multiples of 2^-62, none of which is where a cut is."""
     unit, value = Fraction(2) ** -62, rows.true(integer)
     cuts = [Interval(low), Interval(high)]
-    cuts += [enclose(gmpy2.expm1, side * Fraction(2) ** e - value) for e in range(-54 if table[integer - 512] == 0 else -12, -1)
-             for side in (-1, 1)]
+    least = -54 if table[integer - 512] == 0 else -12
+    cuts += [enclose(gmpy2.expm1, side * Fraction(2) ** e - value) for e in range(least, -1) for side in (-1, 1)]
     if table[integer - 512] == 0:
         # x is a double, and r is x - 1 next to 1.
         side = 1 if high > 0 else -1
@@ -92,7 +93,8 @@ def bound_for(rests):
                 value, error = abs(k * LN2 + rows.true(integer) + ln_1p(*rests(integer))), absolute[integer] + off
             else:
                 # Any row: T + ln(1 + r) is below 0.35.
-                value, error = abs(k * LN2) + Interval(Fraction(-35, 100), Fraction(35, 100)), max(absolute.values()) + off
+                value = abs(k * LN2) + Interval(Fraction(-35, 100), Fraction(35, 100))
+                error = max(absolute.values()) + off
             where = f"k = {k}" if abs(k) >= 16 else f"k = {k}, R = {integer}"
             largest = max(largest, (in_units(value, error), where))
     return largest

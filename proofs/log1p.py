@@ -6,7 +6,8 @@ from fractions import Fraction
 import gmpy2
 
 from logs import PolynomialErrors, Rows, for_any_estimate, ln_1p, outward, report_estimates
-from proof import LN2, Interval, Kernel, agree_with_module, enclose, exponent_of, gappa, gappa_each, in_units, literal, require, ulp
+from proof import (LN2, Interval, Kernel, agree_with_module, enclose, exponent_of, gappa, gappa_each, in_units, literal,
+                   require, ulp)
 
 kernel = Kernel("log1p", 16)
 agree_with_module(kernel, "log1p")
@@ -57,7 +58,7 @@ require(kernel.constant_of(kernel.bits_of(before_cut), "add") == (x, 1), "1 + x"
 require(kernel.constant_of(kernel.bits_of(magnitude), "and")[1] == 2 ** 63 - 1, "|x|")
 without_s, lesser = kernel.operands(c, "add")
 greater, same_s = kernel.operands(without_s, "subtract")
-require(same_s == s and kernel.constant_of(greater, "larger") == (x, 1) and kernel.constant_of(lesser, "smaller") == (x, 1),
+require(same_s == s and kernel.constant_of(greater, "larger") == kernel.constant_of(lesser, "smaller") == (x, 1),
         "c is (max(1, x) - s) + min(1, x)")
 # 2^e is the power of two that makes s R 2^e, s from 2^E to 2^(E + 1), R 2^(-E - 10) s.
 integer64, power = kernel.operands(scale, "multiply")
@@ -69,7 +70,8 @@ require(kernel.operands(integer64, "convert") == [R], "R")
 
 # So k is E or E + 1, for s from 2^-53 to where x leaves the fast path.
 below, above = kernel.operands(kernel.special, "or")
-least, most = (kernel.constant_of(*each)[1] for each in ((below, "less"), (kernel.operands(above, "not")[0], "less_or_equal")))
+not_above, = kernel.operands(above, "not")
+least, most = kernel.constant_of(below, "less")[1], kernel.constant_of(not_above, "less_or_equal")[1]
 K = range(exponent_of(1 + least), exponent_of(1 + most) + 2)
 
 
@@ -125,18 +127,21 @@ widest = max(max(map(abs, sums_of(for_any_estimate)(integer))) for integer in ro
 require(widest < Fraction(1, 2 ** 9), "rests are small")
 errors = PolynomialErrors(f"x + ({kernel.exact(p, {total: 'x'})})", widest)
 
-# k ln 2 and the table in heads are exact, and not less than the sum, which makes y_tail exact: multiples of 2^-42 below 2^11.
+# k ln 2 and the table in heads are exact, and not less than the sum, which makes y_tail exact: multiples of 2^-42 below
+# 2^11.
 grid = Fraction(1, 2 ** 42)
-require(all((value / grid).denominator == 1 for value in [ln2_head, *heads]) and all(abs(h) < 1 for h in heads), "heads")
+require(all((value / grid).denominator == 1 and abs(value) < 1 for value in [ln2_head, *heads]), "heads")
 for integer in rows:
-    require(heads[integer - 512] == 0 or abs(heads[integer - 512]) >= max(map(abs, sums_of(for_any_estimate)(integer))), "y_tail")
+    value = abs(heads[integer - 512])
+    require(value == 0 or value >= max(map(abs, sums_of(for_any_estimate)(integer))), "y_tail")
 require(ln2_head - Fraction(36, 100) > widest, "y_tail")
 
 
 def rounding_of_rest(low, high, constant, tail, y_tail_most):
     """Gappa's question: what the roundings make of everything but y."""
     return kernel.rounding_question(
-        rest, {total: "v", constants: "q", y_tail: "a", sum_tail: "b"}, "v = rnd(v_);\nq = rnd(q_);\na = rnd(a_);\nb = rnd(b_);\n",
+        rest, {total: "v", constants: "q", y_tail: "a", sum_tail: "b"},
+        "v = rnd(v_);\nq = rnd(q_);\na = rnd(a_);\nb = rnd(b_);\n",
         f"v in [{literal(low)}, {literal(high)}] /\\ q in [{literal(constant.low)}, {literal(constant.high)}] /\\ "
         f"|a| <= {literal(y_tail_most)} /\\ |b| <= {literal(tail)}")
 
@@ -148,7 +153,8 @@ def pieces_of(integer, low, high):
         # There sum is x.
         side = 1 if high > SMALL * 2 else -1
         top = high if side > 0 else -low
-        ends = [e for i in range(-60, 0) for f in range(8 if i > -20 else 1) if (e := Fraction(2) ** i * (1 + Fraction(f, 8))) < top] + [top]
+        ends = [Fraction(2) ** i * (1 + Fraction(f, 8)) for i in range(-60, 0) for f in range(8 if i > -20 else 1)]
+        ends.append(top)
         ends += [abs(enclose(gmpy2.expm1, side * Fraction(2) ** e).low) for e in range(-60, -8)]
         ends = sorted(e for e in ends if e <= top)
         pieces = list(zip(ends, ends[1:]))
@@ -171,7 +177,8 @@ def bound_for(rests):
         low, high = outward(*sums(integer))
         largest = max(-low, high)
         y_most = max(abs(heads[integer - 512]) + largest, Fraction(1, 2 ** 20))
-        questions.append(rounding_of_rest(low, high, Interval(table_tails[integer - 512]), ulp(largest) / 2, ulp(y_most) / 2))
+        tail = Interval(table_tails[integer - 512])
+        questions.append(rounding_of_rest(low, high, tail, ulp(largest) / 2, ulp(y_most) / 2))
     by_row = dict(zip(flat, (a.magnitude for a in gappa_each(questions))))
     work = [(integer, piece) for integer in rows for piece in pieces_of(integer, *sums(integer))]
     zero = [(i, outward(*piece, ulp(min(map(abs, piece))))) for i, piece in work if i not in by_row]

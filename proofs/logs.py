@@ -41,8 +41,8 @@ class Rows:
         return 512 if self.lower_half[integer] else 1024
 
     def require_exponent(self, kernel, x, k):
-        """That m is x but for its exponent, from 2^-10 to 2^-9, and k ln 2 what is left of ln x beside a row and a rest:
-        for every exponent with every R, and m for each bit of it, whose operations know no other bit's."""
+        """That m is x but for its exponent, from 2^-10 to 2^-9, and k ln 2 what is left of ln x beside a row and a
+        rest: for every exponent with every R, and m for each bit of it, whose operations know no other bit's."""
         m, = kernel.operands(kernel.only("reciprocal_estimate"))
         if kernel.name(m) == "convert":
             m, = kernel.operands(m)
@@ -77,7 +77,9 @@ def for_any_estimate(integer):
 def reciprocals():
     """For each R the least and the largest float m for which this processor's estimate of 1/m rounds to R."""
     lines = subprocess.run([TRACE, "--reciprocals"], capture_output=True, text=True, check=True).stdout.splitlines()
-    found = {int(R): (Fraction(float.fromhex(least)), Fraction(float.fromhex(most))) for R, least, most in map(str.split, lines)}
+    found = {}
+    for R, *ends in map(str.split, lines):
+        found[int(R)] = tuple(Fraction(float.fromhex(end)) for end in ends)
     require(set(found) <= set(range(512, 1025)), "R is within the table")
     return found
 
@@ -93,8 +95,9 @@ def this_processor():
 
 def polynomial_errors(polynomial, pieces):
     """How far a polynomial of r (Sollya's text in x) is from ln(1 + r), as a part of it, in each interval of r."""
-    return sollya(f"p = canonical({polynomial});\n" + "".join(
-        f"sup(supnorm(p, log(1 + x), [{literal(low)}; {literal(high)}], relative, 2^(-10)));\n" for low, high in pieces), len(pieces))
+    questions = (f"sup(supnorm(p, log(1 + x), [{literal(low)}; {literal(high)}], relative, 2^(-10)));\n"
+                 for low, high in pieces)
+    return sollya(f"p = canonical({polynomial});\n" + "".join(questions), len(pieces))
 
 
 class PolynomialErrors:

@@ -42,15 +42,16 @@ class Raised(Power):
         mantissa, raised = (a, b) if kernel.name(b) == "shift_left" else (b, a)
         whole, = kernel.operands(raised, "shift_left", str(52 - index_bits))
         pattern, kept = kernel.constant_of(whole, "and")
-        require(kernel.same(kernel.bits_of(pattern), self.shifted) and kept == -len(rows), "n/N whole exponents are added")
+        same = kernel.same(kernel.bits_of(pattern), self.shifted)
+        require(same and kept == -len(rows), "n/N whole exponents are added")
         super().__init__(kernel, kernel.bits_of(mantissa), table, rows)
 
         self.n = next(i for i in kernel.users(self.shifted) if kernel.name(i) == "subtract")
 
 
 def reduction(power, scale, n, chain, unit, limit):
-    """r = (x - n head) - n tail, for n next to x scale as chain(names) says and R = x - n unit: the largest |r| and where
-    r - R lies. The product with the head and the first difference are exact."""
+    """r = (x - n head) - n tail, for n next to x scale as chain(names) says and R = x - n unit: the largest |r| and
+    where r - R lies. The product with the head and the first difference are exact."""
     kernel = power.kernel
     s, tail_product = kernel.operands(power.r, "subtract")
     head_product = kernel.operands(s, "subtract")[1]

@@ -1,12 +1,14 @@
 #!/usr/bin/python3
-"""x^y of floats, computed in double precision: z = y ln x, ln x as log.py has it with a cubic; e^z = 2^(n/2048) (1 + f),
-f linear in what n leaves. What the double result is off, as a part of it, and the rounding to a float."""
+"""x^y of floats, computed in double precision: z = y ln x, ln x as log.py has it with a cubic; e^z =
+2^(n/2048) (1 + f), f linear in what n leaves. What the double result is off, as a part of it, and the rounding to a
+float."""
 from fractions import Fraction
 
 import gmpy2
 
 from logs import PolynomialErrors, Rows, for_any_estimate, ln_1p, outward, polynomial_errors, report_estimates
-from proof import LN2, Interval, Kernel, agree_with_module, enclose, gappa, literal, refined, relative_error, require, ulp
+from proof import (LN2, Interval, Kernel, agree_with_module, enclose, gappa, literal, refined, relative_error, require,
+                   ulp)
 
 kernel = Kernel("powf", 16)
 agree_with_module(kernel, "powf")
@@ -32,7 +34,8 @@ eleven, = kernel.operands(kernel.bits_of(whole), "shift_right", "11")
 low_bits, mask = kernel.constant_of(j, "and")
 word, = kernel.operands(low_bits, "low_word")
 require(same_entry == entry and len(entries) == mask + 1 == 2048, "a row for each of 2048 fractions")
-require(kernel.operands(low_t, "subtract")[0] == t and kernel.value(kernel.operands(low_t)[1]) == Fraction(1, 2), "t - 1/2")
+whole_t, half = kernel.operands(low_t, "subtract")
+require(whole_t == t and kernel.value(half) == Fraction(1, 2), "t - 1/2")
 require(same_shifter == kernel.value(shifter) == Fraction(3, 2) * 2 ** 52, "the shifter rounds to integers")
 require(kernel.bits_of(word) == shifted == kernel.bits_of(kernel.bits_of(eleven)), "n's lower bits and the others")
 
@@ -49,7 +52,8 @@ rows = Rows(kernel, R, row)
 rows.require_exponent(kernel, x, kernel.operands(k, "convert")[0])
 mantissa_product, one = kernel.constant_of(r, "subtract")
 m, wide_R = kernel.operands(mantissa_product, "multiply")
-require(one == 1 and kernel.operands(wide_R, "convert") == [R] and kernel.operands(wide_y, "convert") == [y], "r is m R - 1")
+require(one == 1 and kernel.operands(wide_R, "convert") == [R], "r is m R - 1")
+require(kernel.operands(wide_y, "convert") == [y], "y itself")
 # m is a float: m R and r have 35 bits at most.
 require(kernel.operations[kernel.operands(m, "convert")[0]]["lane"] == "f32", "r is exact")
 
@@ -79,7 +83,7 @@ t_part = t_off * LN2.high / 2048 * 2 + 3 * UNIT
 def exponential_error(low, high, numbers):
     """In parts of e^z, for u - 1/2 between two ends and these rows."""
     shape = relative_error(f"(1 + {literal(slope)} * (x + 1b-1))", "2^(x * 1b-11)", low, high)
-    every = [(1 + shape) * middle * (entries[number] / enclose(gmpy2.exp2, Fraction(number, 2048))) - 1 for number in numbers]
+    every = [(1 + shape) * middle * (entries[j] / enclose(gmpy2.exp2, Fraction(j, 2048))) - 1 for j in numbers]
     least, most = min(each.low for each in every), max(each.high for each in every)
     return Interval(least, most) * (1 + Fraction(1, 2 ** 20)) + Interval(-t_part, t_part)
 
@@ -94,8 +98,8 @@ next_to_power = max(exponential_error(-Fraction(1, 2) - ROUND, -Fraction(1, 2) +
 
 
 def in_floats(z_off):
-    """The units of the result, and half of one for its rounding. Only where a double beyond a power of two from an exact
-    value below it is off by more than a unit is it rounded by a whole one."""
+    """The units of the result, and half of one for its rounding. Only where a double beyond a power of two from an
+    exact value below it is off by more than a unit is it rounded by a whole one."""
     both = (1 + exponential.magnitude) * (1 + z_off * (1 + z_off)) - 1
     across = (1 + next_to_power) * (1 + z_off * (1 + z_off)) - 1
     require(both < Fraction(1, 2 ** 22), "doubles are near")

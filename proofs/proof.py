@@ -226,7 +226,7 @@ class Kernel:
     def same(self, i, j):
         """Whether two operations compute the same: the text may say one thing twice."""
         a, b = self.operations[i], self.operations[j]
-        return i == j or ((a["name"], a["lane"], a["text"]) == (b["name"], b["lane"], b["text"]) and a["name"] != "argument"
+        return i == j or (all(a[field] == b[field] for field in ("name", "lane", "text")) and a["name"] != "argument"
                           and len(a["operands"]) == len(b["operands"])
                           and all(self.same(p, q) for p, q in zip(a["operands"], b["operands"])))
 
@@ -245,7 +245,7 @@ class Kernel:
 
     def limit(self):
         """Of a mask that tests the upper word of |x|: the first |x| that is not on the fast path."""
-        word, bound = self.operands(next(i for i in range(len(self.operations) - 1, 0, -1) if self.name(i) == "greater"))
+        word, bound = self.operands(max(i for i in range(len(self.operations)) if self.name(i) == "greater"))
         magnitude, = self.operands(word, "words")
         pattern, mask = self.constant_of(self.operands(magnitude, "bits")[0], "and")
         require(self.bits_of(pattern) in self.arguments and mask == 2 ** 63 - 1, "the mask tests |x|")
@@ -266,8 +266,9 @@ class Kernel:
         """What operation i gives on lanes, from operations whose lanes are given; adds to them."""
         if i not in given:
             o = self.operations[i]
+            operands = [self.lanes(p, given) for p in o["operands"]]
             with np.errstate(all="ignore"):
-                given[i] = lanes.operate(o["name"], o["lane"], o["text"], [self.lanes(p, given) for p in o["operands"]], self.tables)
+                given[i] = lanes.operate(o["name"], o["lane"], o["text"], operands, self.tables)
             if o["name"] == "reciprocal_estimate":
                 given[i] = module_call("invf", 16, "_native", "f32", given[o["operands"][0]])  # the estimate itself
             require(given[i] is not None, f"{o['name']} {o['text']} cannot be done on lanes")
@@ -327,13 +328,14 @@ class NearestInteger:
         return f"({n} - ({shifted} - {S})) + ({shifted} - ({scaled} + {S})) + ({scaled} - {x} * {C})"
 
 
-# Gappa and Sollya ------------------------------------------------------------------------------------------------------
+# Gappa and Sollya ----------------------------------------------------------------------------------------------------
 
 @lru_cache(maxsize=None)
 def gappa(script):
     """Gappa's intervals for every question of a script, by the text of the expression; None where its assumptions
     contradict one another."""
-    ran = subprocess.run(["gappa", "-Eprecision=200"], input="@rnd = float<ieee_64, ne>;\n" + script, capture_output=True, text=True)
+    script = "@rnd = float<ieee_64, ne>;\n" + script
+    ran = subprocess.run(["gappa", "-Eprecision=200"], input=script, capture_output=True, text=True)
     text = ran.stdout + ran.stderr
     require(ran.returncode == 0 and "no contradiction" not in text, f"Gappa refuses:\n{text}\n{script}")
     if "anything can be proved" in text:
@@ -362,17 +364,18 @@ def gappa_each(scripts):
 
 def sollya(script, count):
     """Sollya's answers to a script that asks for so many numbers."""
-    ran = subprocess.run(["sollya", "--warnonstderr"], input=f"prec = 300!; display = dyadic!; verbosity = 0!;\n{script}quit;\n",
-                         capture_output=True, text=True)
+    script = f"prec = 300!; display = dyadic!; verbosity = 0!;\n{script}quit;\n"
+    ran = subprocess.run(["sollya", "--warnonstderr"], input=script, capture_output=True, text=True)
     lines = ran.stdout.split()
-    require(ran.returncode == 0 and len(lines) == count and all(re.fullmatch(r"-?\d+(b-?\d+)?", line) for line in lines),
+    numbers = all(re.fullmatch(r"-?\d+(b-?\d+)?", line) for line in lines)
+    require(ran.returncode == 0 and len(lines) == count and numbers,
             f"Sollya refuses:\n{ran.stdout}{ran.stderr}\n{script}")
     return [fraction(line) for line in lines]
 
 
 def relative_error(polynomial, function, low, high):
-    """Where polynomial/function - 1 lies for x between two ends. Samples say around which value; the distance from there
-    is a supremum norm that Sollya proves."""
+    """Where polynomial/function - 1 lies for x between two ends. Samples say around which value; the distance from
+    there is a supremum norm that Sollya proves."""
     near, norm = sollya(f"""
 p = canonical({polynomial}); A = {literal(low)}; B = {literal(high)}; e = p / ({function}) - 1;
 low = evaluate(e, B); high = low;
@@ -393,7 +396,8 @@ def report(base, width, bound, where):
 def module_call(base, width, form, lane, *arguments):
     """The module's own result on lanes, NaN being any NaN."""
     words = b"".join(argument.view(f"u{argument.dtype.itemsize}").astype(np.uint64).tobytes() for argument in arguments)
-    ran = subprocess.run([TRACE.replace("tarn-trace", "tarn-call"), f"__ocl_tarn_k1_{base}{width}{form}"], input=words, capture_output=True)
+    caller = os.path.join(os.path.dirname(TRACE), "tarn-call")
+    ran = subprocess.run([caller, f"__ocl_tarn_k1_{base}{width}{form}"], input=words, capture_output=True)
     require(ran.returncode == 0, ran.stderr.decode())
     return lanes.of_patterns(lane, np.frombuffer(ran.stdout, dtype=np.uint64))
 
@@ -402,7 +406,8 @@ def any_lanes(lane, arguments, count=1 << 14):
     """For each argument lanes of all kinds: all exponents alike, around 1, and special ones."""
     random, kind = np.random.default_rng(20), lanes.TYPES[lane]
     word = np.dtype(f"u{np.dtype(kind).itemsize}")
-    special = np.array([0, 1, np.inf, np.nan, np.finfo(kind).max, np.finfo(kind).tiny, np.finfo(kind).smallest_subnormal, 0.5, 2], dtype=kind)
+    info = np.finfo(kind)
+    special = np.array([0, 1, np.inf, np.nan, info.max, info.tiny, info.smallest_subnormal, 0.5, 2], dtype=kind)
     special = np.concatenate([special, -special])
     for _ in range(arguments):
         yield random.permutation(np.concatenate([

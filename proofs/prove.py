@@ -60,7 +60,8 @@ def main():
     for number, name in enumerate(names, 1):
         print(f"[{number}/{len(names)}] {name} ...", end=" ", flush=True)
         begun = time.monotonic()
-        ran = subprocess.run([sys.executable, os.path.join(ROOT, "proofs", name + ".py")], capture_output=True, text=True)
+        script = os.path.join(ROOT, "proofs", name + ".py")
+        ran = subprocess.run([sys.executable, script], capture_output=True, text=True)
         proved = re.findall(r"^proved (\S+) (\d+) ([0-9.]+) (.*)$", ran.stdout, re.M)
         if ran.returncode != 0 or not proved:
             print(f"not proved\n{ran.stdout}{ran.stderr}")
@@ -70,7 +71,8 @@ def main():
         for base in sorted({p[0] for p in proved}):
             bounds = {int(width): float(bound) for b, width, bound, _ in proved if b == base}
             for _, width, bound, where in (p for p in proved if p[0] == base):
-                print(f"  {base}{'' if int(width) == WIDTHS_ALIKE else f' at width {width}'}: at most {bound} ulp ({where})")
+                at = "" if int(width) == WIDTHS_ALIKE else f" at width {width}"
+                print(f"  {base}{at}: at most {bound} ulp ({where})")
             path, text, start, end = row_of(base)
             row = with_bounds(text[start:end], bounds)
             if row == text[start:end]:

@@ -18,7 +18,8 @@ NEXT_TO_ZERO = Fraction(1, 2 ** 48)
 
 
 class Pieces:
-    """r = (((x - m p1) - m p2) - m p3) - m p4, found from r: the steps, the products and the pieces of pi or half of it."""
+    """r = (((x - m p1) - m p2) - m p3) - m p4, found from r: the steps, the products and the pieces of pi or half of
+    it."""
 
     def __init__(self, kernel, r, m, period=PI):
         self.m, self.period = m, period
@@ -66,7 +67,8 @@ x - {product[0]} -> {rest};
         self.exact = answers[first].magnitude == 0 and answers[second].magnitude == 0
         self.slip = answers[lost[3]].magnitude + answers[m_].magnitude * pieces.rest.magnitude
         self.last = answers[m_].magnitude * pieces.pieces[3]
-        self.largest = answers[nearest].magnitude / scale + answers[m_].magnitude * (1 / scale - pieces.period).magnitude
+        self.largest = answers[nearest].magnitude / scale
+        self.largest += answers[m_].magnitude * (1 / scale - pieces.period).magnitude
 
 
 def loss(reductions, roundings):
@@ -88,7 +90,8 @@ def doubles_near(offset, distance, low, limit, period):
     found = []
     for e in range(exponent_of(low), exponent_of(limit) + 1):
         unit = Fraction(2) ** (e - 52)
-        first, last = (max(0, int((Fraction(2) ** power - offset) / period.low) + more) for power, more in ((e, -1), (e + 1, 2)))
+        first = max(0, int((Fraction(2) ** e - offset) / period.low) - 1)
+        last = max(0, int((Fraction(2) ** (e + 1) - offset) / period.low) + 2)
         centers = (offset + m * period.low for m in range(first, last))
         if distance < unit / 4:
             # In 2^64ths of a unit, of which only what is beyond whole units is kept; each product is off by m of these.
@@ -116,8 +119,8 @@ def largest_error(kernel, arguments, function):
 
 
 def one_by_one(kernel, function, period, shift, low, limit, lost, signs=(1,)):
-    """A function of a crossing: the largest error at all arguments from low to the limit with a rest in its strip, which
-    they have next to shift + m period for some m."""
+    """A function of a crossing: the largest error at all arguments from low to the limit with a rest in its strip,
+    which they have next to shift + m period for some m."""
     def largest(crossing):
         begin, end = crossing.strip
         distance = (end - begin) / 2 + lost(begin, end)
@@ -161,8 +164,8 @@ def local_errors(polynomial, pieces):
 
 def slopes_in_square(polynomial, pieces):
     """For each interval of r, the largest slope of the polynomial's quotient by r as a function of r's square."""
-    return sollya(f"d = diff(canonical({polynomial}));\n" + "".join(
-        f"sup(abs(evaluate(d, [{literal(low * low)}; {literal(high * high)}])));\n" for low, high in pieces), len(pieces))
+    questions = (f"sup(abs(evaluate(d, [{literal(low * low)}; {literal(high * high)}])));\n" for low, high in pieces)
+    return sollya(f"d = diff(canonical({polynomial}));\n" + "".join(questions), len(pieces))
 
 
 def binary(value, bits=70):
@@ -172,13 +175,14 @@ def binary(value, bits=70):
 
 
 class Crossing:
-    """The doubles r next to where a function of r crosses a power of two, at some `at`. With an interval of r there, half
-    a unit of the last rounding could be a whole one of the exact result, and both roundings of the reduction at their
-    worst with it; for a double the kernel's result is known."""
+    """The doubles r next to where a function of r crosses a power of two, at some `at`. With an interval of r there,
+    half a unit of the last rounding could be a whole one of the exact result, and both roundings of the reduction at
+    their worst with it; for a double the kernel's result is known."""
 
     def __init__(self, at, function, exponent, increases):
         self.at, self.function = at, function
-        self.units = [Fraction(2) ** (e - 52) for e in ((exponent - 1, exponent) if increases else (exponent, exponent - 1))]
+        below, above = (exponent - 1, exponent) if increases else (exponent, exponent - 1)
+        self.units = Fraction(2) ** (below - 52), Fraction(2) ** (above - 52)
         unit, nearest = ulp(at.low), at.low // ulp(at.low)
         self.doubles = [(nearest + i) * unit for i in range(-32, 33)]
         self.strip = self.doubles[0] - unit / 2, self.doubles[-1] + unit / 2
@@ -219,7 +223,8 @@ def main_bound(kernel, y, rests, lost, largest_rest, one_by_one, from_rest=NEAR_
         questions = [kernel.rounding_question(
             product, dict.fromkeys(rests, "r") | {square: "z"}, "r = rnd(r_);\nz = rnd(r * r);\n",
             f"r in [{literal(low)}, {literal(high)}]") for low, high in pieces]
-        return map(bound_of, pieces, local_errors(polynomial, pieces), slopes_in_square(quotient, pieces), gappa_each(questions))
+        errors, slopes = local_errors(polynomial, pieces), slopes_in_square(quotient, pieces)
+        return map(bound_of, pieces, errors, slopes, gappa_each(questions))
 
     def result(r):
         return kernel.lanes(y, dict.fromkeys(rests, r))
@@ -227,7 +232,8 @@ def main_bound(kernel, y, rests, lost, largest_rest, one_by_one, from_rest=NEAR_
     crossings = [Crossing(enclose(gmpy2.asin, Fraction(2) ** e), sine, e, True) for e in range(-16, 0)]
     crossings = [c for c in crossings if c.strip[0] >= from_rest]
     pieces = less(subdivide(from_rest, binary(largest_rest + Fraction(1, 2 ** 60)), 8), [c.strip for c in crossings])
-    return largest_of(*refined(pieces, bounds_of), [(c, c.bound(result, lost(*c.strip))) for c in crossings], one_by_one)
+    at_crossings = [(c, c.bound(result, lost(*c.strip))) for c in crossings]
+    return largest_of(*refined(pieces, bounds_of), at_crossings, one_by_one)
 
 
 def largest_of(bound, piece, crossings, one_by_one):
@@ -249,9 +255,9 @@ def binades_near_zero():
 
 
 def bound_near_zero(kernel, y, rests, slip_in_units):
-    """For |r| below NEAR_ZERO, where the reduction rounds once, last: what went before are multiples of 2^-52, the third
-    piece's product is one of 2^-68. In ulp of sin R: the rounding of r, the slip, the polynomial, its rounding. Half a
-    unit of r or of y is a whole one of sin R across a power of two."""
+    """For |r| below NEAR_ZERO, where the reduction rounds once, last: what went before are multiples of 2^-52, the
+    third piece's product is one of 2^-68. In ulp of sin R: the rounding of r, the slip, the polynomial, its rounding.
+    Half a unit of r or of y is a whole one of sin R across a power of two."""
     binades = binades_near_zero()
     questions = [kernel.rounding_question(y, dict.fromkeys(rests, "r"), "r = rnd(r_);\n",
                                           f"r in [{literal(low)}, {literal(high)}]") for low, high in binades]

@@ -57,7 +57,8 @@ def convergent(depth):
 
 
 def quotient_errors(pieces):
-    """For each interval of r, how far P/Q is from tan r / r, as a part: of P B - Q A, a polynomial, Sollya has the norm."""
+    """For each interval of r, how far P/Q is from tan r / r, as a part: of P B - Q A, a polynomial, Sollya has the
+    norm."""
     A, B, part = convergent(12)
     names = {square: "x", r: "1"}
     text = [" + ".join(f"({c.numerator}) * x^{power}" for power, c in enumerate(p)) for p in (A, B)]
@@ -72,8 +73,8 @@ def quotient_errors(pieces):
 
 
 def rounding_errors(pieces):
-    """For each interval of r, parts of r P/Q that its roundings are, but for the division's: those of the numerator, the
-    denominator and, through both, of r's square."""
+    """For each interval of r, parts of r P/Q that its roundings are, but for the division's: those of the numerator,
+    the denominator and, through both, of r's square."""
     answers = gappa_each([kernel.rounding_question(target, {r: "r", square: "z"}, "r = rnd(r_);\nz = rnd(r * r);\n",
                                                    f"r in [{literal(low)}, {literal(high)}]")
                           for low, high in pieces for target in (numerator, denominator)])

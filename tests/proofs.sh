@@ -8,8 +8,9 @@ python=/usr/bin/python3
 for program in gappa sollya; do
     command -v $program >/dev/null || { echo "skipped: $program is missing"; exit 77; }
 done
-for module in gmpy2 numpy ${family:-pytest}; do
-    [ "$module" = "$family" ] || $python -c "import $module" 2>/dev/null || { echo "skipped: $python has no $module"; exit 77; }
+modules=(gmpy2 numpy); [ -n "$family" ] || modules+=(pytest)
+for module in "${modules[@]}"; do
+    $python -c "import $module" 2>/dev/null || { echo "skipped: $python has no $module"; exit 77; }
 done
 [ -z "$family" ] || exec $python "$source/proofs/prove.py" --check "$family"
 exec $python -m pytest -q -p no:cacheprovider "$source/tests/proofs"
