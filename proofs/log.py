@@ -85,6 +85,7 @@ def bound_for(rests):
         absolute[integer] = max(absolute.get(integer, Fraction(0)), total)
         value = abs(part + row_value)
         largest = max(largest, (total / ulp(value.low), f"k = 0, R = {integer}, |ln x| from {float(value.low):.7f}"))
+    any_row = max(absolute.values())
     # Away from k = 0: the product as it is rounded, the last sum.
     for k in [k for k in range(-1075, 1025) if k != 0]:
         off = (Fraction(float(k * ln2)) - k * LN2).magnitude
@@ -94,7 +95,7 @@ def bound_for(rests):
             else:
                 # Any row: T + ln(1 + r) is below 0.35.
                 value = abs(k * LN2) + Interval(Fraction(-35, 100), Fraction(35, 100))
-                error = max(absolute.values()) + off
+                error = any_row + off
             where = f"k = {k}" if abs(k) >= 16 else f"k = {k}, R = {integer}"
             largest = max(largest, (in_units(value, error), where))
     return largest

@@ -32,6 +32,7 @@ class Rows:
         given = {R: integers.astype(np.float32)}
         require(list(kernel.lanes(row, given)) == list(range(513)), "a row for each R")
         self.lower_half = dict(zip(integers.tolist(), (kernel.lanes(upper, given) == 0).tolist()))
+        self.values = {i: enclose(gmpy2.log, Fraction(self.whole(i), i)) for i in self}
 
     def __iter__(self):
         return iter(self.lower_half)
@@ -64,7 +65,7 @@ class Rows:
             require(bool((kernel.lanes(k, given) == expected).all()), f"k with R = {integer}")
 
     def true(self, integer):
-        return enclose(gmpy2.log, Fraction(self.whole(integer), integer))
+        return self.values[integer]
 
 
 def for_any_estimate(integer):
