@@ -18,5 +18,6 @@ int comments(const char* file);
 int contract(const char* file);
 int mapping(const char* file);
 int conventions(const char* file);
+int speed(const char* file);
 
 }  // namespace tarn
