@@ -407,7 +407,17 @@ private:
         return (k + 0.5 * static_cast<double>(random() & 1) + either_sign(random, std::exp2(-60 * unit(random)))) * step;
     }
 
+    // What lies outside of what is searched is drawn anew from within, by the pattern or by the value.
     std::uint64_t draw(std::size_t a, Random& random) {
+        const Lane type = shape_.args[a];
+        const Range& range = target_.ranges[a];
+        const std::uint64_t pattern = draw_anywhere(a, random);
+        if (!is_float(type) || range.has(order_of(type, pattern))) return pattern;
+        const double low = value_of(type, ordered(type, range.low)), high = value_of(type, ordered(type, range.high));
+        if (random() & 1 && std::isfinite(high - low)) return pattern_of(type, low + unit(random) * (high - low));
+        return ordered(type, range.low + (range.high - range.low == ~0ull ? random() : below(random, range.high - range.low + 1)));
+    }
+    std::uint64_t draw_anywhere(std::size_t a, Random& random) {
         const Lane type = shape_.args[a];
         if (!is_float(type)) {
             const std::uint64_t n = any_size(random, 31);
