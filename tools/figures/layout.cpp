@@ -82,7 +82,7 @@ std::string peers_figure(const Times& times) {
 }
 
 std::string group_figure(const Times& times, const std::string& group) {
-    constexpr std::size_t most = 22;  // rows of a panel
+    constexpr std::size_t most = 26;  // rows of a panel
     std::string text;
     for (const Lane type : {Lane::f32, Lane::f64}) {
         std::vector<std::string> names;
