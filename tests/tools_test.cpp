@@ -66,7 +66,9 @@ TEST(Tools, RefuseBadInputInOneLine) {
         "tarn-ulp expf4 --all --plot /nowhere/x.svg", "PATH=/nowhere tarn-ulp expf4 --all --plot x.svg", "tarn-ulp expf4 --all --samples 10",
         "tarn-ulp powf4 --all", "tarn-ulp exp4 --search 1 --samples 10", "tarn-ulp exp4 --search 1 --log x", "tarn-ulp exp4 --search 0",
         "tarn-ulp exp4 --csv --json", "tarn-bench nothing", "tarn-bench expf --rounds 0", "tarn-bench expf --v3 /nowhere.so",
-        "tarn-bench expf --json --markdown", "tarn-bench expf --arrays --json", "tarn-bench expf --elements 17", "tarn-tables /nowhere"};
+        "tarn-bench expf --elements 17", "tarn-figures", "tarn-figures peers", "tarn-figures peers /nowhere",
+        "tarn-figures differences /nowhere /nowhere", "tarn-figures group " TARN_SOURCE_DIR "/docs/data/speed.tsv Nothing",
+        "tarn-exports speed /nowhere/page", "tarn-tables /nowhere"};
     for (const auto& command : commands) {
         const Ran ran = run(command + " 2>&1 >/dev/null");
         EXPECT_EQ(ran.status, 2) << command;

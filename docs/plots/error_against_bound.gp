@@ -20,7 +20,7 @@ do for [p = 0:1] {
          '' index 1 using (column(c + 1) > most ? most - 0.06 : NaN):1:(sprintf('%.1f ▸', column(c + 1))) with labels right notitle, \
          '' index 1 using (column(c) == 1 ? 0.97 : NaN):1:('correctly rounded') with labels right textcolor rgb '#555555' notitle, \
          '' index 1 using (column(c + 2) + 0.05):1:(sprintf('%.3f', column(c + 2))) with labels left textcolor rgb '#b04000' notitle, \
-         '' index 0 using (p ? NaN : 0):1:(sprintf('{/:Bold %s}', strcol(2))) with labels left offset screen -left(0) + 0.005, 0 notitle, \
-         '' index 1 using (p ? NaN : 0):1:2 with labels right offset -0.6, 0 notitle
+         for [i = p:0] '' index 0 using (0):1:(sprintf('{/:Bold %s}', strcol(2))) with labels left offset screen -left(0) + 0.005, 0 notitle, \
+         for [i = p:0] '' index 1 using (0):1:2 with labels right offset -0.6, 0 notitle
 }
 unset multiplot

@@ -17,7 +17,7 @@ do for [p = 0:1] {
          '' index 1 using c:1 with points lt 1 pt 7 ps 0.7 title 'plain, best 128-bit peer', \
          '' index 1 using c + 1:1 with points lt 2 pt 9 ps 0.9 title 'v3, best 256-bit peer', \
          '' index 1 using c + 2:1 with points lt 8 pt 12 ps 1.0 lw 1.5 title 'v3 on arrays, the same', \
-         '' index 0 using (p ? NaN : least):1:(sprintf('{/:Bold %s}', strcol(2))) with labels left offset screen -left(0) + 0.005, 0 notitle, \
-         '' index 1 using (p ? NaN : least):1:2 with labels right offset -0.6, 0 notitle
+         for [i = p:0] '' index 0 using (least):1:(sprintf('{/:Bold %s}', strcol(2))) with labels left offset screen -left(0) + 0.005, 0 notitle, \
+         for [i = p:0] '' index 1 using (least):1:2 with labels right offset -0.6, 0 notitle
 }
 unset multiplot
