@@ -367,13 +367,14 @@ TEST(LibraryFile, KeepsLevelsApart) {
         if (line.find("x86-64-v3") != std::string::npos) GTEST_SKIP() << "is all of one level";
     struct Code {
         std::string name;
-        bool avx = false;
+        bool avx = false, sse = false;
         std::set<std::string> leads_to;
     };
     // By address: local names of several translation units are alike.
     std::map<std::string, Code> functions;
     Code* inside = nullptr;
-    const std::regex start("^0*([0-9a-f]+) <(.*)>:$"), vex("^\\s+[0-9a-f]+:\\s+v[a-z]"), jump("(?:call|j[a-z]+)\\s+([0-9a-f]+) <");
+    const std::regex start("^0*([0-9a-f]+) <(.*)>:$"), vex("^\\s+[0-9a-f]+:\\s+v[a-z]"),
+        jump("(?:call|j[a-z]+)\\s+([0-9a-f]+) <");
     for (const auto& line : output("objdump -d --no-show-raw-insn " + path)) {
         std::smatch found;
         if (std::regex_match(line, found, start)) {
@@ -382,9 +383,18 @@ TEST(LibraryFile, KeepsLevelsApart) {
             // One that only jumps on has no instruction of AVX.
             inside->avx = inside->name.starts_with("_ZGVc") || inside->name.starts_with("_ZGVd");
         } else if (inside) {
-            inside->avx |= std::regex_search(line, vex);
+            const bool is_vex = std::regex_search(line, vex);
+            inside->avx |= is_vex, inside->sse |= !is_vex && line.find("%xmm") != std::string::npos;
             if (std::regex_search(line, found, jump)) inside->leads_to.insert(found[1]);
         }
+    }
+    // What has no vector instruction of its own is of the level of what it calls.
+    for (bool more = true; more;) {
+        more = false;
+        for (auto& [address, code] : functions)
+            for (const auto& to : code.leads_to)
+                if (const auto target = functions.find(to); target != functions.end() && target->second.avx && !code.avx && !code.sse)
+                    more = code.avx = true;
     }
     int plain = 0, wide = 0;
     for (const auto& [address, code] : functions) {
