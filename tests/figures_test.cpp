@@ -30,7 +30,7 @@ TEST(TimesInTheTree, AreComplete) {
             for (const char* build : builds) {
                 const TimedRow *call = times.find("call", row, build), *array = times.find("array", row, build);
                 ASSERT_TRUE(call && array) << row << ' ' << build;
-                for (const int width : widths) EXPECT_TRUE(std::isfinite(call->at('w' + std::to_string(width)))) << row << ' ' << build << ' ' << width;
+                for (const int width : widths) EXPECT_TRUE(std::isfinite(call->at(timed(width)))) << row << ' ' << build << ' ' << width;
                 for (const char* what : {"w16", "array", "copy", "few/call"}) EXPECT_TRUE(std::isfinite(array->at(what))) << row << ' ' << build << ' ' << what;
             }
         }

@@ -254,7 +254,7 @@ int main(int argc, char** argv) {
                     for (std::size_t i = 0; i < modules.size(); i++) {
                         const auto& [level, m] = modules[i];
                         if (arrays) add_arrays(*f, v, *level, *m, libraries[i], row, b, entrants);
-                        else for (const int w : widths) entrants.push_back({row, level->key, 'w' + std::to_string(w), ours(*m->find({f, w, v})), b});
+                        else for (const int w : widths) entrants.push_back({row, level->key, timed(w), ours(*m->find({f, w, v})), b});
                         add_peers(*f, *level, row, b, entrants);
                     }
                 }

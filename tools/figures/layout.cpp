@@ -5,14 +5,10 @@
 #include <functional>
 
 #include "exports/opencl.hpp"
+#include "exports/text.hpp"
 
 namespace tarn {
 namespace {
-
-// The base that a family's two precisions share.
-std::string shared_base(const Family& f) {
-    return precision(f) == Lane::f32 && f.base.ends_with('f') && f.group != "Conversions" ? f.base.substr(0, f.base.size() - 1) : f.base;
-}
 
 std::string line(const std::vector<std::string>& cells) {
     std::string text;
@@ -28,7 +24,7 @@ std::string overview(std::size_t count, const std::function<Values(const Family&
     int y = 0;
     std::vector<std::string> done;
     for (const Family& first : families()) {
-        const std::string base = shared_base(first);
+        const std::string base = name_of_both(first);
         if (std::find(done.begin(), done.end(), base) != done.end()) continue;
         done.push_back(base);
         Values values;
@@ -36,7 +32,7 @@ std::string overview(std::size_t count, const std::function<Values(const Family&
         for (const Lane type : {Lane::f32, Lane::f64}) {
             Values of(count, INFINITY);
             for (const Family& f : families())
-                if (f.group == first.group && precision(f) == type && shared_base(f) == base) of = values_of(f);
+                if (f.group == first.group && precision(f) == type && name_of_both(f) == base) of = values_of(f);
             for (const double v : of) any |= std::isfinite(v);
             values.insert(values.end(), of.begin(), of.end());
         }
@@ -102,7 +98,7 @@ std::string group_figure(const Times& times, const std::string& group) {
                 rows += line({std::to_string(slot), names[i], decimals(time("array", "plain").at("array"), 3), decimals(time("array", "v3").at("array"), 3)});
                 double x = slot - 0.42;
                 for (const int width : widths) {
-                    const std::string what = 'w' + std::to_string(width);
+                    const std::string what = timed(width);
                     calls += line({decimals(x += 0.1, 2), decimals(plain.at(what), 3), decimals(v3.at(what), 3)});
                 }
                 for (const double side : {-0.42, 0.42})

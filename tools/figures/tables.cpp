@@ -117,12 +117,12 @@ std::string item(const std::string& text) {
 
 std::string calls_text(const std::vector<TimedRow>& rows) {
     std::string text = "nanoseconds an element; ratio: the best peer's time over ours at our best width\n" + left("", 22);
-    for (const int w : widths) text += right('w' + std::to_string(w), 8);
+    for (const int w : widths) text += right(timed(w), 8);
     for (const auto& peer : peers_of_calls) text += right(peer, 11);
     text += right("ratio", 8) + '\n';
     for (const TimedRow& row : rows) {
         text += left(row.build == "plain" ? row.name : "  " + v3_name, 22);
-        for (const int w : widths) text += right(decimals(row.at('w' + std::to_string(w)), 3), 8);
+        for (const int w : widths) text += right(decimals(row.at(timed(w)), 3), 8);
         for (const auto& peer : peers_of_calls) text += right(decimals(row.at(peer), 3), 11);
         text += right(decimals(row.ahead(), 2), 8) + '\n';
     }

@@ -25,7 +25,7 @@ bool is_one_of(const std::string& text, const std::vector<std::string>& all) {
 // What of a kind can have been timed.
 bool is_known(const std::string& kind, const std::string& what) {
     for (const int width : widths)
-        if (what == "w" + std::to_string(width)) return kind == "call" || width == 16;
+        if (what == timed(width)) return kind == "call" || width == 16;
     return is_one_of(what, peers) || (kind != "call" && is_one_of(what, {"array", "copy", "few/call"}));
 }
 
@@ -36,6 +36,12 @@ const Family* family_of(const std::string& row) {
     for (const Variant v : {Variant::native, Variant::half})
         if (base.ends_with(suffix(v))) base.resize(base.size() - std::string(suffix(v)).size());
     return find_family(base);
+}
+
+std::string timed(int width) {
+    std::string what = "w";
+    what += std::to_string(width);
+    return what;
 }
 
 std::string slug(const std::string& group) {
@@ -66,7 +72,7 @@ double TimedRow::at(const std::string& what) const {
 double TimedRow::best() const {
     if (times.contains("array")) return at("array");
     double least = none;
-    for (const int width : widths) least = std::min(least, at("w" + std::to_string(width)));
+    for (const int width : widths) least = std::min(least, at(timed(width)));
     return least;
 }
 std::pair<std::string, double> TimedRow::best_peer() const {

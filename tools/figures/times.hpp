@@ -50,6 +50,8 @@ inline constexpr const char* builds[] = {"plain", "v3"};
 const Family* family_of(const std::string& row);
 // A group as a part of a file's name.
 std::string slug(const std::string& group);
+// What calls of a width are called.
+std::string timed(int width);
 // "-" for what is infinite.
 std::string decimals(double v, int digits);
 
