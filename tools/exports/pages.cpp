@@ -1,0 +1,1 @@
+#include "exports/outputs.hpp"

@@ -1,0 +1,169 @@
+#include "exports/profiles.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <fstream>
+#include <limits>
+#include <sstream>
+#include <stdexcept>
+
+#include "exports/outputs.hpp"
+#include "exports/text.hpp"
+
+namespace tarn {
+namespace {
+
+std::vector<std::string> columns_of(const std::string& line) {
+    std::vector<std::string> columns(1);
+    for (const char c : line) c == '\t' ? columns.emplace_back() : columns.back() += c, void();
+    return columns;
+}
+
+[[noreturn]] void refuse(const std::string& path, const std::string& why) { throw std::runtime_error(path + ": " + why); }
+
+// Where a profile's picture has an argument: by value, or by binades to either side of zero, which has a place of its own.
+class Layout {
+public:
+    explicit Layout(const Family& f) : axis_(f.axis) {
+        const bool single = f.shape.args[0] == Lane::f32;
+        if (axis_.scale == Scale::linear) {
+            beyond_ = (axis_.high - axis_.low) / 48;
+            return;
+        }
+        low_ = std::log2(axis_.low != 0 ? axis_.low : single ? 0x1p-126 : 0x1p-1022);
+        high_ = axis_.high != 0 ? std::log2(axis_.high) : single ? 128 : 1024;
+        gap_ = (high_ - low_) / 24;
+        beyond_ = axis_.high != 0 ? gap_ : 0;
+    }
+
+    double place(double x) const {
+        if (axis_.scale == Scale::linear) return std::isfinite(x) ? x : x < 0 ? axis_.low - beyond_ : axis_.high + beyond_;
+        if (x == 0) return 0;
+        const double far = std::isfinite(x) ? std::log2(std::fabs(x)) : high_ + beyond_;
+        return std::copysign(far - low_ + gap_, x);
+    }
+
+    // Zero and powers of ten, a dozen of them; gnuplot's own marks by value.
+    std::string marks(double least, double most) const {
+        if (axis_.scale == Scale::linear) return "";
+        const double decades = (high_ - low_) * std::log10(2) * (least < 0 && most > 0 ? 2 : 1);
+        int step = 1;
+        for (const int wider : {2, 3, 5, 10, 20, 50, 100})
+            if (decades / step > 12) step = wider;
+        std::string text = "set xtics ('0' 0";
+        const auto from = static_cast<int>(std::ceil(low_ * std::log10(2) / step)) * step;
+        for (int k = from; k <= high_ * std::log10(2); k += step)
+            for (const double v : {std::pow(10, k), -std::pow(10, k)}) {
+                char mark[80];
+                const char* sign = v < 0 ? "-" : "";
+                if (std::abs(k) > 1) std::snprintf(mark, sizeof mark, ", '%s10^{%d}' %.6g", sign, k, place(v));
+                else std::snprintf(mark, sizeof mark, ", '%s%g' %.6g", sign, std::fabs(v), place(v));
+                if (place(v) >= least && place(v) <= most) text += mark;
+            }
+        return text + ")\n";
+    }
+
+    const char* label() const { return axis_.scale == Scale::linear ? "" : ", logarithmic to either side of 0"; }
+
+private:
+    Axis axis_;
+    double low_ = 0, high_ = 0, gap_ = 0, beyond_ = 0;
+};
+
+std::string label(const BinError& bin) {
+    const Family& f = *bin.kernel.family;
+    const int width = bin.kernel.width;
+    const bool own = std::any_of(f.width_full.begin(), f.width_full.end(), [&](const auto& w) { return w.first == width; });
+    std::string text = bin.kernel.variant != Variant::full ? suffix(bin.kernel.variant) + 1 : "full";
+    if (bin.kernel.variant == Variant::full && own) text += ", width " + std::to_string(width);
+    if (bin.kernel.variant == Variant::native && f.has(Variant::half) && f.half_worst.ulp == 0) text += " and half";
+    if (f.shape.second == f.shape.result) text += bin.result == 1 ? ", sine" : ", cosine";
+    return text;
+}
+
+}  // namespace
+
+ErrorProfile read_profile(const std::string& path) {
+    std::ifstream in(path);
+    if (!in) refuse(path, "cannot be read");
+    ErrorProfile profile;
+    std::string line;
+    bool headed = false;
+    while (std::getline(in, line)) {
+        if (line.starts_with('#')) {
+            profile.how = line.substr(line.find_first_not_of("# "));
+            continue;
+        }
+        const auto columns = columns_of(line);
+        if (columns.size() != 7) refuse(path, "not a profile: '" + line + "'");
+        if (!headed) {
+            headed = true;
+            continue;
+        }
+        BinError bin{};
+        if (!parse_export(columns[0], bin.kernel)) refuse(path, "no export is called '" + columns[0] + "'");
+        bin.result = columns[1] == "2" ? 2 : 1;
+        bin.from = std::strtod(columns[2].c_str(), nullptr), bin.to = std::strtod(columns[3].c_str(), nullptr);
+        bin.ulp = std::strtod(columns[4].c_str(), nullptr);
+        bin.found = !columns[5].empty(), bin.wrong = columns[6];
+        profile.bins.push_back(bin);
+    }
+    if (profile.bins.empty()) refuse(path, "a profile without a bin");
+    return profile;
+}
+
+std::string time_key(const std::string& kind, const std::string& row, const std::string& build, const std::string& what) {
+    return kind + '\t' + row + '\t' + build + '\t' + what;
+}
+
+Times read_times(const std::string& path) {
+    std::ifstream in(path);
+    Times times;
+    std::string line;
+    for (std::getline(in, line); std::getline(in, line);) {
+        if (line.starts_with('#')) continue;
+        const auto columns = columns_of(line);
+        if (columns.size() != 5) refuse(path, "no line of times: '" + line + "'");
+        times[time_key(columns[0], columns[1], columns[2], columns[3])] = columns[4];
+    }
+    return times;
+}
+
+int profile_plot(const char* file) try {
+    const ErrorProfile profile = read_profile(file);
+    const Family& f = *profile.bins[0].kernel.family;
+    const Layout axis(f);
+    std::string names, data, last;
+    int count = 0;
+    double least = std::numeric_limits<double>::infinity(), most = -least, largest = 0, end = 0;
+    for (const BinError& bin : profile.bins) {
+        const std::string name = label(bin);
+        if (name != last) {
+            if (count++) data += "\n\n";
+            names += " \"" + name + '"', last = name;
+        } else if (bin.from != end) {
+            data += '\n';  // no line across bins without an error
+        }
+        end = bin.to;
+        least = std::min(least, axis.place(bin.from)), most = std::max(most, axis.place(bin.to));
+        if (!bin.found) continue;
+        largest = std::max(largest, bin.ulp);
+        char text[64];
+        std::snprintf(text, sizeof text, "%.6g %.4g\n", (axis.place(bin.from) + axis.place(bin.to)) / 2, bin.ulp);
+        data += text;
+    }
+    const double allowed = std::max(f.allowed, 0.0);
+    const bool loglike = largest > 20 || allowed > 6 * f.full.ulp;
+    const double above = std::max({largest, allowed, f.proved});
+    const bool several = f.shape.args.size() > 1;
+    std::printf("$data << EOD\n%sEOD\ncount = %d\nnames = '%s'\n", data.c_str(), count, names.c_str());
+    std::printf("set title '%s(%s) = %s' noenhanced\n", f.base.c_str(), several ? "x, y" : "x", f.formula.c_str());
+    std::printf("label_of_x = '%s%s'\nleast = %.6g\nmost = %.6g\n%s", several ? "the first argument" : "x", axis.label(), least, most, axis.marks(least, most).c_str());
+    std::printf("loglike = %d\ntop = %.4g\nallowed = %g\nproved = %.5g\n", loglike, loglike ? 3 * above : 1.1 * above, allowed, f.proved);
+    return 0;
+} catch (const std::exception& error) {
+    return std::fprintf(stderr, "tarn-exports: %s\n", error.what()), 2;
+}
+
+}  // namespace tarn
