@@ -184,7 +184,7 @@ TEST(Generated, FilesFollowTheTable) {
     const std::map<std::string, std::string> files = {
         {"header", "include/ocl_tarn_k1.h"}, {"map", "src/families/exports.map"}, {"accuracy", "docs/accuracy.md"},
         {"windows-header", "include/ocl_tarn_k1_windows.h"}, {"windows-exports", "src/families/exports.def"},
-        {"windows-imports", "src/families/imports.def"}, {"abi", "docs/abi.md"}, {"contract", "docs/contract.md"},
+        {"windows-imports", "src/families/imports.def"}, {"abi", "docs/abi.md"}, {"contract", "docs/contract.md"}, {"speed", "docs/speed.md"},
         {"opencl", "include/ocl_tarn_k1.cl.h"}, {"mapping", "docs/opencl.md"}, {"arrays", "include/tarn.h"},
         {"simd-header", "include/tarn_simd.h"}, {"loops", "src/arrays/loops.inc"}, {"tarn-map", "src/families/tarn.map"}};
     for (const auto& [what, file] : files) {
@@ -192,7 +192,7 @@ TEST(Generated, FilesFollowTheTable) {
         std::ifstream in(path);
         const std::string present{std::istreambuf_iterator<char>(in), {}};
         // Those that keep what is not generated in them read themselves.
-        const std::string of = what == "abi" || what == "contract" || what == "mapping" ? " \"" + path + '"' : "";
+        const std::string of = what == "abi" || what == "contract" || what == "mapping" || what == "speed" ? " \"" + path + '"' : "";
         EXPECT_EQ(present == text(output('"' + std::string(TARN_EXPORTS) + "\" " + what + of)), true) << file << ": run scripts/generate";
     }
 }

@@ -82,6 +82,16 @@ std::string label(const BinError& bin) {
     return text;
 }
 
+// A line of the pictures' style for each kind of kernel, the same in all pictures.
+int style(const BinError& bin, int own_width) {
+    const bool second = bin.result == 2;
+    switch (bin.kernel.variant) {
+        case Variant::full: return own_width > 0 ? 2 + own_width : second ? 6 : 1;
+        case Variant::native: return second ? 5 : 2;
+        default: return 4;
+    }
+}
+
 }  // namespace
 
 ErrorProfile read_profile(const std::string& path) {
@@ -113,35 +123,26 @@ ErrorProfile read_profile(const std::string& path) {
     return profile;
 }
 
-std::string time_key(const std::string& kind, const std::string& row, const std::string& build, const std::string& what) {
-    return kind + '\t' + row + '\t' + build + '\t' + what;
-}
-
-Times read_times(const std::string& path) {
-    std::ifstream in(path);
-    Times times;
-    std::string line;
-    for (std::getline(in, line); std::getline(in, line);) {
-        if (line.starts_with('#')) continue;
-        const auto columns = columns_of(line);
-        if (columns.size() != 5) refuse(path, "no line of times: '" + line + "'");
-        times[time_key(columns[0], columns[1], columns[2], columns[3])] = columns[4];
-    }
-    return times;
-}
-
 int profile_plot(const char* file) try {
-    const ErrorProfile profile = read_profile(file);
+    ErrorProfile profile = read_profile(file);
+    // The full form of most widths first.
+    std::stable_sort(profile.bins.begin(), profile.bins.end(), [](const BinError& a, const BinError& b) {
+        const auto rank = [](const BinError& bin) { return bin.kernel.variant != Variant::full ? 2 : bin.kernel.width != 16; };
+        return rank(a) < rank(b);
+    });
     const Family& f = *profile.bins[0].kernel.family;
     const Layout axis(f);
-    std::string names, data, last;
-    int count = 0;
+    std::string names, styles, data, last;
+    int count = 0, own_widths = 0;
     double least = std::numeric_limits<double>::infinity(), most = -least, largest = 0, end = 0;
     for (const BinError& bin : profile.bins) {
         const std::string name = label(bin);
         if (name != last) {
             if (count++) data += "\n\n";
+            const bool own = bin.kernel.variant == Variant::full && bin.kernel.width != 16;
+            own_widths += own;
             names += " \"" + name + '"', last = name;
+            styles += ' ' + std::to_string(style(bin, own ? own_widths : 0));
         } else if (bin.from != end) {
             data += '\n';  // no line across bins without an error
         }
@@ -157,8 +158,8 @@ int profile_plot(const char* file) try {
     const bool loglike = largest > 20 || allowed > 6 * f.full.ulp;
     const double above = std::max({largest, allowed, f.proved});
     const bool several = f.shape.args.size() > 1;
-    std::printf("$data << EOD\n%sEOD\ncount = %d\nnames = '%s'\n", data.c_str(), count, names.c_str());
-    std::printf("set title '%s(%s) = %s' noenhanced\n", f.base.c_str(), several ? "x, y" : "x", f.formula.c_str());
+    std::printf("$data << EOD\n%sEOD\ncount = %d\nnames = '%s'\nstyles = '%s'\n", data.c_str(), count, names.c_str(), styles.c_str());
+    std::printf("title_of_plot = '%s(%s) = %s'\n", f.base.c_str(), several ? "x, y" : "x", f.formula.c_str());
     std::printf("label_of_x = '%s%s'\nleast = %.6g\nmost = %.6g\n%s", several ? "the first argument" : "x", axis.label(), least, most, axis.marks(least, most).c_str());
     std::printf("loglike = %d\ntop = %.4g\nallowed = %g\nproved = %.5g\n", loglike, loglike ? 3 * above : 1.1 * above, allowed, f.proved);
     return 0;

@@ -1,7 +1,6 @@
-// What docs/data holds, as the pages show it: profiles of errors by tarn-ulp --profile, times by tarn-bench.
+// Profiles of errors as tarn-ulp --profile writes them.
 #pragma once
 
-#include <map>
 #include <string>
 #include <vector>
 
@@ -23,10 +22,5 @@ struct ErrorProfile {
 };
 // Throws what is wrong with the file in a line.
 ErrorProfile read_profile(const std::string& path);
-
-// Nanoseconds by kind (call, array), row, build and what was timed. No file is no times.
-using Times = std::map<std::string, std::string>;
-std::string time_key(const std::string& kind, const std::string& row, const std::string& build, const std::string& what);
-Times read_times(const std::string& path);
 
 }  // namespace tarn
