@@ -12,7 +12,7 @@ if (loglike) {
     set logscale y
     set yrange [0.1:top]
     set format y '10^{%T}'
-    set ytics add ('≤ 0.1' 0.1, '1' 1, '10' 10, '100' 100, '1000' 1000)
+    set ytics add ('< 0.1' 0.1, '1' 1, '10' 10, '100' 100, '1000' 1000)
 } else {
     set yrange [0:top]
 }
