@@ -44,27 +44,34 @@ public:
         return std::copysign(far - low_ + gap_, x);
     }
 
-    // Zero and powers of ten, a dozen of them; gnuplot's own marks by value.
+    // Zero and powers of ten; gnuplot's own marks by value.
     std::string marks(double least, double most) const {
         if (axis_.scale == Scale::linear) return "";
-        const double decades = (high_ - low_) * std::log10(2) * (least < 0 && most > 0 ? 2 : 1);
+        std::string text = "set xtics ('0' 0";
+        // As many as have room; from the ends inwards, where powers of ten are told apart.
+        std::vector<double> marked = {0};
+        const double apart = 0.065 * (most - least);
+        const double decades = (most - least) * std::log10(2);
         int step = 1;
         for (const int wider : {2, 3, 5, 10, 20, 50, 100})
             if (decades / step > 12) step = wider;
-        std::string text = "set xtics ('0' 0";
-        const auto from = static_cast<int>(std::ceil(low_ * std::log10(2) / step)) * step;
-        for (int k = from; k <= high_ * std::log10(2); k += step)
+        for (int k = static_cast<int>(high_ * std::log10(2)) / step * step; k >= low_ * std::log10(2); k -= step)
             for (const double v : {std::pow(10, k), -std::pow(10, k)}) {
+                const double at = place(v);
+                if (at < least || at > most || std::any_of(marked.begin(), marked.end(), [&](double m) { return std::fabs(m - at) < apart; })) continue;
+                marked.push_back(at);
                 char mark[80];
                 const char* sign = v < 0 ? "-" : "";
-                if (std::abs(k) > 1) std::snprintf(mark, sizeof mark, ", '%s10^{%d}' %.6g", sign, k, place(v));
-                else std::snprintf(mark, sizeof mark, ", '%s%g' %.6g", sign, std::fabs(v), place(v));
-                if (place(v) >= least && place(v) <= most) text += mark;
+                if (std::abs(k) > 1) std::snprintf(mark, sizeof mark, ", '%s10^{%d}' %.6g", sign, k, at);
+                else std::snprintf(mark, sizeof mark, ", '%s%g' %.6g", sign, std::fabs(v), at);
+                text += mark;
             }
         return text + ")\n";
     }
 
-    const char* label() const { return axis_.scale == Scale::linear ? "" : ", logarithmic to either side of 0"; }
+    const char* label(double least, double most) const {
+        return axis_.scale == Scale::linear ? "" : least < 0 && most > 0 ? ", logarithmic to either side of 0" : ", logarithmic";
+    }
 
 private:
     Axis axis_;
@@ -159,8 +166,8 @@ int profile_plot(const char* file) try {
     const double above = std::max({largest, allowed, f.proved});
     const bool several = f.shape.args.size() > 1;
     std::printf("$data << EOD\n%sEOD\ncount = %d\nnames = '%s'\nstyles = '%s'\n", data.c_str(), count, names.c_str(), styles.c_str());
-    std::printf("title_of_plot = '%s(%s) = %s'\n", f.base.c_str(), several ? "x, y" : "x", f.formula.c_str());
-    std::printf("label_of_x = '%s%s'\nleast = %.6g\nmost = %.6g\n%s", several ? "the first argument" : "x", axis.label(), least, most, axis.marks(least, most).c_str());
+    std::printf("title_of_plot = '%s: %s'\n", f.base.c_str(), f.formula.c_str());
+    std::printf("label_of_x = '%s%s'\nleast = %.6g\nmost = %.6g\n%s", several ? "the first argument" : "x", axis.label(least, most), least, most, axis.marks(least, most).c_str());
     std::printf("loglike = %d\ntop = %.4g\nallowed = %g\nproved = %.5g\n", loglike, loglike ? 3 * above : 1.1 * above, allowed, f.proved);
     return 0;
 } catch (const std::exception& error) {

@@ -41,7 +41,9 @@ std::vector<double> edges_of(const Family& family) {
         edges.push_back(0);
         edges.insert(edges.end(), side.begin(), side.end());
     }
-    edges.push_back(infinity);
+    // Binades may reach the ends already.
+    if (edges.back() != infinity) edges.push_back(infinity);
+    if (edges[1] == -infinity) edges.erase(edges.begin());
     return edges;
 }
 
