@@ -16,9 +16,6 @@ namespace {
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
 
-// Loops for the vectors of the processor at hand.
-#define VECTORISED __attribute__((target_clones("avx512f", "avx2", "default")))
-
 // What the double form may be off, and rounding here, in units of single precision, with room.
 constexpr double slack = 1e-6;
 
@@ -47,8 +44,9 @@ std::vector<double> edges_of(const Family& family) {
     return edges;
 }
 
-// Consecutive inputs of the order, and the same in double.
-VECTORISED void consecutive(std::uint64_t low, std::uint32_t* narrow, double* wide, std::size_t n) {
+// What follows are loops for the vectors of the processor at hand. Consecutive inputs of the order, and the same in double.
+[[gnu::target_clones("avx512f", "avx2", "default")]]
+void consecutive(std::uint64_t low, std::uint32_t* narrow, double* wide, std::size_t n) {
     for (std::size_t i = 0; i < n; i++) {
         const std::uint32_t order = static_cast<std::uint32_t>(low) + static_cast<std::uint32_t>(i);
         narrow[i] = order ^ (order >> 31 ? 0x80000000 : 0xffffffff);
@@ -60,7 +58,8 @@ VECTORISED void consecutive(std::uint64_t low, std::uint32_t* narrow, double* wi
 // candidate within a few of its own units above a power of two may stand for an exact value below it, where the unit is
 // half as long, and is taken for one. Infinite where only one of the two is a NaN, or the exact value is beyond the range
 // and the result is not.
-VECTORISED void errors(const float* results, const double* candidates, double* errors, std::size_t n) {
+[[gnu::target_clones("avx512f", "avx2", "default")]]
+void errors(const float* results, const double* candidates, double* errors, std::size_t n) {
     for (std::size_t i = 0; i < n; i++) {
         const double truth = candidates[i], size = std::fabs(truth);
         double got = static_cast<double>(results[i]);
@@ -78,7 +77,8 @@ VECTORISED void errors(const float* results, const double* candidates, double* e
     }
 }
 
-VECTORISED double largest_of(const double* errors, std::size_t n) {
+[[gnu::target_clones("avx512f", "avx2", "default")]]
+double largest_of(const double* errors, std::size_t n) {
     constexpr std::size_t lanes = 8;
     double most[lanes] = {};
     std::size_t i = 0;
