@@ -144,6 +144,7 @@ int profile_plot(const char* file) try {
     double least = std::numeric_limits<double>::infinity(), most = -least, largest = 0, end = 0;
     for (const BinError& bin : profile.bins) {
         const std::string name = label(bin);
+        char text[64];
         if (name != last) {
             if (count++) data += "\n\n";
             const bool own = bin.kernel.variant == Variant::full && bin.kernel.width != 16;
@@ -151,13 +152,14 @@ int profile_plot(const char* file) try {
             names += " \"" + name + '"', last = name;
             styles += ' ' + std::to_string(style(bin, own ? own_widths : 0));
         } else if (bin.from != end) {
-            data += '\n';  // no line across bins without an error
+            // Between two bins with an error those without one have results as good as exact.
+            std::snprintf(text, sizeof text, "%.6g 0\n%.6g 0\n", axis.place(end), axis.place(bin.from));
+            data += text;
         }
         end = bin.to;
         least = std::min(least, axis.place(bin.from)), most = std::max(most, axis.place(bin.to));
         if (!bin.found) continue;
         largest = std::max(largest, bin.ulp);
-        char text[64];
         std::snprintf(text, sizeof text, "%.6g %.4g\n", (axis.place(bin.from) + axis.place(bin.to)) / 2, bin.ulp);
         data += text;
     }
