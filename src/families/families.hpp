@@ -61,6 +61,7 @@ struct Family {
     std::string formula;  // with x, y, z the arguments
     std::string domain;   // units and the arguments that have a value
     std::string special;  // zeros, infinities, NaN and what else is not plain
+    std::string computed{};  // how, in a sentence or two
 
     // Errors in units in the last place: what OpenCL allows (0: the result is exact or correctly
     // rounded) and what was measured. A width with a kernel of its own has its own error; half is

@@ -200,14 +200,14 @@ bool profile(const Module& module, const std::string& base, const std::string& p
     };
     const Range range = {order(from, "-inf"), order(to, "inf")};
     if (range.low > range.high) throw cli::Refused("the interval is empty");
+    const bool whole = swept_whole(*family);
+    if (whole && seconds > 0) throw cli::Refused(base + " is swept whole, not searched");
+    if (!whole && seconds == 0) seconds = 0.25;
     if (!std::ofstream(path + ".part")) throw cli::Refused("cannot write " + path);
 
     stop_at_interrupt();
     Progress progress(quiet);
     const auto report = [&](double share) { return progress.show(share), !interrupted; };
-    const bool whole = swept_whole(*family);
-    if (whole && seconds > 0) throw cli::Refused(base + " is swept whole, not searched");
-    if (!whole && seconds == 0) seconds = 0.25;
     const Profile found = whole ? sweep_bins(targets, wanted({find_family(base.substr(0, base.size() - 1)), 16, Variant::full}), range, threads, report)
                                 : search_bins(targets, range, seconds, threads, report);
     if (!found.complete) return std::filesystem::remove(path + ".part"), false;

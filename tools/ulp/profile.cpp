@@ -38,15 +38,28 @@ std::vector<double> edges_of(const Family& family) {
         edges.push_back(0);
         edges.insert(edges.end(), side.begin(), side.end());
     }
-    edges.push_back(infinity);
+    // Binades may reach the ends already.
+    if (edges.back() != infinity) edges.push_back(infinity);
+    if (edges[1] == -infinity) edges.erase(edges.begin());
     return edges;
+}
+
+// What follows are loops for the vectors of the processor at hand. Consecutive inputs of the order, and the same in double.
+[[gnu::target_clones("avx512f", "avx2", "default")]]
+void consecutive(std::uint64_t low, std::uint32_t* narrow, double* wide, std::size_t n) {
+    for (std::size_t i = 0; i < n; i++) {
+        const std::uint32_t order = static_cast<std::uint32_t>(low) + static_cast<std::uint32_t>(i);
+        narrow[i] = order ^ (order >> 31 ? 0x80000000 : 0xffffffff);
+        wide[i] = static_cast<double>(std::bit_cast<float>(narrow[i]));
+    }
 }
 
 // Errors of results against candidates for the exact values, both in registers side by side: no branches, no calls. A
 // candidate within a few of its own units above a power of two may stand for an exact value below it, where the unit is
 // half as long, and is taken for one. Infinite where only one of the two is a NaN, or the exact value is beyond the range
 // and the result is not.
-__attribute__((target_clones("avx2", "default"))) void errors(const float* results, const double* candidates, double* errors, std::size_t n) {
+[[gnu::target_clones("avx512f", "avx2", "default")]]
+void errors(const float* results, const double* candidates, double* errors, std::size_t n) {
     for (std::size_t i = 0; i < n; i++) {
         const double truth = candidates[i], size = std::fabs(truth);
         double got = static_cast<double>(results[i]);
@@ -64,7 +77,8 @@ __attribute__((target_clones("avx2", "default"))) void errors(const float* resul
     }
 }
 
-__attribute__((target_clones("avx2", "default"))) double largest_of(const double* errors, std::size_t n) {
+[[gnu::target_clones("avx512f", "avx2", "default")]]
+double largest_of(const double* errors, std::size_t n) {
     constexpr std::size_t lanes = 8;
     double most[lanes] = {};
     std::size_t i = 0;
@@ -107,12 +121,7 @@ private:
     void inputs(std::uint64_t low, std::uint64_t high) {
         const std::size_t n = high - low + 1;
         if (errors_.size() != n) x_[0] = Lanes(Lane::f32, n), wide_[0] = Lanes(Lane::f64, n), errors_.resize(n);
-        auto* narrow = reinterpret_cast<std::uint32_t*>(x_[0].data());
-        auto* wide = reinterpret_cast<double*>(wide_[0].data());
-        for (std::size_t i = 0; i < n; i++) {
-            narrow[i] = static_cast<std::uint32_t>(ordered(Lane::f32, low + i));
-            wide[i] = static_cast<double>(std::bit_cast<float>(narrow[i]));
-        }
+        consecutive(low, reinterpret_cast<std::uint32_t*>(x_[0].data()), reinterpret_cast<double*>(wide_[0].data()), n);
     }
 
     void one_block(std::size_t t, std::size_t bin, std::uint64_t low, std::uint64_t high) {
