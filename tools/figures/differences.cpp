@@ -44,22 +44,25 @@ std::string differences(const Times& here, const Times& published, double part) 
         for (const Difference& d : *all) mean.add(d.ratio());
         const std::size_t compared = all->size();
         std::erase_if(*all, [&](const Difference& d) { return d.size() <= std::log(1 + part); });
-        std::stable_sort(all->begin(), all->end(), [](const Difference& a, const Difference& b) { return a.size() > b.size(); });
+        std::stable_sort(all->begin(), all->end(),
+                         [](const Difference& a, const Difference& b) { return a.size() > b.size(); });
 
         const std::string subject = of_times ? "time, ns an element" : "best peer's time over ours";
         if (compared == 0) {
             text += subject + ": nothing to compare\n";
             continue;
         }
-        const std::string sums = (all->empty() ? "none" : std::to_string(all->size())) + " of " + std::to_string(compared) + " differ by more than " +
-                                 decimals(part * 100, 0) + " %; here over published is " + decimals(mean.value(), 2) + " in the geometric mean";
+        const std::string sums = (all->empty() ? "none" : std::to_string(all->size())) + " of " +
+                                 std::to_string(compared) + " differ by more than " + decimals(part * 100, 0) +
+                                 " %; here over published is " + decimals(mean.value(), 2) + " in the geometric mean";
         text += subject + ": " + sums + '\n';
         if (all->empty()) continue;
-        text += "  " + space("row", 24, false) + space("build", 8, false) + space("kind", 8, false) + space("here", 10) +
-                space("published", 11) + space("here/published", 16) + '\n';
+        text += "  " + space("row", 24, false) + space("build", 8, false) + space("kind", 8, false) +
+                space("here", 10) + space("published", 11) + space("here/published", 16) + '\n';
         for (const Difference& d : *all)
-            text += "  " + space(d.name, 24, false) + space(d.build, 8, false) + space(d.what, 8, false) + space(decimals(d.here, 3), 10) +
-                    space(decimals(d.published, 3), 11) + space(decimals(d.ratio(), 2), 16) + '\n';
+            text += "  " + space(d.name, 24, false) + space(d.build, 8, false) + space(d.what, 8, false) +
+                    space(decimals(d.here, 3), 10) + space(decimals(d.published, 3), 11) +
+                    space(decimals(d.ratio(), 2), 16) + '\n';
         text += '\n';
     }
     if (only_here) text += "only here: " + std::to_string(only_here) + " rows\n";

@@ -6,8 +6,8 @@
 
 namespace tarn {
 
-// A table of where times here and published ones differ by more than a fifth (or another part), worst first: ratios to the
-// best peer, then times of the best width and of arrays; and how many rows only one of them has.
+// A table of where times here and published ones differ by more than a fifth (or another part), worst first: ratios to
+// the best peer, then times of the best width and of arrays; and how many rows only one of them has.
 std::string differences(const Times& here, const Times& published, double part = 0.2);
 
 }  // namespace tarn

@@ -83,7 +83,8 @@ std::string group_figure(const Times& times, const std::string& group) {
     for (const Lane type : {Lane::f32, Lane::f64}) {
         std::vector<std::string> names;
         for (const Family& f : families())
-            if (f.group == group && precision(f) == type && (times.find("call", f.base, "plain") || times.find("array", f.base, "plain")))
+            if (f.group == group && precision(f) == type &&
+                (times.find("call", f.base, "plain") || times.find("array", f.base, "plain")))
                 names.push_back(f.base);
         const std::size_t panels = (names.size() + most - 1) / most;
         for (std::size_t panel = 0, i = 0; panel < panels; panel++) {
@@ -95,14 +96,16 @@ std::string group_figure(const Times& times, const std::string& group) {
                     return row ? *row : TimedRow{names[i], build, {}};
                 };
                 const TimedRow plain = time("call", "plain"), v3 = time("call", "v3");
-                rows += line({std::to_string(slot), names[i], decimals(time("array", "plain").at("array"), 3), decimals(time("array", "v3").at("array"), 3)});
+                rows += line({std::to_string(slot), names[i], decimals(time("array", "plain").at("array"), 3),
+                              decimals(time("array", "v3").at("array"), 3)});
                 double x = slot - 0.42;
                 for (const int width : widths) {
                     const std::string what = timed(width);
                     calls += line({decimals(x += 0.1, 2), decimals(plain.at(what), 3), decimals(v3.at(what), 3)});
                 }
                 for (const double side : {-0.42, 0.42})
-                    bars += line({decimals(slot + side, 2), decimals(plain.best_peer().second, 3), decimals(v3.best_peer().second, 3)});
+                    bars += line({decimals(slot + side, 2), decimals(plain.best_peer().second, 3),
+                                  decimals(v3.best_peer().second, 3)});
                 calls += '\n', bars += '\n';
             }
             text += (text.empty() ? "" : "\n\n") + rows + "\n\n" + calls + "\n" + bars;

@@ -19,23 +19,30 @@ int main(int argc, char** argv) {
     auto* groups = add("groups", "the groups of the times, and how files name them");
     auto* of_group = add("group", "the times of a group");
     auto* differ = add("differences", "where times differ from others, worst first");
-    for (auto* command : {peers, groups, of_group}) command->add_option("TIMES", file, "a file of measured times")->required();
+    for (auto* command : {peers, groups, of_group})
+        command->add_option("TIMES", file, "a file of measured times")->required();
     of_group->add_option("GROUP", group, "such as Exponentials")->required();
     differ->add_option("HERE", file, "a file of measured times")->required();
     differ->add_option("PUBLISHED", published, "another")->required();
-    differ->add_option("--part", part, "how large a part of a time or ratio is a difference")->check(CLI::PositiveNumber);
+    differ->add_option("--part", part, "how large a part of a time or ratio is a difference")
+        ->check(CLI::PositiveNumber);
 
     return cli::run(app, argc, argv, [&] {
         std::string text;
         const Times times = file.empty() ? Times{} : Times::read(file);
         const auto known = times.groups();
-        if (errors->parsed()) text = errors_figure();
-        else if (peers->parsed()) text = peers_figure(times);
-        else if (differ->parsed()) text = differences(times, Times::read(published), part);
+        if (errors->parsed())
+            text = errors_figure();
+        else if (peers->parsed())
+            text = peers_figure(times);
+        else if (differ->parsed())
+            text = differences(times, Times::read(published), part);
         else if (groups->parsed())
             for (const auto& name : known) text += name + '\t' + slug(name) + '\n';
-        else if (std::find(known.begin(), known.end(), group) == known.end()) throw cli::Refused("no times are of a group '" + group + "'");
-        else text = group_figure(times, group);
+        else if (std::find(known.begin(), known.end(), group) == known.end())
+            throw cli::Refused("no times are of a group '" + group + "'");
+        else
+            text = group_figure(times, group);
         std::fputs(text.c_str(), stdout);
         return 0;
     });

@@ -37,13 +37,14 @@ struct ArrayMeans {
         }
     }
     std::string text() const {
-        return decimals(calls.value(), 2) + " times as fast as calls of width 16, " + decimals(sleef.value(), 2) + " as SLEEF (" +
-               std::to_string(sleef.count()) + " functions), " + decimals(mvec.value(), 2) + " as libmvec (" +
-               std::to_string(mvec.count()) + ")";
+        return decimals(calls.value(), 2) + " times as fast as calls of width 16, " + decimals(sleef.value(), 2) +
+               " as SLEEF (" + std::to_string(sleef.count()) + " functions), " + decimals(mvec.value(), 2) +
+               " as libmvec (" + std::to_string(mvec.count()) + ")";
     }
 };
 
-const std::vector<std::string> array_columns = {"width 16", "array", "copy", "SLEEF", "libmvec", "to w16", "SLEEF/", "libmvec/", "few/call"};
+const std::vector<std::string> array_columns = {"width 16", "array",  "copy",     "SLEEF",   "libmvec",
+                                                "to w16",   "SLEEF/", "libmvec/", "few/call"};
 
 std::vector<std::string> array_cells(const TimedRow& row) {
     std::vector<std::string> cells;
@@ -66,7 +67,9 @@ std::string rule(std::size_t columns) {
 std::string code(const std::string& text) { return '`' + text + '`'; }
 
 std::string calls_table(const std::vector<TimedRow>& rows) {
-    std::string text = line({"function", "plain", "v3", "best 128-bit peer", "best 256-bit peer", "plain ahead", "v3 ahead", "gain"}) + rule(8);
+    std::string text =
+        line({"function", "plain", "v3", "best 128-bit peer", "best 256-bit peer", "plain ahead", "v3 ahead", "gain"}) +
+        rule(8);
     for (const TimedRow& row : rows) {
         if (row.build != "plain") continue;
         const TimedRow none{row.name, "v3", {}}, *found = of_build(rows, row, "v3"), &wide = found ? *found : none;
@@ -74,8 +77,9 @@ std::string calls_table(const std::vector<TimedRow>& rows) {
             const auto [name, ns] = r.best_peer();
             return std::isfinite(ns) ? decimals(ns, 3) + ' ' + name : "-";
         };
-        text += line({code(row.name), decimals(row.best(), 3), decimals(wide.best(), 3), peer(row), peer(wide),
-                      decimals(row.ahead(), 2), found ? decimals(wide.ahead(), 2) : "-", decimals(gain(row, found), 2)});
+        text +=
+            line({code(row.name), decimals(row.best(), 3), decimals(wide.best(), 3), peer(row), peer(wide),
+                  decimals(row.ahead(), 2), found ? decimals(wide.ahead(), 2) : "-", decimals(gain(row, found), 2)});
     }
     return text;
 }
@@ -95,9 +99,11 @@ std::string arrays_table(const std::vector<TimedRow>& rows, const std::string& b
 // Rows behind the best peer of the size of their vectors, the furthest first.
 std::string behind(std::vector<TimedRow> rows) {
     std::erase_if(rows, [](const TimedRow& row) { return row.large() || !(row.ahead() < 1); });
-    std::stable_sort(rows.begin(), rows.end(), [](const TimedRow& a, const TimedRow& b) { return a.ahead() < b.ahead(); });
+    std::stable_sort(rows.begin(), rows.end(),
+                     [](const TimedRow& a, const TimedRow& b) { return a.ahead() < b.ahead(); });
     std::string text;
-    for (const TimedRow& row : rows) text += (text.empty() ? "" : ", ") + code(row.name) + ' ' + decimals(row.ahead(), 2);
+    for (const TimedRow& row : rows)
+        text += (text.empty() ? "" : ", ") + code(row.name) + ' ' + decimals(row.ahead(), 2);
     return text.empty() ? "none" : text;
 }
 
@@ -116,7 +122,8 @@ std::string item(const std::string& text) {
 }  // namespace
 
 std::string calls_text(const std::vector<TimedRow>& rows) {
-    std::string text = "nanoseconds an element; ratio: the best peer's time over ours at our best width\n" + left("", 22);
+    std::string text =
+        "nanoseconds an element; ratio: the best peer's time over ours at our best width\n" + left("", 22);
     for (const int w : widths) text += right(timed(w), 8);
     for (const auto& peer : peers_of_calls) text += right(peer, 11);
     text += right("ratio", 8) + '\n';
@@ -155,8 +162,10 @@ std::string speed_page(const Times& times, const std::string& conditions) {
     for (const std::string build : builds) {
         const auto rows = times.rows("call", build);
         if (!rows.empty())
-            text += item("Calls, " + std::string(build == "v3" ? "x86-64-v3 beside 256-bit peers" : "plain beside 128-bit and scalar peers") +
-                             ". Behind the best of them: " + behind(rows) + '.');
+            text += item("Calls, " +
+                         std::string(build == "v3" ? "x86-64-v3 beside 256-bit peers"
+                                                   : "plain beside 128-bit and scalar peers") +
+                         ". Behind the best of them: " + behind(rows) + '.');
     }
     GeometricMean computing, all;
     for (const TimedRow& row : plain) {
@@ -165,22 +174,25 @@ std::string speed_page(const Times& times, const std::string& conditions) {
         all.add(g);
         if (row.family().full.ulp != 0) computing.add(g);
     }
+    std::string gains;
+    if (computing.count())
+        gains += decimals(computing.value(), 2) + ", the geometric mean over the " + std::to_string(computing.count()) +
+                 " families of [accuracy.md](accuracy.md), which compute with errors; ";
     if (all.count())
-        text += item("Gain of the module for x86-64-v3 at width 16: " + decimals(computing.value(), 2) +
-                         ", the geometric mean over the " + std::to_string(computing.count()) +
-                         " families of [accuracy.md](accuracy.md), which compute with errors; " + decimals(all.value(), 2) +
-                         " over all " + std::to_string(all.count()) + '.');
+        text += item("Gain of the module for x86-64-v3 at width 16: " + gains + decimals(all.value(), 2) +
+                     " over all " + std::to_string(all.count()) + '.');
     for (const std::string kind : {"array", "memory"})
         for (const std::string build : builds) {
             const auto rows = times.rows(kind, build);
             if (!rows.empty())
-                text += item("" + std::string(kind == "array" ? "Arrays" : "Arrays of megabytes") + ", " +
-                                 (build == "v3" ? v3_name : build) + ": " + ArrayMeans(rows).text() + ", in the geometric mean.");
+                text += item(std::string(kind == "array" ? "Arrays" : "Arrays of megabytes") + ", " +
+                             (build == "v3" ? v3_name : build) + ": " + ArrayMeans(rows).text() +
+                             ", in the geometric mean.");
         }
 
     for (const auto& group : times.groups()) {
-        text += "\n### " + group + "\n\n![" + group + ": times a width and on arrays, and of the best peers](plots/speed_" +
-                slug(group) + ".svg)\n";
+        text += "\n### " + group + "\n\n![" + group +
+                ": times a width and on arrays, and of the best peers](plots/speed_" + slug(group) + ".svg)\n";
         const auto rows = times.rows("call", {}, group);
         if (!rows.empty()) text += '\n' + calls_table(rows);
         for (const std::string build : builds) {
@@ -190,7 +202,9 @@ std::string speed_page(const Times& times, const std::string& conditions) {
         if (!rows.empty()) text += "\n```\n" + calls_text(rows) + "```\n";
     }
     if (!times.rows("memory").empty())
-        text += "\n### Arrays of 64 MB of floats or 128 MB of doubles\n\nMemory is the limit of the cheap functions there.\n";
+        text +=
+            "\n### Arrays of 64 MB of floats or 128 MB of doubles\n\nMemory is the limit of the cheap functions "
+            "there.\n";
     for (const std::string build : builds) {
         const auto rows = times.rows("memory", build);
         if (!rows.empty()) text += '\n' + arrays_table(rows, build);

@@ -47,8 +47,10 @@ std::string timed(int width) {
 std::string slug(const std::string& group) {
     std::string text;
     for (const char c : group)
-        if (std::isalnum(static_cast<unsigned char>(c))) text += static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-        else if (!text.empty() && text.back() != '_') text += '_';
+        if (std::isalnum(static_cast<unsigned char>(c)))
+            text += static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+        else if (!text.empty() && text.back() != '_')
+            text += '_';
     return text;
 }
 
@@ -122,11 +124,15 @@ std::string Times::text() const {
     return text;
 }
 
-void Times::add(const std::string& kind, const std::string& row, const std::string& build, const std::string& what, double ns) {
+void Times::add(const std::string& kind, const std::string& row, const std::string& build, const std::string& what,
+                double ns) {
     auto& rows = kinds_[kind];
-    auto at = std::find_if(rows.rbegin(), rows.rend(), [&](const TimedRow& r) { return r.name == row && r.build == build; });
-    if (at != rows.rend()) at->times[what] = ns;
-    else rows.push_back({row, build, {{what, ns}}});
+    auto at =
+        std::find_if(rows.rbegin(), rows.rend(), [&](const TimedRow& r) { return r.name == row && r.build == build; });
+    if (at != rows.rend())
+        at->times[what] = ns;
+    else
+        rows.push_back({row, build, {{what, ns}}});
 }
 
 std::vector<TimedRow> Times::rows(const std::string& kind, const std::string& build, const std::string& group) const {
@@ -134,7 +140,8 @@ std::vector<TimedRow> Times::rows(const std::string& kind, const std::string& bu
     const auto all = kinds_.find(kind);
     if (all == kinds_.end()) return some;
     for (const TimedRow& row : all->second)
-        if ((build.empty() || row.build == build) && (group.empty() || row.family().group == group)) some.push_back(row);
+        if ((build.empty() || row.build == build) && (group.empty() || row.family().group == group))
+            some.push_back(row);
     return some;
 }
 

@@ -1,9 +1,9 @@
 // Measured times, as docs/data/speed.tsv keeps them, and the tables that are made of them.
 //
-// A line has five fields. Kind: call, of the module's functions; array, of libtarn's on arrays in the first cache; memory,
-// on arrays of megabytes. Row: a family or another form of it, perhaps with ", large x". Build: plain or v3. What: a width
-// of calls (w1 ... w16), array, copy, or the library beside it. Last nanoseconds an element; few/call alone is a ratio, of
-// the longest time of few elements to that of one call.
+// A line has five fields. Kind: call, of the module's functions; array, of libtarn's on arrays in the first cache;
+// memory, on arrays of megabytes. Row: a family or another form of it, perhaps with ", large x". Build: plain or v3.
+// What: a width of calls (w1 ... w16), array, copy, or the library beside it. Last nanoseconds an element; few/call
+// alone is a ratio, of the longest time of few elements to that of one call.
 #pragma once
 
 #include <map>
@@ -34,9 +34,11 @@ public:
     static Times read(const std::string& file);
     std::string text() const;
 
-    void add(const std::string& kind, const std::string& row, const std::string& build, const std::string& what, double ns);
+    void add(const std::string& kind, const std::string& row, const std::string& build, const std::string& what,
+             double ns);
     // In the order in which they came; of all groups and builds where none is named.
-    std::vector<TimedRow> rows(const std::string& kind, const std::string& build = {}, const std::string& group = {}) const;
+    std::vector<TimedRow> rows(const std::string& kind, const std::string& build = {},
+                               const std::string& group = {}) const;
     std::vector<std::string> groups() const;
     const TimedRow* find(const std::string& kind, const std::string& row, const std::string& build) const;
 
