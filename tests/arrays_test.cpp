@@ -6,6 +6,7 @@
 #include <cfenv>
 #include <fstream>
 #include <map>
+#include <numeric>
 #include <regex>
 #include <set>
 
@@ -193,6 +194,7 @@ TEST_P(ArrayElements, MayLieAnywhere) {
     const auto all = samples(*m.family, 400, 9);
     const std::size_t n = std::min<std::size_t>(all[0].size(), 1003);
     const auto args = picked(all, n, [&](std::size_t i) { return all[0].size() - n + i; });
+    const Shape& s = m.family->shape;
     const Computed aligned(f, args);
     for (const std::size_t offset : {1, 2, 4, 8, 12, 20, 31}) {
         const Computed moved(f, args, offset);
@@ -200,21 +202,28 @@ TEST_P(ArrayElements, MayLieAnywhere) {
         for (std::size_t i = 0; i < n; i++) ASSERT_EQ(moved.difference(i, aligned, i), "") << f.name() << '(' << lanes_text(args, i) << "), " << offset << " bytes on";
     }
 
-    // In the place of an argument.
-    const Shape& s = m.family->shape;
+    // In the place of an argument: long, and of every length that ends in another way, where the last group of lanes begins
+    // among results that are written already.
+    std::vector<std::size_t> lengths(48);
+    std::iota(lengths.begin(), lengths.end(), 1);
+    lengths.push_back(n);
     for (std::size_t place = 0; place < s.args.size(); place++)
         for (const bool second : {false, true}) {
             const Lane result = second ? s.second : s.result;
             if (result == Lane::none || bytes(result) != bytes(s.args[place])) continue;
-            auto in_place = args;
-            Lanes other(second ? s.result : s.second, n);
-            const void* pointers[3] = {};
-            for (std::size_t a = 0; a < args.size(); a++) pointers[a] = in_place[a].data();
-            if (second) f(n, pointers, other.data(), in_place[place].data());
-            else f(n, pointers, in_place[place].data(), other.data());
-            for (std::size_t i = 0; i < n; i++) {
-                const auto expected = (second ? aligned.second : aligned.first).pattern(i);
-                ASSERT_TRUE(same(result, in_place[place].pattern(i), expected)) << f.name() << '(' << lanes_text(args, i) << ") in place of argument " << place;
+            for (const std::size_t count : lengths) {
+                const std::size_t from = n - count;
+                auto in_place = picked(args, count, [&](std::size_t i) { return from + i; });
+                Lanes other(second ? s.result : s.second, count);
+                const void* pointers[3] = {};
+                for (std::size_t a = 0; a < args.size(); a++) pointers[a] = in_place[a].data();
+                if (second) f(count, pointers, other.data(), in_place[place].data());
+                else f(count, pointers, in_place[place].data(), other.data());
+                for (std::size_t i = 0; i < count; i++) {
+                    const auto expected = (second ? aligned.second : aligned.first).pattern(from + i);
+                    ASSERT_TRUE(same(result, in_place[place].pattern(i), expected))
+                        << f.name() << '(' << lanes_text(args, from + i) << ") in place of argument " << place << ", n = " << count;
+                }
             }
         }
 

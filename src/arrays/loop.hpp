@@ -13,9 +13,9 @@
 namespace tarn {
 namespace {
 
-// Groups of a step: as many as make 16 elements, at least four. Measured: with fewer the processor waits, with more
-// single precision spills. A kernel may want fewer.
-constexpr int groups_in_flight(int lanes) { return lanes < 4 ? 16 / lanes : 4; }
+// Groups of a step: four, or in groups of two lanes as many as make 16 elements, unless the kernel computes its wide calls
+// in parts. Measured: with fewer the processor waits, with more it spills.
+constexpr int groups_in_flight(int lanes, bool in_parts) { return lanes < 4 && !in_parts ? 16 / lanes : 4; }
 
 // A group from consecutive lanes at any address. One that fills half a block of 16 bytes is there twice, so that no
 // lane computes what nobody asked for.
@@ -208,7 +208,7 @@ template <class K, class R, class... S, class... A>
 struct Array<K, R, Types<S...>, Types<A...>> {
     static constexpr int bytes = native_bytes;
     static constexpr int lanes = K::lanes * (bytes / 16);
-    static constexpr int most = groups_in_flight(lanes), groups = K::blocks_at_a_time < most ? K::blocks_at_a_time : most;
+    static constexpr int groups = groups_in_flight(lanes, K::lanes * K::blocks_at_a_time < 16);
     static constexpr int chunk = groups * lanes;
     static_assert(K::lanes > 1 && chunk <= 32);
 
