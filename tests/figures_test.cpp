@@ -135,6 +135,8 @@ TEST(Differences, AreThoseBeyondAFifthTheWorstFirst) {
     }
     EXPECT_FALSE(has(text, "0.595"));
     EXPECT_TRUE(has(differences(here, published, 0.15), "0.595"));
+    const std::string worst = differences(here, published, 0.2, 1);
+    EXPECT_TRUE(has(worst, "8.000") && has(worst, "  and 1 more\n") && !has(worst, "1.200")) << worst;
 }
 
 }  // namespace

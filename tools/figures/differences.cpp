@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <span>
+#include <vector>
 
 namespace tarn {
 namespace {
@@ -20,7 +22,7 @@ std::string space(const std::string& text, std::size_t width, bool right = true)
 
 }  // namespace
 
-std::string differences(const Times& here, const Times& published, double part) {
+std::string differences(const Times& here, const Times& published, double part, std::size_t most) {
     std::vector<Difference> ratios, times;
     int only_here = 0, only_published = 0;
     for (const std::string kind : {"call", "array", "memory"}) {
@@ -59,10 +61,12 @@ std::string differences(const Times& here, const Times& published, double part) 
         if (all->empty()) continue;
         text += "  " + space("row", 24, false) + space("build", 8, false) + space("kind", 8, false) +
                 space("here", 10) + space("published", 11) + space("here/published", 16) + '\n';
-        for (const Difference& d : *all)
+        const std::size_t shown = std::min(most, all->size());
+        for (const Difference& d : std::span(*all).first(shown))
             text += "  " + space(d.name, 24, false) + space(d.build, 8, false) + space(d.what, 8, false) +
                     space(decimals(d.here, 3), 10) + space(decimals(d.published, 3), 11) +
                     space(decimals(d.ratio(), 2), 16) + '\n';
+        if (shown < all->size()) text += "  and " + std::to_string(all->size() - shown) + " more\n";
         text += '\n';
     }
     if (only_here) text += "only here: " + std::to_string(only_here) + " rows\n";

@@ -13,6 +13,7 @@ int main(int argc, char** argv) {
     app.require_subcommand(1);
     std::string file, published, group;
     double part = 0.2;
+    std::size_t most = SIZE_MAX;
     const auto add = [&](const char* name, const char* says) { return app.add_subcommand(name, says); };
     auto* errors = add("errors", "errors over OpenCL's bounds, of all families that have one");
     auto* peers = add("peers", "how far all families are ahead of the best peer");
@@ -26,6 +27,7 @@ int main(int argc, char** argv) {
     differ->add_option("PUBLISHED", published, "another")->required();
     differ->add_option("--part", part, "how large a part of a time or ratio is a difference")
         ->check(CLI::PositiveNumber);
+    differ->add_option("--most", most, "how many of each are shown");
 
     return cli::run(app, argc, argv, [&] {
         std::string text;
@@ -36,7 +38,7 @@ int main(int argc, char** argv) {
         else if (peers->parsed())
             text = peers_figure(times);
         else if (differ->parsed())
-            text = differences(times, Times::read(published), part);
+            text = differences(times, Times::read(published), part, most);
         else if (groups->parsed())
             for (const auto& name : known) text += name + '\t' + slug(name) + '\n';
         else if (std::find(known.begin(), known.end(), group) == known.end())
