@@ -4,6 +4,8 @@
 #include <cmath>
 #include <filesystem>
 #include <fstream>
+#include <regex>
+#include <sstream>
 
 #include "figures/differences.hpp"
 #include "figures/times.hpp"
@@ -74,10 +76,10 @@ TEST(Times, AreWrittenAsTheyAreRead) {
 
 std::string row(const std::string& kind, const std::string& name, const std::string& build,
                 const std::vector<std::pair<std::string, double>>& times) {
-    std::string lines;
+    std::ostringstream lines;
     for (const auto& [what, ns] : times)
-        lines += kind + '\t' + name + '\t' + build + '\t' + what + '\t' + std::to_string(ns) + '\n';
-    return lines;
+        lines << kind << '\t' << name << '\t' << build << '\t' << what << '\t' << ns << '\n';
+    return lines.str();
 }
 
 const std::string rows =
@@ -91,8 +93,7 @@ const std::string rows =
 
 TEST(Tables, SayWhoIsAheadByHowMuch) {
     const std::string page = speed_page(read(rows), "Conditions.");
-    std::string unbroken = page;
-    for (std::size_t at; (at = unbroken.find("\n  ")) != std::string::npos;) unbroken.replace(at, 3, " ");
+    const std::string unbroken = std::regex_replace(page, std::regex("\n  "), " ");
     for (const char* part : {
              // Best width, best peer with its name, their ratios, the gain at width 16.
              "| `expf` | 1.000 | 0.500 | 0.800 libmvec | 0.750 libmvec | 0.80 | 1.50 | 4.00 |\n",

@@ -99,7 +99,8 @@ const Level v3 = {"v3", bench::of_32_bytes_f32, bench::of_32_bytes_f64, "f8", "d
 
 // The peers, by their naming rules: SLEEF's functions of a level, the C library's vector functions and its scalar ones.
 // All keep within 4 ulp.
-void add_peers(const Family& f, const Level& level, const std::string& row, const std::shared_ptr<Buffers>& b, std::vector<Entrant>& to) {
+void add_peers(const Family& f, const Level& level, const std::string& row, const std::shared_ptr<Buffers>& b, bool scalars,
+               std::vector<Entrant>& to) {
     static void* const sleef = dlopen("libsleef.so.3", RTLD_NOW);
     static void* const mvec = dlopen("libmvec.so.1", RTLD_NOW);
     static void* const libm = dlopen("libm.so.6", RTLD_NOW);
@@ -131,7 +132,7 @@ void add_peers(const Family& f, const Level& level, const std::string& row, cons
     if (pair) return;
     const std::string type_letter = single ? "f" : "";
     add("libmvec", mvec, (single ? level.mvec_f32 : level.mvec_f64) + std::string(arity, 'v') + '_' + name + type_letter, runs);
-    if (level.scalars) add("libm", libm, name + type_letter, single ? bench::runs<float> : bench::runs<double>);
+    if (scalars) add("libm", libm, name + type_letter, single ? bench::runs<float> : bench::runs<double>);
 }
 
 // Few elements, beside one call of width 16.
@@ -255,7 +256,7 @@ int main(int argc, char** argv) {
                         const auto& [level, m] = modules[i];
                         if (arrays) add_arrays(*f, v, *level, *m, libraries[i], row, b, entrants);
                         else for (const int w : widths) entrants.push_back({row, level->key, timed(w), ours(*m->find({f, w, v})), b});
-                        add_peers(*f, *level, row, b, entrants);
+                        add_peers(*f, *level, row, b, level->scalars && !arrays, entrants);
                     }
                 }
             }
