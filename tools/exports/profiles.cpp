@@ -152,8 +152,9 @@ int profile_plot(const char* file) try {
             names += " \"" + name + '"', last = name;
             styles += ' ' + std::to_string(style(bin, own ? own_widths : 0));
         } else if (bin.from != end) {
-            // Between two bins with an error those without one have results as good as exact.
-            std::snprintf(text, sizeof text, "%.6g 0\n%.6g 0\n", axis.place(end), axis.place(bin.from));
+            // Between two bins with an error those without one have results as good as exact, where all are known.
+            if (profile.how.starts_with("All inputs")) std::snprintf(text, sizeof text, "%.6g 0\n%.6g 0\n", axis.place(end), axis.place(bin.from));
+            else std::snprintf(text, sizeof text, "\n");
             data += text;
         }
         end = bin.to;

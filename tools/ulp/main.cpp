@@ -138,7 +138,7 @@ void print_list(const Module& module, bool csv) {
             const char* form = v == Variant::full ? "full" : suffix(v) + 1;
             std::string at;
             for (std::size_t a = 0; a < f.worst(v, width).at.size(); a++)
-                at += (a ? " " : "") + pattern_text(f.shape.args[a], f.worst(v, width).at[a]);
+                at += a ? " " : "", at += pattern_text(f.shape.args[a], f.worst(v, width).at[a]);
             if (csv)
                 std::printf("%s,%s,%s,%d,%s,%s,%s,%s\n", name.c_str(), f.base.c_str(), form, width, arguments.c_str(), allowed.c_str(),
                             stated.c_str(), at.c_str());

@@ -465,7 +465,8 @@ private:
             if (!std::isfinite(log2) || log2 == 0) return;
             double t = on_a_grid(random, -top, top);
             if (random() & 1) t = top * (2 * unit(random) - 1);
-            const double y = t / log2;
+            // A power of a negative base is one by an integer.
+            const double y = value_of(type, at[0]) < 0 ? std::nearbyint(t / log2) : t / log2;
             if (is_float(other) || std::fabs(y) < 0x1p31) at[1] = pattern_of(other, is_float(other) ? y : std::nearbyint(y));
         } else if (is_float(other)) {
             double q = on_a_grid(random, -2, 2);
