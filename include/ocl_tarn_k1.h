@@ -274,7 +274,7 @@ tarn_float8 __ocl_tarn_k1_logf8_half(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_logf16_half(tarn_float16 x) TARN_CONST;
 
 /* log: ln x. Domain: x >= 0. Special values: zeros give -inf, +inf +inf, negative x NaN. Largest error
-   found 1.589 ulp, proved at most 8.9326 on the fast path with any processor's estimates (OpenCL allows 3);
+   found 1.589 ulp, proved at most 8.4538 on the fast path with any processor's estimates (OpenCL allows 3);
    native 2.095e+06; by directed search, 1549 million evaluations (native 429 million). Last bits may differ
    between processor makers (full and native). */
 double __ocl_tarn_k1_log1(double x) TARN_CONST;
@@ -381,7 +381,7 @@ tarn_float8 __ocl_tarn_k1_log1pf8_native(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_log1pf16_native(tarn_float16 x) TARN_CONST;
 
 /* log1p: ln(1 + x). Domain: x >= -1. Special values: -1 gives -inf, +inf +inf, x < -1 NaN; zeros keep their
-   sign. Largest error found 0.7449 ulp, proved at most 2.7344 on the fast path with any processor's
+   sign. Largest error found 0.7449 ulp, proved at most 2.2556 on the fast path with any processor's
    estimates (OpenCL allows 2); native 2.095e+06; by directed search, 196 million evaluations (native 339
    million). Last bits may differ between processor makers (full and native). */
 double __ocl_tarn_k1_log1p1(double x) TARN_CONST;
@@ -400,7 +400,7 @@ tarn_double16 __ocl_tarn_k1_log1p16_native(tarn_double16 x) TARN_CONST;
 /* Powers ------------------------------------------------------------------------------------------ */
 
 /* powf: x^y. Domain: x >= 0, or y an integer. Special values: C99 Annex F. Largest error found 1.099 ulp,
-   proved at most 3.1049 on the fast path with any processor's estimates (OpenCL allows 16); native 4467; by
+   proved at most 2.8618 on the fast path with any processor's estimates (OpenCL allows 16); native 4467; by
    190 million samples, most of them near 1. Last bits may differ between processor makers (full). */
 float __ocl_tarn_k1_powf1(float x, float y) TARN_CONST;
 tarn_float2 __ocl_tarn_k1_powf2(tarn_float2 x, tarn_float2 y) TARN_CONST;
@@ -807,7 +807,7 @@ tarn_float8 __ocl_tarn_k1_sinf8_half(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_sinf16_half(tarn_float16 x) TARN_CONST;
 
 /* sin: sin x. Domain: radians, every finite x. Special values: infinities give NaN; zeros keep their sign.
-   Largest error found 3.821 ulp, proved at most 4.6656 on the fast path (OpenCL allows 4); native
+   Largest error found 3.821 ulp, proved at most 4.0194 on the fast path (OpenCL allows 4); native
    5.453e+07; by directed search, 1969 million evaluations (native 192 million). One lane beyond |x| =
    16777216 sends the whole call down another path. */
 double __ocl_tarn_k1_sin1(double x) TARN_CONST;
@@ -846,7 +846,7 @@ tarn_float8 __ocl_tarn_k1_cosf8_half(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_cosf16_half(tarn_float16 x) TARN_CONST;
 
 /* cos: cos x. Domain: radians, every finite x. Special values: infinities give NaN. Largest error found
-   3.802 ulp, proved at most 4.9615 on the fast path (OpenCL allows 4); native 5.453e+07; by directed
+   3.802 ulp, proved at most 3.8474 on the fast path (OpenCL allows 4); native 5.453e+07; by directed
    search, 3074 million evaluations (native 503 million). One lane beyond |x| = 8388608 sends the whole call
    down another path. */
 double __ocl_tarn_k1_cos1(double x) TARN_CONST;
@@ -950,7 +950,7 @@ tarn_float8 __ocl_tarn_k1_tanf8_half(tarn_float8 x) TARN_CONST;
 tarn_float16 __ocl_tarn_k1_tanf16_half(tarn_float16 x) TARN_CONST;
 
 /* tan: tan x. Domain: radians, every finite x. Special values: infinities give NaN; zeros keep their sign.
-   Largest error found 5.012 ulp, proved at most 6.4297 on the fast path (OpenCL allows 5, exceeded at every
+   Largest error found 5.012 ulp, proved at most 5.3542 on the fast path (OpenCL allows 5, exceeded at every
    width); native 2.261e+05; by directed search, 1644 million evaluations (native 363 million). One lane
    beyond |x| = 128000 sends the whole call down another path. */
 double __ocl_tarn_k1_tan1(double x) TARN_CONST;

@@ -5,9 +5,10 @@ from fractions import Fraction
 import gmpy2
 
 import sines
-from proof import Kernel, agree_with_module, literal, report, require
+from proof import Kernel, NearestInteger, agree_with_module, literal, require
 
 kernel = Kernel("cos", 16)
+agree_with_module(kernel, "cos")
 limit = Fraction(2) ** 23 + 2
 y = kernel.result
 signed = kernel.operands(y, "add")[1]
@@ -16,37 +17,37 @@ r = kernel.bits_of(next(o for o in kernel.operands(kernel.bits_of(signed), "xor"
 m = kernel.operands(kernel.operands(r, "subtract")[1], "multiply")[0]
 pi = sines.Pieces(kernel, r, m)
 n, half = kernel.constant_of(m, "subtract")
-shifted = kernel.operands(n, "subtract")[0]
-t, shifter = kernel.constant_of(shifted, "add")
-v, scale = kernel.constant_of(t, "multiply")
-x, quarter = kernel.constant_of(v, "add")
+nearest = NearestInteger(kernel, n)
+x, quarter = kernel.constant_of(nearest.x, "add")
 require(half == Fraction(1, 2) and x == pi.x, "m is an integer less 1/2")
 
 
-def nearest(names, C):
-    S, H = literal(shifter), literal(quarter)
-    return (f"({names[m]} - ({names[n]} - {literal(half)})) + ({names[n]} - ({names[shifted]} - {S})) + "
-            f"({names[shifted]} - ({names[t]} + {S})) + ({names[t]} - {names[v]} * {C}) + "
-            f"({names[v]} - (x + {H})) * {C} + ({H} * {C} - {literal(half)})")
+def chain(names):
+    v, C, H = names[nearest.x], literal(nearest.scale), literal(quarter)
+    return (f"({names[m]} - ({names[n]} - {literal(half)})) + {nearest.chain(names, v)} + "
+            f"({v} - (x + {H})) * {C} + ({H} * {C} - {literal(half)})")
 
 
-slips, largest_rest = {}, Fraction(0)
+reductions = []
 for binade in range(0, 24):
     low, high = Fraction(2) ** binade, min(Fraction(2) ** (binade + 1), limit)
     for ends in ((low, high), (-high, -low)):
-        exact, slip, largest = sines.reduction(kernel, pi, scale, nearest, *ends)
-        require(exact, f"the first two steps are exact from 2^{binade}")
-        slips[binade] = max(slip, slips.get(binade, Fraction(0)))
-        largest_rest = max(largest_rest, largest)
+        found = sines.Reduction(kernel, pi, nearest.scale, chain, *ends)
+        require(found.exact, f"the first two steps are exact from 2^{binade}")
+        reductions.append((binade, found))
+every = [found for _, found in reductions]
 # Below 1, m is 1/2 or -1/2, R far from 0, and all four steps round.
-_, slip, largest = sines.reduction(kernel, pi, scale, nearest, Fraction(-1), Fraction(1))
-largest_rest = max(largest_rest, largest)
+below_1 = sines.Reduction(kernel, pi, nearest.scale, chain, Fraction(-1), Fraction(1))
 
-agree_with_module(kernel, "cos", ((1.37 * i ** 3 * (-1) ** i,) for i in range(180)))
 rests = (r, signed)
-worst, (low, high) = max(sines.main_bound(kernel, y, rests, 2, max(slips.values()), largest_rest),
-                         sines.main_bound(kernel, y, rests, 4, slip, largest_rest, from_rest=sines.binary(sines.PI.low / 2 - 1)))
-near_zero = sines.bound_near_zero(kernel, y, rests, sines.slip_near_zero(slips))
-next_to_zero = sines.largest_error(kernel, sines.next_to_zeros(Fraction(1, 2), limit, sines.NEXT_TO_ZERO), gmpy2.cos)
-print(f"away from 0 {float(worst):.4f}, near 0 {float(near_zero):.4f}, next to 0 {float(next_to_zero):.4f}")
-report("cos", 16, max(worst, near_zero, next_to_zero), f"|r| from {float(low):.6f} to {float(high):.6f}")
+largest_rest = max(found.largest for found in (*every, below_1))
+far_from_0 = sines.binary(sines.HALF_PI.low - 1)
+quarter_turn, lost = sines.binary(sines.HALF_PI.low, 200), sines.loss(every, 2)
+at = sines.one_by_one(kernel, gmpy2.cos, sines.PI, quarter_turn, Fraction(1, 2), limit, lost, signs=(1, -1))
+worst, (low, high) = max(
+    sines.main_bound(kernel, y, rests, lost, largest_rest, at),
+    sines.main_bound(kernel, y, rests, sines.loss([below_1], 4), largest_rest, at, from_rest=far_from_0))
+near_zero = sines.bound_near_zero(kernel, y, rests, sines.slip_near_zero(reductions))
+next_to_zero = sines.largest_error(
+    kernel, sines.doubles_near(quarter_turn, sines.NEXT_TO_ZERO, Fraction(1), limit, sines.PI), gmpy2.cos)
+sines.report_places("cos", worst, near_zero, next_to_zero, f"|r| from {float(low):.6f} to {float(high):.6f}")

@@ -22,13 +22,14 @@ template <class K, class R, class... A> void write_down(R (*)(A...)) {
     // In the order in which they are written, which an argument list does not promise.
     std::tuple<Traced<A>...> arguments{Traced<A>::of("argument", {})...};
     const auto result = std::apply([](auto... x) { return K::fast(x...); }, arguments);
-    Traced<R>::of("result", {result.value.number});
+    Traced<R>::of("result", {result.value.number, result.special.number});
 }
 
 template <class K> struct Registered {
     template <int width> static void add(const char* base) {
         using Chosen = typename ChosenAt<K, width>::Kernel;
-        traced_kernels.push_back({base, width, [] { write_down<Chosen>(static_cast<typename Chosen::Signature*>(nullptr)); }});
+        const auto write = [] { write_down<Chosen>(static_cast<typename Chosen::Signature*>(nullptr)); };
+        traced_kernels.push_back({base, width, write});
     }
     explicit Registered(const char* base) {
         add<1>(base);

@@ -6,10 +6,7 @@ from fractions import Fraction
 import gmpy2
 
 import powers
-from proof import Kernel, agree_with_module, enclose, enclose_constant, lane_value, literal, report, require
-
-LN2 = enclose_constant(gmpy2.const_log2)
-SAMPLES = [(0.37 * i * i * (-1) ** i,) for i in range(40)]
+from proof import LN2, Kernel, NearestInteger, agree_with_module, enclose, lane_value, literal, report, require
 
 
 def exp(x):
@@ -19,15 +16,11 @@ def exp(x):
 def widths_alike():
     power = powers.Raised("exp", 16)
     kernel = power.kernel
-    scale = kernel.constant_of(power.scaled, "multiply")[1]
-
-    def nearest(names, C):
-        n, shifted, t, S = names[power.n], names[power.shifted], names[power.scaled], literal(power.shifter)
-        return f"({n} - ({shifted} - {S})) + ({shifted} - ({t} + {S})) + ({t} - x * {C})"
-    require(power.step == 1, "the shifter rounds to integers")
-    rest, slip = powers.reduction(power, scale, power.n, nearest, LN2 / power.N, kernel.limit())
+    nearest = NearestInteger(kernel, power.n)
+    rest, slip = powers.reduction(power, nearest.scale, power.n, lambda names: nearest.chain(names, "x"), LN2 / power.N,
+                                  kernel.limit())
     require(exp(-kernel.limit()).low > Fraction(2) ** -1022 * (1 + Fraction(1, 2 ** 40)), "results are normal")
-    agree_with_module(kernel, "exp", SAMPLES)
+    agree_with_module(kernel, "exp")
     worst, row = powers.bound(power, "exp(x)", exp, rest, slip)
     report("exp", 16, worst, f"row {row}")
 
@@ -57,9 +50,12 @@ def width_2():
     n = kernel.only("round")
     require(kernel.operands(n, text="0") == [t], "n is rounded from the same product")
     scale = kernel.constant_of(t, "multiply")[1]
-    rest, slip = powers.reduction(power, scale, n, lambda names, C: f"({names[n]} - {names[t]}) + ({names[t]} - x * {C})",
-                                  LN2 / 64, kernel.limit())
+
+    def chain(names):
+        return f"({names[n]} - {names[t]}) + ({names[t]} - x * {literal(scale)})"
+    rest, slip = powers.reduction(power, scale, n, chain, LN2 / 64, kernel.limit())
     require(exp(-kernel.limit()).low > Fraction(2) ** -1020, "results are normal")
+    agree_with_module(kernel, "exp", 2)
     worst, row = powers.bound(power, "exp(x)", exp, rest, slip)
     report("exp", 2, worst, f"row {row}")
 

@@ -5,10 +5,12 @@ from fractions import Fraction
 
 import gmpy2
 
-from logs import LN2, PolynomialErrors, Rows, for_any_estimate, ln_1p, this_processor, with_estimates
-from proof import Interval, Kernel, agree_with_module, enclose, exponent_of, gappa, gappa_each, literal, report, require, ulp
+from logs import PolynomialErrors, Rows, for_any_estimate, ln_1p, report_estimates
+from proof import (LN2, Interval, Kernel, agree_with_module, enclose, gappa, gappa_each, in_units, literal, require,
+                   ulp)
 
 kernel = Kernel("log", 16)
+agree_with_module(kernel, "log")
 x, = kernel.arguments
 
 # (poly + T) + k ln 2.
@@ -29,19 +31,21 @@ require(one == 1 and R64 in kernel.operands(low_part, "multiply"), "r is m R - 1
 require(kernel.bits_of(same_m) == m and kept == -2 ** 26, "the head of m has 26 bits less")
 
 rows = Rows(kernel, R, row)
+rows.require_exponent(kernel, x, k)
 
 # r = m R - 1 is exact: a multiple of 2^-62 that is small.
 widest = max(max(abs(e) for e in for_any_estimate(integer)) for integer in rows)
 names = {m: "m", R64: "R", m_head: "h"}
 steps = kernel.rounded(r, names)
+high_, low_, r_, small = names[high_part], names[low_part], names[r], literal(Fraction(3, 2048))
 answers = gappa(f"""m = rnd(m_);
 h = fixed<-36, dn>(m);
 R = int<ne>(R_);
 {steps}
-{{ m in [1b-10, 1b-9] /\\ R in [512, 1024] /\\ m * R - 1 in [{literal(-Fraction(3, 2048))}, {literal(Fraction(3, 2048))}]
-   -> {names[high_part]} - (h * R - 1) in ? /\\ {names[low_part]} - (m - h) * R in ? /\\ {names[r]} - ({names[high_part]} + {names[low_part]}) in ? }}
+{{ m in [1b-10, 1b-9] /\\ R in [512, 1024] /\\ m * R - 1 in [-{small}, {small}]
+   -> {high_} - (h * R - 1) in ? /\\ {low_} - (m - h) * R in ? /\\ {r_} - ({high_} + {low_}) in ? }}
 h * R - 1 -> (m * R - 1) + (h - m) * R;
-{names[high_part]} + {names[low_part]} -> ({names[high_part]} - (h * R - 1)) + ({names[low_part]} - (m - h) * R) + (m * R - 1);
+{high_} + {low_} -> ({high_} - (h * R - 1)) + ({low_} - (m - h) * R) + (m * R - 1);
 """)
 require(answers and all(a.magnitude == 0 for a in answers.values()) and widest < Fraction(3, 2048), "r is exact")
 
@@ -53,8 +57,8 @@ def pieces_of(integer, low, high):
     are multiples of 2^-62, none of which is where a cut is."""
     unit, value = Fraction(2) ** -62, rows.true(integer)
     cuts = [Interval(low), Interval(high)]
-    cuts += [enclose(gmpy2.expm1, side * Fraction(2) ** e - value) for e in range(-54 if table[integer - 512] == 0 else -12, -1)
-             for side in (-1, 1)]
+    least = -54 if table[integer - 512] == 0 else -12
+    cuts += [enclose(gmpy2.expm1, side * Fraction(2) ** e - value) for e in range(least, -1) for side in (-1, 1)]
     if table[integer - 512] == 0:
         # x is a double, and r is x - 1 next to 1.
         side = 1 if high > 0 else -1
@@ -68,44 +72,32 @@ def pieces_of(integer, low, high):
 def bound_for(rests):
     """The largest error in ulp, and where, if R has m R - 1 within rests(R)."""
     work = [(integer, piece) for integer in rows for piece in pieces_of(integer, *rests(integer))]
-    questions = []
-    for integer, (low, high) in work:
-        names = {r: "r", gather: literal(table[integer - 512])}
-        exact = kernel.exact(with_row, dict(names))
-        text = kernel.rounded(with_row, names)
-        questions.append(f"r = rnd(r_);\n{text}{{ r in [{literal(low)}, {literal(high)}] -> {names[with_row]} - {exact} in ? }}\n")
+    questions = [kernel.rounding_question(with_row, {r: "r", gather: literal(table[integer - 512])}, "r = rnd(r_);\n",
+                                          f"r in [{literal(low)}, {literal(high)}]") for integer, (low, high) in work]
     largest, absolute = (Fraction(0), None), {}
     for (integer, (low, high)), rounding in zip(work, gappa_each(questions)):
         if rounding is None:
             continue
         part, row_value = ln_1p(low, high), rows.true(integer)
         # The polynomial, the table, and the roundings.
-        total = (polynomial.up_to(max(abs(low), abs(high))) * part.magnitude + (row_value - table[integer - 512]).magnitude
+        total = (polynomial.between(low, high) * part.magnitude + (row_value - table[integer - 512]).magnitude
                  + rounding.magnitude)
         absolute[integer] = max(absolute.get(integer, Fraction(0)), total)
         value = abs(part + row_value)
         largest = max(largest, (total / ulp(value.low), f"k = 0, R = {integer}, |ln x| from {float(value.low):.7f}"))
-    # Away from k = 0: the product, the constant's error, the last sum.
+    # Away from k = 0: the product as it is rounded, the last sum.
     for k in [k for k in range(-1075, 1025) if k != 0]:
-        off = (ln2 - LN2).magnitude * abs(k)
-        if abs(k) & (abs(k) - 1) != 0:
-            off += ulp(k * ln2) / 2
-        for integer in rows if abs(k) < 4 else [512]:
-            if abs(k) < 4:
+        off = (Fraction(float(k * ln2)) - k * LN2).magnitude
+        for integer in rows if abs(k) < 16 else [512]:
+            if abs(k) < 16:
                 value, error = abs(k * LN2 + rows.true(integer) + ln_1p(*rests(integer))), absolute[integer] + off
             else:
                 # Any row: T + ln(1 + r) is below 0.35.
-                value, error = abs(k * LN2) + Interval(Fraction(-35, 100), Fraction(35, 100)), max(absolute.values()) + off
-            units = error / ulp(value.low)
-            # The last sum's rounding is half a unit. Beyond a power of two from a value below it, it may be a whole
-            # one, but no more than the sum is beyond the power, which is a double itself.
-            beyond = exponent_of(value.low) != exponent_of(value.high + error)
-            units = max(units + Fraction(1, 2), min(2 * units, units + 1)) if beyond else units + Fraction(1, 2)
-            largest = max(largest, (units, f"k = {k}" if abs(k) >= 4 else f"k = {k}, R = {integer}"))
+                value = abs(k * LN2) + Interval(Fraction(-35, 100), Fraction(35, 100))
+                error = max(absolute.values()) + off
+            where = f"k = {k}" if abs(k) >= 16 else f"k = {k}, R = {integer}"
+            largest = max(largest, (in_units(value, error), where))
     return largest
 
 
-agree_with_module(kernel, "log", ((0.013 * i ** 4 + 1e-4 * i + 0.01,) for i in range(300)), with_estimates(kernel, R))
-bound_here, where = bound_for(this_processor())
-print(f"with this processor's estimates at most {float(bound_here):.4f} ulp ({where})")
-report("log", 16, *bound_for(for_any_estimate))
+report_estimates("log", bound_for)

@@ -5,10 +5,12 @@ from fractions import Fraction
 
 import gmpy2
 
-from logs import LN2, PolynomialErrors, Rows, for_any_estimate, ln_1p, this_processor, with_estimates
-from proof import Interval, Kernel, agree_with_module, enclose, exponent_of, gappa, gappa_each, literal, report, require, ulp
+from logs import PolynomialErrors, Rows, for_any_estimate, ln_1p, outward, report_estimates
+from proof import (LN2, Interval, Kernel, agree_with_module, enclose, exponent_of, gappa, gappa_each, in_units, literal,
+                   require, ulp)
 
 kernel = Kernel("log1p", 16)
+agree_with_module(kernel, "log1p")
 x, = kernel.arguments
 SMALL = Fraction(1, 2 ** 60)
 HUGE = 95  # from this power of two on, c is rounded
@@ -47,6 +49,7 @@ scaled, one = kernel.constant_of(r, "subtract")
 s, scale = kernel.operands(scaled, "multiply")
 c, same_scale = kernel.operands(el, "multiply")
 require(one == 1 and same_scale == scale, "r is s R 2^e - 1, beside c R 2^e")
+rows.require_exponent(kernel, s, k)
 before_cut, keep = kernel.operands(kernel.bits_of(s), "and")
 is_tiny, mask = kernel.constant_of(keep, "or")
 magnitude, tiny = kernel.constant_of(is_tiny, "less")
@@ -55,7 +58,7 @@ require(kernel.constant_of(kernel.bits_of(before_cut), "add") == (x, 1), "1 + x"
 require(kernel.constant_of(kernel.bits_of(magnitude), "and")[1] == 2 ** 63 - 1, "|x|")
 without_s, lesser = kernel.operands(c, "add")
 greater, same_s = kernel.operands(without_s, "subtract")
-require(same_s == s and kernel.constant_of(greater, "larger") == (x, 1) and kernel.constant_of(lesser, "smaller") == (x, 1),
+require(same_s == s and kernel.constant_of(greater, "larger") == kernel.constant_of(lesser, "smaller") == (x, 1),
         "c is (max(1, x) - s) + min(1, x)")
 # 2^e is the power of two that makes s R 2^e, s from 2^E to 2^(E + 1), R 2^(-E - 10) s.
 integer64, power = kernel.operands(scale, "multiply")
@@ -63,6 +66,13 @@ a, b = kernel.operands(kernel.bits_of(power), "subtract")
 require(kernel.value(a) == 0x7F4 << 52 and kernel.constant_of(b, "and")[1] == 0x7FF << 52
         and kernel.bits_of(kernel.constant_of(b, "and")[0]) == s, "2^(-E - 10)")
 require(kernel.operands(integer64, "convert") == [R], "R")
+
+
+# So k is E or E + 1, for s from 2^-53 to where x leaves the fast path.
+below, above = kernel.operands(kernel.special, "or")
+not_above, = kernel.operands(above, "not")
+least, most = kernel.constant_of(below, "less")[1], kernel.constant_of(not_above, "less_or_equal")[1]
+K = range(exponent_of(1 + least), exponent_of(1 + most) + 2)
 
 
 def exact_parts(low, high):
@@ -117,35 +127,23 @@ widest = max(max(map(abs, sums_of(for_any_estimate)(integer))) for integer in ro
 require(widest < Fraction(1, 2 ** 9), "rests are small")
 errors = PolynomialErrors(f"x + ({kernel.exact(p, {total: 'x'})})", widest)
 
-# k ln 2 and the table in heads are exact, and not less than the sum, which makes y_tail exact: multiples of 2^-42 below 2^11.
+# k ln 2 and the table in heads are exact, and not less than the sum, which makes y_tail exact: multiples of 2^-42 below
+# 2^11.
 grid = Fraction(1, 2 ** 42)
-require(all((value / grid).denominator == 1 for value in [ln2_head, *heads]) and all(abs(h) < 1 for h in heads), "heads")
+require(all((value / grid).denominator == 1 and abs(value) < 1 for value in [ln2_head, *heads]), "heads")
 for integer in rows:
-    require(heads[integer - 512] == 0 or abs(heads[integer - 512]) >= max(map(abs, sums_of(for_any_estimate)(integer))), "y_tail")
+    value = abs(heads[integer - 512])
+    require(value == 0 or value >= max(map(abs, sums_of(for_any_estimate)(integer))), "y_tail")
 require(ln2_head - Fraction(36, 100) > widest, "y_tail")
 
 
 def rounding_of_rest(low, high, constant, tail, y_tail_most):
     """Gappa's question: what the roundings make of everything but y."""
-    names = {total: "v", constants: "q", y_tail: "a", sum_tail: "b"}
-    exact = kernel.exact(rest, dict(names))
-    text = kernel.rounded(rest, names)
-    return (f"v = rnd(v_);\nq = rnd(q_);\na = rnd(a_);\nb = rnd(b_);\n{text}{{ v in [{literal(low)}, {literal(high)}] /\\ "
-            f"q in [{literal(constant.low)}, {literal(constant.high)}] /\\ |a| <= {literal(y_tail_most)} /\\ "
-            f"|b| <= {literal(tail)} -> {names[rest]} - {exact} in ? }}\n")
-
-
-def in_units(value, error):
-    """Error before the last sum, and that sum's half a unit. Beyond a power of two from a value below it, it may be a
-    whole one, but no more than the sum is beyond the power, which is a double itself."""
-    units = error / ulp(value.low)
-    if exponent_of(value.low) == exponent_of(value.high + error):
-        return units + Fraction(1, 2)
-    return max(units + Fraction(1, 2), min(2 * units, units + 1))
-
-
-def outward(low, high, unit=Fraction(1, 2 ** 80)):
-    return low // unit * unit, -(-high // unit) * unit
+    return kernel.rounding_question(
+        rest, {total: "v", constants: "q", y_tail: "a", sum_tail: "b"},
+        "v = rnd(v_);\nq = rnd(q_);\na = rnd(a_);\nb = rnd(b_);\n",
+        f"v in [{literal(low)}, {literal(high)}] /\\ q in [{literal(constant.low)}, {literal(constant.high)}] /\\ "
+        f"|a| <= {literal(y_tail_most)} /\\ |b| <= {literal(tail)}")
 
 
 def pieces_of(integer, low, high):
@@ -155,7 +153,8 @@ def pieces_of(integer, low, high):
         # There sum is x.
         side = 1 if high > SMALL * 2 else -1
         top = high if side > 0 else -low
-        ends = [e for i in range(-60, 0) for f in range(8 if i > -20 else 1) if (e := Fraction(2) ** i * (1 + Fraction(f, 8))) < top] + [top]
+        ends = [Fraction(2) ** i * (1 + Fraction(f, 8)) for i in range(-60, 0) for f in range(8 if i > -20 else 1)]
+        ends.append(top)
         ends += [abs(enclose(gmpy2.expm1, side * Fraction(2) ** e).low) for e in range(-60, -8)]
         ends = sorted(e for e in ends if e <= top)
         pieces = list(zip(ends, ends[1:]))
@@ -178,7 +177,8 @@ def bound_for(rests):
         low, high = outward(*sums(integer))
         largest = max(-low, high)
         y_most = max(abs(heads[integer - 512]) + largest, Fraction(1, 2 ** 20))
-        questions.append(rounding_of_rest(low, high, Interval(table_tails[integer - 512]), ulp(largest) / 2, ulp(y_most) / 2))
+        tail = Interval(table_tails[integer - 512])
+        questions.append(rounding_of_rest(low, high, tail, ulp(largest) / 2, ulp(y_most) / 2))
     by_row = dict(zip(flat, (a.magnitude for a in gappa_each(questions))))
     work = [(integer, piece) for integer in rows for piece in pieces_of(integer, *sums(integer))]
     zero = [(i, outward(*piece, ulp(min(map(abs, piece))))) for i, piece in work if i not in by_row]
@@ -187,7 +187,7 @@ def bound_for(rests):
     worst, most_but_y = (Fraction(0), None), Fraction(0)
     for integer, (low, high) in work:
         part, largest = ln_1p(low, high), max(abs(low), abs(high))
-        error = errors.up_to(largest) * part.magnitude
+        error = errors.between(low, high) * part.magnitude
         if integer in by_row:
             off = rows.true(integer) - heads[integer - 512] - table_tails[integer - 512]
             error += off.magnitude + by_row[integer] + EL_ROUNDING * (1 + 2 * largest) + 2 * largest * ulp(largest) / 2
@@ -203,7 +203,7 @@ def bound_for(rests):
                      outward(0, tail_of_ln2)[1]), Fraction(1, 2 ** 62), ulp(Fraction(800)) / 2))
     most_but_y += next(iter(any_rest.values())).magnitude + EL_ROUNDING * 2 + Fraction(1, 2 ** 8) * Fraction(1, 2 ** 62)
     most_but_y += ulp(tail_of_ln2) * 3 / 2  # the product, its sum with the table's tail, and what the table is off
-    for k in [k for k in range(-60, 1025) if k != 0]:
+    for k in [k for k in K if k != 0]:
         error = most_but_y + abs(k) * (ln2_head + ln2_tail - LN2).magnitude
         value = abs(k * LN2) + Interval(Fraction(-36, 100), Fraction(36, 100))
         worst = max(worst, (in_units(value, error), f"k = {k}"))
@@ -212,9 +212,4 @@ def bound_for(rests):
 
 # Below 2^-60 the result is x + p, |p| at most x^2 but where squares are below all numbers: half a unit and 2^-7.
 next_to_zero = Fraction(1, 2) + SMALL * 2 ** 53 * 2
-agree_with_module(kernel, "log1p", ((0.13 * i ** 3 + 1e-3 * i - 0.9,) for i in range(300)), with_estimates(kernel, R))
-bound_here, where = bound_for(this_processor())
-print(f"with this processor's estimates at most {float(bound_here):.4f} ulp ({where})")
-worst = bound_for(for_any_estimate)
-require(worst[0] > next_to_zero, "next to 0")
-report("log1p", 16, *worst)
+report_estimates("log1p", lambda rests: max(bound_for(rests), (next_to_zero, "next to 0")))

@@ -42,19 +42,16 @@ class Raised(Power):
         mantissa, raised = (a, b) if kernel.name(b) == "shift_left" else (b, a)
         whole, = kernel.operands(raised, "shift_left", str(52 - index_bits))
         pattern, kept = kernel.constant_of(whole, "and")
-        require(kernel.same(kernel.bits_of(pattern), self.shifted) and kept == -len(rows), "n/N whole exponents are added")
+        same = kernel.same(kernel.bits_of(pattern), self.shifted)
+        require(same and kept == -len(rows), "n/N whole exponents are added")
         super().__init__(kernel, kernel.bits_of(mantissa), table, rows)
 
-        self.scaled, self.shifter = kernel.constant_of(self.shifted, "add")
         self.n = next(i for i in kernel.users(self.shifted) if kernel.name(i) == "subtract")
-        require(kernel.operands(self.n)[0] == self.shifted and kernel.value(kernel.operands(self.n)[1]) == self.shifter,
-                "n is the shifted sum without its shifter")
-        self.step = Fraction(2) ** (exponent_of(self.shifter) - 52)  # what a unit of the sum's last place is worth
 
 
-def reduction(power, scale, n, nearest, unit, limit):
-    """r = (x - n head) - n tail, for n next to x scale as `nearest` says and R = x - n unit: the largest |r| and where
-    r - R lies. The product with the head and the first difference are exact."""
+def reduction(power, scale, n, chain, unit, limit):
+    """r = (x - n head) - n tail, for n next to x scale as chain(names) says and R = x - n unit: the largest |r| and
+    where r - R lies. The product with the head and the first difference are exact."""
     kernel = power.kernel
     s, tail_product = kernel.operands(power.r, "subtract")
     head_product = kernel.operands(s, "subtract")[1]
@@ -71,7 +68,7 @@ def reduction(power, scale, n, nearest, unit, limit):
 R = x - {n_} * u;
 {{ |x| in [{literal(smallest)}, {literal(limit)}] /\\ u in [{literal(unit.low)}, {literal(unit.high)}]
    -> {n_} - x * {C} in ? /\\ {exact[0]} in ? /\\ {exact[1]} in ? /\\ {r_} in ? /\\ {r_} - R in ? }}
-{n_} - x * {C} -> {nearest(names, C)};
+{n_} - x * {C} -> {chain(names)};
 x - {head_} -> ({exact[0]}) * (-1) + (x * {C} - {n_}) / {C} + {n_} * (1 / {C} - {H});
 {r_} - R -> ({r_} - ({s_} - {tail_})) + ({exact[1]}) - ({exact[0]}) - ({tail_} - {n_} * {T}) + {n_} * ((u - {H}) - {T});
 """)
@@ -84,15 +81,12 @@ x - {head_} -> ({exact[0]}) * (-1) + (x * {C} - {n_}) / {C} + {n_} * (1 / {C} - 
 def bound(power, function, base_to, rest_bound, rest_error):
     """The error of the result in ulp, row by row, and the worst row. |r| is at most rest_bound and r - R within
     rest_error; the base's powers are `function` of x to Sollya, and base_to(x) encloses them."""
-    shape = relative_error(power.polynomial(), function, rest_bound)
+    shape = relative_error(power.polynomial(), function, -rest_bound, rest_bound)
     spread, slip = base_to(Interval(-rest_bound, rest_bound)), base_to(rest_error)
     questions = []
     for row in power.rows:
-        names = power.function_of_row(row)
-        exact = power.kernel.exact(power.y, dict(names))
-        text = power.kernel.rounded(power.y, names)
-        questions.append(f"r = rnd(r_);\n{text}exact = {exact};\n"
-                         f"{{ |r| <= {literal(rest_bound)} -> {names[power.y]} - exact in ? }}\n")
+        questions.append(power.kernel.rounding_question(power.y, power.function_of_row(row), "r = rnd(r_);\n",
+                                                        f"|r| <= {literal(rest_bound)}"))
     largest, where = Fraction(0), None
     for j, (row, rounding) in enumerate(zip(power.rows, gappa_each(questions))):
         fraction = enclose(gmpy2.exp2, Fraction(j, power.N))

@@ -1,7 +1,6 @@
 """What the proofs share: a kernel's operations as its own text wrote them down (tarn-trace), Gappa for what rounding
 does to them, Sollya for what a polynomial leaves of a function, MPFR for tables. Numbers are exact fractions; whatever
 is not one is an interval around the true value."""
-import ctypes
 import json
 import math
 import os
@@ -14,6 +13,9 @@ from fractions import Fraction
 from functools import lru_cache
 
 import gmpy2
+import numpy as np
+
+import lanes
 
 ROOT = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
 TRACE = os.environ.get("TARN_TRACE", os.path.join(ROOT, "build/release/tools/tarn-trace"))
@@ -109,7 +111,7 @@ def enclose(function, argument, bits=200):
     for end, mode in ((argument.low, gmpy2.RoundDown), (argument.high, gmpy2.RoundUp)):
         with gmpy2.local_context(gmpy2.context(), precision=bits, round=mode):
             exact = gmpy2.mpfr(gmpy2.mpq(end.numerator, end.denominator))
-            ends.append(Fraction(*gmpy2.mpfr(function(exact)).as_integer_ratio()))
+            ends.append(Fraction(*map(int, gmpy2.mpfr(function(exact)).as_integer_ratio())))
     return Interval(*ends)
 
 
@@ -118,8 +120,11 @@ def enclose_constant(function, bits=200):
     ends = []
     for mode in (gmpy2.RoundDown, gmpy2.RoundUp):
         with gmpy2.local_context(gmpy2.context(), precision=bits, round=mode):
-            ends.append(Fraction(*function().as_integer_ratio()))
+            ends.append(Fraction(*map(int, function().as_integer_ratio())))
     return Interval(*ends)
+
+
+LN2 = enclose_constant(gmpy2.const_log2)
 
 
 def exponent_of(value):
@@ -134,67 +139,35 @@ def ulp(value, precision=53):
     return Fraction(2) ** (exponent_of(value) - precision + 1)
 
 
+def in_units(value, error, precision=53):
+    """In ulp of a value, of which the magnitudes are an interval: an error before the last operation, and half a unit
+    for that one. Beyond a power of two from a value below it, it may be rounded by a whole unit, but by no more than
+    it is beyond the power, which can be held itself."""
+    units = error / ulp(value.low, precision)
+    if exponent_of(value.low) == exponent_of(value.high + error):
+        return units + Fraction(1, 2)
+    return max(units + Fraction(1, 2), min(2 * units, units + 1))
+
+
+def refined(pieces, bounds_of):
+    """The largest of what bounds_of(pieces) says of each, and where: those near the largest are halved until that
+    changes nothing."""
+    bounds = dict(zip(pieces, bounds_of(pieces)))
+    for _ in range(12):
+        worst = max(bounds.values())
+        halves = []
+        for low, high in [piece for piece, bound in bounds.items() if bound > worst * Fraction(49, 50)]:
+            del bounds[low, high]
+            halves += [(low, (low + high) / 2), ((low + high) / 2, high)]
+        bounds |= zip(halves, bounds_of(halves))
+        if max(bounds.values()) > worst * Fraction(999, 1000):
+            break
+    return max((bound, piece) for piece, bound in bounds.items())
+
+
 # A kernel's operations -----------------------------------------------------------------------------------------------
 
 SIGNS = {"add": "+", "subtract": "-", "multiply": "*", "divide": "/"}
-
-
-WIDTHS = {"f64": 64, "i64": 64, "u64": 64, "f32": 32, "i32": 32, "u32": 32}
-
-
-def pattern_of(lane, value):
-    """The pattern of a fraction rounded to a lane, or of an integer cut to it."""
-    if lane == "f64":
-        return struct.unpack("<Q", struct.pack("<d", float(value)))[0]
-    if lane == "f32":
-        with gmpy2.local_context(gmpy2.ieee(32)):
-            return struct.unpack("<I", struct.pack("<f", float(gmpy2.mpfr(gmpy2.mpq(value.numerator, value.denominator)))))[0]
-    return int(value) % (1 << WIDTHS[lane])
-
-
-def evaluated(operation, patterns, lanes, tables):
-    """One operation on patterns."""
-    name, lane, text = operation["name"], operation["lane"], operation["text"]
-    values = [lane_value(l, p) for l, p in zip(lanes, patterns)]
-    if name == "constant":
-        return int(text)
-    if name in ("bits", "words"):
-        return patterns[0]
-    if name in SIGNS:
-        a, b = values
-        return pattern_of(lane, a + b if name == "add" else a - b if name == "subtract" else a * b if name == "multiply" else a / b)
-    if name in ("and", "or", "xor"):
-        a, b = patterns
-        return a & b if name == "and" else a | b if name == "or" else a ^ b
-    if name == "not":
-        return ~patterns[0] % (1 << WIDTHS[lane])
-    if name == "shift_left":
-        return patterns[0] << int(text) & ((1 << WIDTHS[lane]) - 1)
-    if name == "shift_right":
-        return pattern_of(lane, values[0].__floor__() >> int(text))
-    if name in ("less", "less_or_equal", "greater", "greater_or_equal", "equal", "unequal"):
-        a, b = values
-        holds = {"less": a < b, "less_or_equal": a <= b, "greater": a > b, "greater_or_equal": a >= b, "equal": a == b,
-                 "unequal": a != b}[name]
-        return (1 << WIDTHS[lane]) - 1 if holds else 0
-    if name == "select":
-        return patterns[1] if patterns[0] >> (WIDTHS[lane] - 1) else patterns[2]
-    if name == "smaller":
-        return patterns[0] if values[0] < values[1] else patterns[1]
-    if name == "larger":
-        return patterns[0] if values[0] > values[1] else patterns[1]
-    if name == "gather":
-        table, column = (int(word) for word in text.split())
-        return tables[table]["entries"][patterns[0] * tables[table]["columns"] + column]
-    if name == "round" and text == "0":
-        return pattern_of(lane, Fraction(round(values[0])))  # Python rounds halves to even, too
-    if name == "convert":
-        return pattern_of(lane, values[0])
-    if name == "high_word":
-        return patterns[0] >> 32
-    if name in ("low_word", "widen_unsigned"):
-        return patterns[0] & 0xFFFFFFFF
-    raise Unproved(f"{name} cannot be evaluated")
 
 
 class Kernel:
@@ -207,7 +180,7 @@ class Kernel:
         written = json.loads(ran.stdout)
         self.operations = written["operations"]
         self.tables = written["tables"]
-        self.result = self.operations[-1]["operands"][0]
+        self.result, self.special = self.operations[-1]["operands"]
         reached, pending = set(), [self.result]
         while pending:
             i = pending.pop()
@@ -253,7 +226,7 @@ class Kernel:
     def same(self, i, j):
         """Whether two operations compute the same: the text may say one thing twice."""
         a, b = self.operations[i], self.operations[j]
-        return i == j or ((a["name"], a["lane"], a["text"]) == (b["name"], b["lane"], b["text"]) and a["name"] != "argument"
+        return i == j or (all(a[field] == b[field] for field in ("name", "lane", "text")) and a["name"] != "argument"
                           and len(a["operands"]) == len(b["operands"])
                           and all(self.same(p, q) for p, q in zip(a["operands"], b["operands"])))
 
@@ -272,7 +245,7 @@ class Kernel:
 
     def limit(self):
         """Of a mask that tests the upper word of |x|: the first |x| that is not on the fast path."""
-        word, bound = self.operands(next(i for i in range(len(self.operations) - 1, 0, -1) if self.name(i) == "greater"))
+        word, bound = self.operands(max(i for i in range(len(self.operations)) if self.name(i) == "greater"))
         magnitude, = self.operands(word, "words")
         pattern, mask = self.constant_of(self.operands(magnitude, "bits")[0], "and")
         require(self.bits_of(pattern) in self.arguments and mask == 2 ** 63 - 1, "the mask tests |x|")
@@ -289,17 +262,17 @@ class Kernel:
         lane, columns = self.operations[i]["lane"], table["columns"]
         return [lane_value(lane, p) for p in table["entries"][int(column)::columns]], row
 
-    def evaluate(self, *arguments):
-        """The result's pattern for patterns of arguments, each operation done as the processor does it."""
-        return self.evaluate_from(dict(zip(self.arguments, arguments)), self.result)
-
-    def evaluate_from(self, patterns, i):
-        """One operation's pattern from those that are given, which are added to."""
-        o = self.operations[i]
-        if i not in patterns:
-            operands = [self.evaluate_from(patterns, p) for p in o["operands"]]
-            patterns[i] = evaluated(o, operands, [self.operations[p]["lane"] for p in o["operands"]], self.tables)
-        return patterns[i]
+    def lanes(self, i, given):
+        """What operation i gives on lanes, from operations whose lanes are given; adds to them."""
+        if i not in given:
+            o = self.operations[i]
+            operands = [self.lanes(p, given) for p in o["operands"]]
+            with np.errstate(all="ignore"):
+                given[i] = lanes.operate(o["name"], o["lane"], o["text"], operands, self.tables)
+            if o["name"] == "reciprocal_estimate":
+                given[i] = module_call("invf", 16, "_native", "f32", given[o["operands"][0]])  # the estimate itself
+            require(given[i] is not None, f"{o['name']} {o['text']} cannot be done on lanes")
+        return given[i]
 
     # Text for Gappa and Sollya: `names` says what stands for operations that are not to be written out.
 
@@ -329,14 +302,40 @@ class Kernel:
         names[i] = f"v{i}"
         return text + f"v{i} = {rounding}({names[a]} {SIGNS[self.name(i)]} {names[b]});\n"
 
+    def rounding_question(self, target, names, definitions, assumptions):
+        """Gappa's question: what the roundings up to the target add to it."""
+        exact = self.exact(target, names)
+        names = dict(names)
+        text = self.rounded(target, names)
+        return f"{definitions}{text}{{ {assumptions} -> {names[target]} - {exact} in ? }}\n"
 
-# Gappa and Sollya ------------------------------------------------------------------------------------------------------
+
+class NearestInteger:
+    """n next to x scale, by a shifter that is added to their product and taken away again."""
+
+    def __init__(self, kernel, n):
+        self.n = n
+        self.shifted, shifter = kernel.operands(n, "subtract")
+        self.scaled, self.shifter = kernel.constant_of(self.shifted, "add")
+        require(kernel.value(shifter) == self.shifter, "n is the shifted sum without its shifter")
+        self.x, self.scale = kernel.constant_of(self.scaled, "multiply")
+        require(exponent_of(self.shifter) == 52, "the shifter rounds to integers")
+
+    def chain(self, names, x):
+        """For Gappa: n - x scale by what each step rounds."""
+        n, shifted, scaled = names[self.n], names[self.shifted], names[self.scaled]
+        C, S = literal(self.scale), literal(self.shifter)
+        return f"({n} - ({shifted} - {S})) + ({shifted} - ({scaled} + {S})) + ({scaled} - {x} * {C})"
+
+
+# Gappa and Sollya ----------------------------------------------------------------------------------------------------
 
 @lru_cache(maxsize=None)
 def gappa(script):
     """Gappa's intervals for every question of a script, by the text of the expression; None where its assumptions
     contradict one another."""
-    ran = subprocess.run(["gappa", "-Eprecision=200"], input="@rnd = float<ieee_64, ne>;\n" + script, capture_output=True, text=True)
+    script = "@rnd = float<ieee_64, ne>;\n" + script
+    ran = subprocess.run(["gappa", "-Eprecision=200"], input=script, capture_output=True, text=True)
     text = ran.stdout + ran.stderr
     require(ran.returncode == 0 and "no contradiction" not in text, f"Gappa refuses:\n{text}\n{script}")
     if "anything can be proved" in text:
@@ -363,30 +362,29 @@ def gappa_each(scripts):
         return list(pool.map(one, scripts))
 
 
-def sollya(script):
-    ran = subprocess.run(["sollya", "--warnonstderr"], input="prec = 300; display = dyadic; verbosity = 0;\n" + script + "quit;\n",
-                         capture_output=True, text=True)
-    require("error" not in ran.stderr.lower(), f"Sollya refuses:\n{ran.stderr}\n{script}")
-    return [line for line in ran.stdout.splitlines() if line.strip()]
+def sollya(script, count):
+    """Sollya's answers to a script that asks for so many numbers."""
+    script = f"prec = 300!; display = dyadic!; verbosity = 0!;\n{script}quit;\n"
+    ran = subprocess.run(["sollya", "--warnonstderr"], input=script, capture_output=True, text=True)
+    lines = ran.stdout.split()
+    numbers = all(re.fullmatch(r"-?\d+(b-?\d+)?", line) for line in lines)
+    require(ran.returncode == 0 and len(lines) == count and numbers,
+            f"Sollya refuses:\n{ran.stdout}{ran.stderr}\n{script}")
+    return [fraction(line) for line in lines]
 
 
-def dyadic(text):
-    mantissa, _, exponent = text.strip().partition("b")
-    return Fraction(int(mantissa)) * Fraction(2) ** int(exponent or 0)
-
-
-def relative_error(polynomial, function, bound):
-    """Where polynomial/function - 1 lies for |x| up to a bound. Samples say around which value; the distance from
+def relative_error(polynomial, function, low, high):
+    """Where polynomial/function - 1 lies for x between two ends. Samples say around which value; the distance from
     there is a supremum norm that Sollya proves."""
-    answer = sollya(f"""
-p = canonical({polynomial}); B = {literal(bound)}; e = p / ({function}) - 1;
+    near, norm = sollya(f"""
+p = canonical({polynomial}); A = {literal(low)}; B = {literal(high)}; e = p / ({function}) - 1;
 low = evaluate(e, B); high = low;
-for i from -64 to 63 do {{ v = evaluate(e, i * B / 64 + 1b-99); if (v < low) then low = v; if (v > high) then high = v; }};
+for i from 0 to 127 do {{
+    v = evaluate(e, A + (B - A) * i / 128 + 1b-99); if (v < low) then low = v; if (v > high) then high = v; }};
 near = round((low + high) / 2, 100, RN);
 near;
-sup(supnorm(canonical(p / (1 + near)), {function}, [-B; B], relative, 2^(-20)));
-""")
-    near, norm = dyadic(answer[-2]), dyadic(answer[-1])
+sup(supnorm(canonical(p / (1 + near)), {function}, [A; B], relative, 2^(-20)));
+""", 2)
     return (1 + near) * Interval(1 - norm, 1 + norm) - 1
 
 
@@ -395,18 +393,39 @@ def report(base, width, bound, where):
     print(f"proved {base} {width} {math.ceil(bound * 10000) / 10000:.4f} {where}")
 
 
-def agree_with_module(kernel, base, samples, given=lambda patterns: None):
-    """The trace computes what the module computes: a guard against a trace that misreads its kernel. Lanes one by one,
-    so that the kernel has to be width 1's too. `given` adds to the patterns what cannot be evaluated."""
-    module = os.environ.get("TARN_MODULE", os.path.join(os.path.dirname(TRACE), "../__ocl_tarn_k1.so"))
-    types = {"f64": ctypes.c_double, "f32": ctypes.c_float}
-    lanes = [kernel.operations[i]["lane"] for i in (*kernel.arguments, kernel.result)]
-    function = getattr(ctypes.CDLL(module), f"__ocl_tarn_k1_{base}1")
-    *function.argtypes, function.restype = (types[lane] for lane in lanes)
-    for sample in samples:
-        patterns = {i: pattern_of(lane, Fraction(x)) for i, lane, x in zip(kernel.arguments, lanes, sample)}
-        arguments = [float(lane_value(lane, patterns[i])) for i, lane in zip(kernel.arguments, lanes)]
-        given(patterns)
-        theirs = pattern_of(lanes[-1], Fraction(function(*arguments)))
-        ours = kernel.evaluate_from(patterns, kernel.result)
-        require(ours == theirs, f"{base}{sample}: the trace gives {ours:#x}, the module {theirs:#x}")
+def module_call(base, width, form, lane, *arguments):
+    """The module's own result on lanes, NaN being any NaN."""
+    words = b"".join(argument.view(f"u{argument.dtype.itemsize}").astype(np.uint64).tobytes() for argument in arguments)
+    caller = os.path.join(os.path.dirname(TRACE), "tarn-call")
+    ran = subprocess.run([caller, f"__ocl_tarn_k1_{base}{width}{form}"], input=words, capture_output=True)
+    require(ran.returncode == 0, ran.stderr.decode())
+    return lanes.of_patterns(lane, np.frombuffer(ran.stdout, dtype=np.uint64))
+
+
+def any_lanes(lane, arguments, count=1 << 14):
+    """For each argument lanes of all kinds: all exponents alike, around 1, and special ones."""
+    random, kind = np.random.default_rng(20), lanes.TYPES[lane]
+    word = np.dtype(f"u{np.dtype(kind).itemsize}")
+    info = np.finfo(kind)
+    special = np.array([0, 1, np.inf, np.nan, info.max, info.tiny, info.smallest_subnormal, 0.5, 2], dtype=kind)
+    special = np.concatenate([special, -special])
+    for _ in range(arguments):
+        yield random.permutation(np.concatenate([
+            random.integers(0, np.iinfo(word).max, count, dtype=word, endpoint=True).view(kind),
+            (random.normal(size=count) * 2.0 ** random.integers(-20, 20, count)).astype(kind), np.tile(special, 20)]))
+
+
+def agree_with_module(kernel, base, width=16):
+    """The trace computes what the module computes, where it calls lanes ordinary: a guard against a trace that misreads
+    its kernel."""
+    lane = kernel.operations[kernel.arguments[0]]["lane"]
+    arguments = list(any_lanes(lane, len(kernel.arguments)))
+    given = dict(zip(kernel.arguments, arguments))
+    ours = kernel.lanes(kernel.result, given)
+    ordinary = np.nonzero(~(kernel.lanes(kernel.special, given) < 0))[0]
+    ordinary = ordinary[:len(ordinary) // width * width]
+    require(len(ordinary) > 1000, f"{len(ordinary)} lanes are ordinary")
+    arguments, ours = [argument[ordinary] for argument in arguments], ours[ordinary]
+    theirs = module_call(base, width, "", kernel.operations[kernel.result]["lane"], *arguments)
+    for i in np.nonzero(~lanes.same(ours, theirs))[0]:
+        raise Unproved(f"{base} of {[a[i] for a in arguments]}: the trace gives {ours[i]}, the module {theirs[i]}")

@@ -3,13 +3,13 @@ import glob
 import importlib.util
 import os
 import re
+import resource
 import shutil
 import subprocess
 import sys
-import time
 
 ROOT = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
-LIBRARY = {"proof", "prove", "powers", "sines", "logs"}
+LIBRARY = {"proof", "prove", "powers", "sines", "lanes", "logs", "permitted"}
 WIDTHS_ALIKE = 16  # what a proof of the kernel without a width of its own says
 
 
@@ -43,6 +43,12 @@ def with_bounds(row, bounds):
     return row[:at] + line + row[at:]
 
 
+def processor_seconds():
+    """That ended children, and theirs, have had."""
+    usage = resource.getrusage(resource.RUSAGE_CHILDREN)
+    return usage.ru_utime + usage.ru_stime
+
+
 def main():
     arguments = sys.argv[1:]
     check = "--check" in arguments
@@ -54,23 +60,25 @@ def main():
     missing = [tool for tool in ("gappa", "sollya") if not shutil.which(tool)]
     missing += [] if importlib.util.find_spec("gmpy2") else ["python3-gmpy2"]
     if missing:
-        print(f"scripts/prove: {', '.join(missing)} not installed; see scripts/install-dependencies", file=sys.stderr)
+        print(f"scripts/prove: {', '.join(missing)} not installed; scripts/prove does it", file=sys.stderr)
         return 2
     failed = 0
     for number, name in enumerate(names, 1):
         print(f"[{number}/{len(names)}] {name} ...", end=" ", flush=True)
-        begun = time.monotonic()
-        ran = subprocess.run([sys.executable, os.path.join(ROOT, "proofs", name + ".py")], capture_output=True, text=True)
+        begun = processor_seconds()
+        script = os.path.join(ROOT, "proofs", name + ".py")
+        ran = subprocess.run([sys.executable, script], capture_output=True, text=True)
         proved = re.findall(r"^proved (\S+) (\d+) ([0-9.]+) (.*)$", ran.stdout, re.M)
         if ran.returncode != 0 or not proved:
             print(f"not proved\n{ran.stdout}{ran.stderr}")
             failed = 1
             continue
-        print(f"{time.monotonic() - begun:.0f} s")
+        print(f"{processor_seconds() - begun:.0f} s of a processor")
         for base in sorted({p[0] for p in proved}):
             bounds = {int(width): float(bound) for b, width, bound, _ in proved if b == base}
             for _, width, bound, where in (p for p in proved if p[0] == base):
-                print(f"  {base}{'' if int(width) == WIDTHS_ALIKE else f' at width {width}'}: at most {bound} ulp ({where})")
+                at = "" if int(width) == WIDTHS_ALIKE else f" at width {width}"
+                print(f"  {base}{at}: at most {bound} ulp ({where})")
             path, text, start, end = row_of(base)
             row = with_bounds(text[start:end], bounds)
             if row == text[start:end]:

@@ -5,9 +5,10 @@ from fractions import Fraction
 import gmpy2
 
 import sines
-from proof import Kernel, agree_with_module, exponent_of, literal, report, require
+from proof import Kernel, NearestInteger, agree_with_module, exponent_of, require
 
 kernel = Kernel("sin", 16)
+agree_with_module(kernel, "sin")
 limit = Fraction(2) ** 24
 # The result is y with the sign of x, y the polynomial of r with a sign.
 y = kernel.bits_of(next(o for o in kernel.operands(kernel.bits_of(kernel.result), "xor")))
@@ -16,28 +17,23 @@ r = kernel.bits_of(next(o for o in kernel.operands(kernel.bits_of(signed), "xor"
 # Sine is odd in r as the polynomial is: signs are left away.
 n = kernel.operands(kernel.operands(r, "subtract")[1], "multiply")[0]
 pi = sines.Pieces(kernel, r, n)
-shifted = kernel.operands(n, "subtract")[0]
-t, shifter = kernel.constant_of(shifted, "add")
-scale = kernel.constant_of(t, "multiply")[1]
+nearest = NearestInteger(kernel, n)
 
-
-def nearest(names, C):
-    n_, shifted_, t_, S = names[n], names[shifted], names[t], literal(shifter)
-    return f"({n_} - ({shifted_} - {S})) + ({shifted_} - ({t_} + {S})) + ({t_} - x * {C})"
-
-
-slips, largest_rest = {}, Fraction(0)
+reductions = []
 for binade in range(0, exponent_of(limit)):
-    exact, slips[binade], largest = sines.reduction(kernel, pi, scale, nearest, Fraction(2) ** binade, Fraction(2) ** (binade + 1))
-    require(exact, f"the first two steps are exact from 2^{binade}")
-    largest_rest = max(largest_rest, largest)
+    found = sines.Reduction(kernel, pi, nearest.scale, lambda names: nearest.chain(names, "x"), Fraction(2) ** binade,
+                            Fraction(2) ** (binade + 1))
+    require(found.exact, f"the first two steps are exact from 2^{binade}")
+    reductions.append((binade, found))
 # Below 1, n = 0 as below: r = x.
-require(scale < Fraction(1, 2), "x below 1 is its own rest")
+require(nearest.scale < Fraction(1, 2), "x below 1 is its own rest")
 
-# Next to zero the third step is exact too: what went before are multiples of 2^-52, the product is one of 2^-68.
-agree_with_module(kernel, "sin", ((1.37 * i ** 3,) for i in range(200)))
-worst, (low, high) = sines.main_bound(kernel, y, (r, signed), 2, max(slips.values()), largest_rest)
-near_zero = sines.bound_near_zero(kernel, y, (r, signed), sines.slip_near_zero(slips))
-next_to_zero = sines.largest_error(kernel, sines.next_to_zeros(Fraction(1), limit, sines.NEXT_TO_ZERO), gmpy2.sin)
-print(f"away from 0 {float(worst):.4f}, near 0 {float(near_zero):.4f}, next to 0 {float(next_to_zero):.4f}")
-report("sin", 16, max(worst, near_zero, next_to_zero), f"|r| from {float(low):.6f} to {float(high):.6f}")
+every = [found for _, found in reductions]
+lost = sines.loss(every, 2)
+worst, (low, high) = sines.main_bound(
+    kernel, y, (r, signed), lost, max(found.largest for found in every),
+    sines.one_by_one(kernel, gmpy2.sin, sines.PI, Fraction(0), sines.NEAR_ZERO, limit, lost))
+near_zero = sines.bound_near_zero(kernel, y, (r, signed), sines.slip_near_zero(reductions))
+next_to_zero = sines.largest_error(
+    kernel, sines.doubles_near(Fraction(0), sines.NEXT_TO_ZERO, Fraction(1), limit, sines.PI), gmpy2.sin)
+sines.report_places("sin", worst, near_zero, next_to_zero, f"|r| from {float(low):.6f} to {float(high):.6f}")

@@ -6,11 +6,11 @@ from fractions import Fraction
 import gmpy2
 
 import sines
-from proof import (Interval, Kernel, agree_with_module, dyadic, enclose, exponent_of, gappa, gappa_each, literal, report,
-                   require, sollya, ulp)
+from proof import (Interval, Kernel, NearestInteger, agree_with_module, enclose, exponent_of, gappa_each, in_units,
+                   literal, refined, require, sollya, ulp)
 
-HALF_PI = sines.PI / 2
 kernel = Kernel("tan", 16)
+agree_with_module(kernel, "tan")
 limit = Fraction(128000)
 y = next(i for i in kernel.all("divide"))
 choices = [kernel.operands(o, "select") for o in kernel.operands(y)]
@@ -18,25 +18,17 @@ require(choices[0][1:] == choices[1][:0:-1] and choices[0][0] == choices[1][0], 
 numerator, denominator = choices[0][2], choices[0][1]
 r = next(o for o in kernel.operands(numerator, "multiply") if kernel.name(o) == "subtract")
 n = kernel.operands(kernel.operands(r)[1], "multiply")[0]
-pieces_of_pi = sines.Pieces(kernel, r, n, HALF_PI)
-shifted = kernel.operands(n, "subtract")[0]
-t, shifter = kernel.constant_of(shifted, "add")
-scale = kernel.constant_of(t, "multiply")[1]
+pieces_of_pi = sines.Pieces(kernel, r, n, sines.HALF_PI)
+nearest = NearestInteger(kernel, n)
 square = next(i for i in kernel.all("multiply") if kernel.operands(i) == [r, r])
 
-
-def nearest(names, C):
-    n_, shifted_, t_, S = names[n], names[shifted], names[t], literal(shifter)
-    return f"({n_} - ({shifted_} - {S})) + ({shifted_} - ({t_} + {S})) + ({t_} - x * {C})"
-
-
-slips, largest_rest = {}, Fraction(0)
+reductions = []
 for binade in range(-1, exponent_of(limit) + 1):
-    high = min(Fraction(2) ** (binade + 1), limit)
-    exact, slips[binade], largest = sines.reduction(kernel, pieces_of_pi, scale, nearest, Fraction(2) ** binade, high)
-    require(exact, f"the first two steps are exact from 2^{binade}")
-    largest_rest = max(largest_rest, largest)
-require(scale < 1, "x below 1/2 is its own rest")
+    found = sines.Reduction(kernel, pieces_of_pi, nearest.scale, lambda names: nearest.chain(names, "x"),
+                            Fraction(2) ** binade, min(Fraction(2) ** (binade + 1), limit))
+    require(found.exact, f"the first two steps are exact from 2^{binade}")
+    reductions.append((binade, found))
+require(nearest.scale < 1, "x below 1/2 is its own rest")
 
 
 def tangent(x):
@@ -57,6 +49,7 @@ def convergent(depth):
                 new[power + 1] -= c
             over, under = new, over
         return under, over
+
     def at_one(rest):
         A, B = cut(rest)
         return sum(A) / sum(B)
@@ -64,7 +57,8 @@ def convergent(depth):
 
 
 def quotient_errors(pieces):
-    """For each interval of r, how far P/Q is from tan r / r, as a part: of P B - Q A, a polynomial, Sollya has the norm."""
+    """For each interval of r, how far P/Q is from tan r / r, as a part: of P B - Q A, a polynomial, Sollya has the
+    norm."""
     A, B, part = convergent(12)
     names = {square: "x", r: "1"}
     text = [" + ".join(f"({c.numerator}) * x^{power}" for power, c in enumerate(p)) for p in (A, B)]
@@ -74,27 +68,22 @@ def quotient_errors(pieces):
     for low, high in pieces:
         ends = f"[{literal(low * low)}; {literal(high * high)}]"
         script += f"sup(supnorm(d + 1, 1, {ends}, absolute, 2^(-5)));\ninf(abs(evaluate(q * a, {ends})));\n"
-    numbers = [dyadic(line) for line in sollya(script)[-2 * len(pieces):]]
+    numbers = sollya(script, 2 * len(pieces))
     return [difference / least * (1 + part) + part for difference, least in zip(numbers[::2], numbers[1::2])]
 
 
 def rounding_errors(pieces):
-    """For each interval of r, parts of r P/Q that its roundings are, but for the division's: those of the numerator, the
-    denominator and, through both, of r's square."""
-    questions = []
-    for low, high in pieces:
-        for target in (numerator, denominator):
-            names = {r: "r", square: "z"}
-            exact = kernel.exact(target, dict(names))
-            text = kernel.rounded(target, names)
-            questions.append(f"r = rnd(r_);\nz = rnd(r * r);\n{text}{{ r in [{literal(low)}, {literal(high)}] -> {names[target]} - {exact} in ? }}\n")
-    answers = gappa_each(questions)
+    """For each interval of r, parts of r P/Q that its roundings are, but for the division's: those of the numerator,
+    the denominator and, through both, of r's square."""
+    answers = gappa_each([kernel.rounding_question(target, {r: "r", square: "z"}, "r = rnd(r_);\nz = rnd(r * r);\n",
+                                                   f"r in [{literal(low)}, {literal(high)}]")
+                          for low, high in pieces for target in (numerator, denominator)])
     P, Q = (kernel.exact(target, {r: "1", square: "x"}) for target in (numerator, denominator))
     script = f"p = canonical({P}); q = canonical({Q}); d = canonical(diff(p) * q - p * diff(q));\n"
     for low, high in pieces:
         ends = f"[{literal(low * low)}; {literal(high * high)}]"
         script += f"inf(evaluate(p, {ends}));\ninf(evaluate(q, {ends}));\nsup(abs(evaluate(d, {ends})));\n"
-    numbers = [dyadic(line) for line in sollya(script)[-3 * len(pieces):]]
+    numbers = sollya(script, 3 * len(pieces))
     parts = []
     for i, (low, high) in enumerate(pieces):
         least_p, least_q, slope = numbers[3 * i:3 * i + 3]
@@ -105,35 +94,50 @@ def rounding_errors(pieces):
     return parts
 
 
-def bound(low_end, high_end, roundings, slip):
-    """For |r| between two ends; the largest error in ulp of tan R or its inverse, and where."""
-    cuts = []
-    for e in range(-16, 1):
-        a = enclose(gmpy2.atan, Fraction(2) ** e)
-        cuts += [sines.binary(a.low - 8 * slip), sines.binary(a.high + 8 * slip)]
-    pieces = sines.subdivide(low_end, high_end, cuts, 32)
-    worst = (Fraction(0), None)
-    for (low, high), approximation, rounding in zip(pieces, quotient_errors(pieces), rounding_errors(pieces)):
-        delta = roundings * ulp(high + Fraction(1, 2 ** 40)) / 2 + slip
-        values = tangent(Interval(low - delta, high + delta))
+def cotangent(x):
+    return 1 / tangent(x)
+
+
+def bound(largest_rest, lost, one_by_one):
+    """For |r| from NEAR_ZERO on, in ulp of tan R or its inverse, and where."""
+    def bound_of(piece, approximation, rounding):
+        low, high = piece
+        loss = lost(low, high)
+        values = tangent(Interval(low - loss, high + loss))
         # tan' / tan = 2 / sin 2r
-        part = approximation + rounding + approximation * rounding + delta * (1 / values.low + values.high) * (1 + Fraction(1, 2 ** 30))
-        for value, what in ((values, "tan"), (1 / values, "cot")):
-            before = part * value.high
-            units = before / ulp(value.low)
-            beyond = exponent_of(value.low) != exponent_of(value.high + before)
-            units = max(units + Fraction(1, 2), min(2 * units, units + 1)) if beyond else units + Fraction(1, 2)
-            worst = max(worst, (units, f"{what}, |r| from {float(low):.6f} to {float(high):.6f}"))
-    return worst
+        part = approximation + rounding + approximation * rounding
+        part += loss * (1 / values.low + values.high) * (1 + Fraction(1, 2 ** 30))
+        return max(in_units(value, part * value.high) for value in (values, 1 / values))
+
+    def bounds_of(pieces):
+        return map(bound_of, pieces, quotient_errors(pieces), rounding_errors(pieces))
+
+    def result(upside_down):
+        def of(x):
+            over, under = (kernel.lanes(o, {r: x}) for o in (numerator, denominator))
+            return under / over if upside_down else over / under
+        return of
+
+    crossings = []
+    for e in range(exponent_of(sines.NEAR_ZERO), 1):
+        at = enclose(gmpy2.atan, Fraction(2) ** e)
+        for crossing, upside_down in ((sines.Crossing(at, tangent, e, True), False),
+                                      (sines.Crossing(at, cotangent, -e, False), True)):
+            if crossing.strip[0] >= sines.NEAR_ZERO:
+                crossings.append((crossing, crossing.bound(result(upside_down), lost(*crossing.strip))))
+    pieces = sines.subdivide(sines.NEAR_ZERO, sines.binary(largest_rest + Fraction(1, 2 ** 50)), 8)
+    pieces = sines.less(pieces, [crossing.strip for crossing, _ in crossings[::2]])
+    return sines.largest_of(*refined(pieces, bounds_of), crossings, one_by_one)
 
 
-agree_with_module(kernel, "tan", ((0.137 * i ** 3 * (-1) ** i,) for i in range(90)))
-slip = max(slips.values())
-far = bound(sines.NEAR_ZERO, sines.binary(largest_rest + Fraction(1, 2 ** 50)), 2, slip)
+every = [found for _, found in reductions]
+lost = sines.loss(every, 2)
+worst, (low, high) = bound(max(found.largest for found in every), lost, sines.one_by_one(
+    kernel, gmpy2.tan, sines.HALF_PI, Fraction(0), sines.NEAR_ZERO, limit, lost))
 # Next to zero the reduction rounds once, last: a unit at most of the result, as the quotient's rounding is.
-binades = [(Fraction(2) ** e, Fraction(2) ** (e + 1)) for e in range(-60, exponent_of(sines.NEAR_ZERO))]
-near = 2 + sines.slip_near_zero(slips) + 2 ** 53 * max(
+binades = sines.binades_near_zero()
+near_zero = 2 + sines.slip_near_zero(reductions) + 2 ** 53 * max(
     a + b + a * b for a, b in zip(quotient_errors(binades), rounding_errors(binades)))
-next_to_zero = sines.largest_error(kernel, sines.next_to_zeros(Fraction(1), limit, sines.NEXT_TO_ZERO, HALF_PI), gmpy2.tan)
-print(f"away from 0 {float(far[0]):.4f}, near 0 {float(near):.4f}, next to 0 {float(next_to_zero):.4f}")
-report("tan", 16, *max(far, (near, "|r| near 0"), (next_to_zero, "an argument next to a multiple of pi/2")))
+next_to_zero = sines.largest_error(
+    kernel, sines.doubles_near(Fraction(0), sines.NEXT_TO_ZERO, Fraction(1), limit, sines.HALF_PI), gmpy2.tan)
+sines.report_places("tan", worst, near_zero, next_to_zero, f"|r| from {float(low):.6f} to {float(high):.6f}")

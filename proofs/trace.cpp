@@ -37,7 +37,8 @@ int main(int argc, char** argv) {
         std::puts("{\"operations\": [");
         const char* separator = "";
         for (const TracedOperation& o : trace.operations) {
-            std::printf("%s{\"name\": \"%s\", \"lane\": \"%s\", \"operands\": [", separator, o.name.c_str(), o.lane.c_str());
+            std::printf("%s{\"name\": \"%s\", \"lane\": \"%s\", \"operands\": [", separator, o.name.c_str(),
+                        o.lane.c_str());
             for (std::size_t i = 0; i < o.operands.size(); i++) std::printf("%s%d", i ? ", " : "", o.operands[i]);
             std::printf("], \"text\": \"%s\"}", o.text.c_str());
             separator = ",\n";
@@ -53,6 +54,5 @@ int main(int argc, char** argv) {
         std::puts("]}");
         return 0;
     }
-    return std::fprintf(stderr, "tarn-trace: no kernel of %s at width %s can be written down (of %zu)\n", argv[1], argv[2],
-                        traced_kernels.size()), 2;
+    return std::fprintf(stderr, "tarn-trace: no kernel of %s at width %s can be written down\n", argv[1], argv[2]), 2;
 }

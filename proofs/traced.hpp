@@ -77,7 +77,9 @@ template <class Lane> inline constexpr bool stands_for_vector<Traced<Lane>> = tr
 // The language's operators, between two of these or one and a lane.
 template <class Lane> using TracedMask = Traced<std::conditional_t<sizeof(Lane) == 4, std::int32_t, std::int64_t>>;
 #define TARN_TRACED_OPERATOR(sign, name, Result)                                                                      \
-    template <class L> Result<L> operator sign(Traced<L> a, Traced<L> b) { return Result<L>::of(name, {a.number, b.number}); } \
+    template <class L> Result<L> operator sign(Traced<L> a, Traced<L> b) {                                             \
+        return Result<L>::of(name, {a.number, b.number});                                                              \
+    }                                                                                                                  \
     template <class L> Result<L> operator sign(Traced<L> a, std::type_identity_t<L> b) { return a sign Traced<L>(b); } \
     template <class L> Result<L> operator sign(std::type_identity_t<L> a, Traced<L> b) { return Traced<L>(a) sign b; }
 TARN_TRACED_OPERATOR(+, "add", Traced)
@@ -94,8 +96,12 @@ TARN_TRACED_OPERATOR(>=, "greater_or_equal", TracedMask)
 TARN_TRACED_OPERATOR(==, "equal", TracedMask)
 TARN_TRACED_OPERATOR(!=, "unequal", TracedMask)
 #undef TARN_TRACED_OPERATOR
-template <class L> Traced<L> operator<<(Traced<L> v, int count) { return Traced<L>::of("shift_left", {v.number}, std::to_string(count)); }
-template <class L> Traced<L> operator>>(Traced<L> v, int count) { return Traced<L>::of("shift_right", {v.number}, std::to_string(count)); }
+template <class L> Traced<L> operator<<(Traced<L> v, int count) {
+    return Traced<L>::of("shift_left", {v.number}, std::to_string(count));
+}
+template <class L> Traced<L> operator>>(Traced<L> v, int count) {
+    return Traced<L>::of("shift_right", {v.number}, std::to_string(count));
+}
 template <class L> Traced<L> operator~(Traced<L> v) { return Traced<L>::of("not", {v.number}); }
 template <class L> Traced<L> operator-(Traced<L> v) { return Traced<L>::of("negate", {v.number}); }
 
@@ -103,7 +109,9 @@ template <class L> Traced<L> operator-(Traced<L> v) { return Traced<L>::of("nega
 template <class M, class L> Traced<L> blended(Traced<M> mask, Traced<L> yes, Traced<L> no) {
     return Traced<L>::of("select", {mask.number, yes.number, no.number});
 }
-template <class L> Traced<L> smaller(Traced<L> x, Traced<L> y) { return Traced<L>::of("smaller", {x.number, y.number}); }
+template <class L> Traced<L> smaller(Traced<L> x, Traced<L> y) {
+    return Traced<L>::of("smaller", {x.number, y.number});
+}
 template <class L> Traced<L> larger(Traced<L> x, Traced<L> y) { return Traced<L>::of("larger", {x.number, y.number}); }
 template <Rounding mode, class L> Traced<L> round(Traced<L> x) {
     return Traced<L>::of("round", {x.number}, std::to_string(static_cast<int>(mode)));
@@ -119,12 +127,20 @@ inline Traced<double> to_f64(Traced<std::int32_t> v) { return Traced<double>::of
 inline Traced<double> to_f64_high(Traced<std::int32_t> v) { return to_f64(v); }
 inline Traced<float> to_f32(Traced<std::int32_t> v) { return Traced<float>::of("convert", {v.number}); }
 inline Traced<std::int64_t> to_i64(Traced<std::int32_t> v) { return Traced<std::int64_t>::of("convert", {v.number}); }
-inline Traced<std::int32_t> high_words(Traced<std::int64_t> v) { return Traced<std::int32_t>::of("high_word", {v.number}); }
-inline Traced<std::int32_t> low_words(Traced<std::int64_t> v) { return Traced<std::int32_t>::of("low_word", {v.number}); }
+inline Traced<std::int32_t> high_words(Traced<std::int64_t> v) {
+    return Traced<std::int32_t>::of("high_word", {v.number});
+}
+inline Traced<std::int32_t> low_words(Traced<std::int64_t> v) {
+    return Traced<std::int32_t>::of("low_word", {v.number});
+}
 inline Traced<std::int32_t> upper_words(Traced<std::int64_t> v, Traced<std::int64_t>) { return high_words(v); }
 inline Traced<std::int32_t> lower_words(Traced<std::int64_t> v, Traced<std::int64_t>) { return low_words(v); }
-inline Traced<std::int64_t> widen_unsigned(Traced<std::int32_t> v) { return Traced<std::int64_t>::of("widen_unsigned", {v.number}); }
-inline Traced<float> reciprocal_estimate(Traced<float> x) { return Traced<float>::of("reciprocal_estimate", {x.number}); }
+inline Traced<std::int64_t> widen_unsigned(Traced<std::int32_t> v) {
+    return Traced<std::int64_t>::of("widen_unsigned", {v.number});
+}
+inline Traced<float> reciprocal_estimate(Traced<float> x) {
+    return Traced<float>::of("reciprocal_estimate", {x.number});
+}
 
 // Tables come with their entries, row after row.
 template <class Entry> int traced_table(const Entry* first, std::size_t entries, std::size_t columns) {
@@ -136,17 +152,21 @@ template <class Entry> int traced_table(const Entry* first, std::size_t entries,
     return int(trace.tables.size()) - 1;
 }
 template <class Result, class Entry, class Index>
-Traced<Result> traced_entry(const Entry* first, std::size_t entries, std::size_t columns, Traced<Index> row, int column) {
+Traced<Result> traced_entry(const Entry* first, std::size_t entries, std::size_t columns, Traced<Index> row,
+                            int column) {
     const int table = traced_table(first, entries, columns);
     return Traced<Result>::of("gather", {row.number}, std::to_string(table) + ' ' + std::to_string(column));
 }
-template <class Entry> using GatheredLane = std::conditional_t<std::is_floating_point_v<Entry>, Entry, std::make_signed_t<
-    std::conditional_t<std::is_floating_point_v<Entry>, int, Entry>>>;
+template <class Entry> struct Gathered { using Lane = std::make_signed_t<Entry>; };
+template <> struct Gathered<double> { using Lane = double; };
+template <> struct Gathered<float> { using Lane = float; };
 template <class Entry, std::size_t rows, class Index> auto gather(const Entry (&table)[rows], Traced<Index> row) {
-    return traced_entry<GatheredLane<Entry>>(table, rows, 1, row, 0);
+    return traced_entry<typename Gathered<Entry>::Lane>(table, rows, 1, row, 0);
 }
-template <class Entry, std::size_t rows> auto gather_low(const Entry (&table)[rows], Traced<std::int32_t> row) { return gather(table, row); }
-template <class Entry, std::size_t rows> auto gather_high(const Entry (&table)[rows], Traced<std::int32_t> row) { return gather(table, row); }
+template <class Entry, std::size_t rows>
+auto gather_low(const Entry (&table)[rows], Traced<std::int32_t> row) { return gather(table, row); }
+template <class Entry, std::size_t rows>
+auto gather_high(const Entry (&table)[rows], Traced<std::int32_t> row) { return gather(table, row); }
 template <int column = 0, class Entry, std::size_t rows, std::size_t columns>
 Columns2<Traced<double>> gather_columns(const Entry (&table)[rows][columns], Traced<std::int64_t> row) {
     const auto at = [&](int c) { return traced_entry<double>(&table[0][0], rows * columns, columns, row, c); };
