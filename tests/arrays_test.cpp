@@ -6,6 +6,7 @@
 #include <cfenv>
 #include <fstream>
 #include <map>
+#include <numeric>
 #include <regex>
 #include <set>
 
@@ -193,6 +194,7 @@ TEST_P(ArrayElements, MayLieAnywhere) {
     const auto all = samples(*m.family, 400, 9);
     const std::size_t n = std::min<std::size_t>(all[0].size(), 1003);
     const auto args = picked(all, n, [&](std::size_t i) { return all[0].size() - n + i; });
+    const Shape& s = m.family->shape;
     const Computed aligned(f, args);
     for (const std::size_t offset : {1, 2, 4, 8, 12, 20, 31}) {
         const Computed moved(f, args, offset);
@@ -200,21 +202,28 @@ TEST_P(ArrayElements, MayLieAnywhere) {
         for (std::size_t i = 0; i < n; i++) ASSERT_EQ(moved.difference(i, aligned, i), "") << f.name() << '(' << lanes_text(args, i) << "), " << offset << " bytes on";
     }
 
-    // In the place of an argument.
-    const Shape& s = m.family->shape;
+    // In the place of an argument: long, and of every length that ends in another way, where the last group of lanes begins
+    // among results that are written already.
+    std::vector<std::size_t> lengths(48);
+    std::iota(lengths.begin(), lengths.end(), 1);
+    lengths.push_back(n);
     for (std::size_t place = 0; place < s.args.size(); place++)
         for (const bool second : {false, true}) {
             const Lane result = second ? s.second : s.result;
             if (result == Lane::none || bytes(result) != bytes(s.args[place])) continue;
-            auto in_place = args;
-            Lanes other(second ? s.result : s.second, n);
-            const void* pointers[3] = {};
-            for (std::size_t a = 0; a < args.size(); a++) pointers[a] = in_place[a].data();
-            if (second) f(n, pointers, other.data(), in_place[place].data());
-            else f(n, pointers, in_place[place].data(), other.data());
-            for (std::size_t i = 0; i < n; i++) {
-                const auto expected = (second ? aligned.second : aligned.first).pattern(i);
-                ASSERT_TRUE(same(result, in_place[place].pattern(i), expected)) << f.name() << '(' << lanes_text(args, i) << ") in place of argument " << place;
+            for (const std::size_t count : lengths) {
+                const std::size_t from = n - count;
+                auto in_place = picked(args, count, [&](std::size_t i) { return from + i; });
+                Lanes other(second ? s.result : s.second, count);
+                const void* pointers[3] = {};
+                for (std::size_t a = 0; a < args.size(); a++) pointers[a] = in_place[a].data();
+                if (second) f(count, pointers, other.data(), in_place[place].data());
+                else f(count, pointers, in_place[place].data(), other.data());
+                for (std::size_t i = 0; i < count; i++) {
+                    const auto expected = (second ? aligned.second : aligned.first).pattern(from + i);
+                    ASSERT_TRUE(same(result, in_place[place].pattern(i), expected))
+                        << f.name() << '(' << lanes_text(args, from + i) << ") in place of argument " << place << ", n = " << count;
+                }
             }
         }
 
@@ -367,13 +376,14 @@ TEST(LibraryFile, KeepsLevelsApart) {
         if (line.find("x86-64-v3") != std::string::npos) GTEST_SKIP() << "is all of one level";
     struct Code {
         std::string name;
-        bool avx = false;
+        bool avx = false, sse = false;
         std::set<std::string> leads_to;
     };
     // By address: local names of several translation units are alike.
     std::map<std::string, Code> functions;
     Code* inside = nullptr;
-    const std::regex start("^0*([0-9a-f]+) <(.*)>:$"), vex("^\\s+[0-9a-f]+:\\s+v[a-z]"), jump("(?:call|j[a-z]+)\\s+([0-9a-f]+) <");
+    const std::regex start("^0*([0-9a-f]+) <(.*)>:$"), vex("^\\s+[0-9a-f]+:\\s+v[a-z]"),
+        jump("(?:call|j[a-z]+)\\s+([0-9a-f]+) <");
     for (const auto& line : output("objdump -d --no-show-raw-insn " + path)) {
         std::smatch found;
         if (std::regex_match(line, found, start)) {
@@ -382,9 +392,18 @@ TEST(LibraryFile, KeepsLevelsApart) {
             // One that only jumps on has no instruction of AVX.
             inside->avx = inside->name.starts_with("_ZGVc") || inside->name.starts_with("_ZGVd");
         } else if (inside) {
-            inside->avx |= std::regex_search(line, vex);
+            const bool is_vex = std::regex_search(line, vex);
+            inside->avx |= is_vex, inside->sse |= !is_vex && line.find("%xmm") != std::string::npos;
             if (std::regex_search(line, found, jump)) inside->leads_to.insert(found[1]);
         }
+    }
+    // What has no vector instruction of its own is of the level of what it calls.
+    for (bool more = true; more;) {
+        more = false;
+        for (auto& [address, code] : functions)
+            for (const auto& to : code.leads_to)
+                if (const auto target = functions.find(to); target != functions.end() && target->second.avx && !code.avx && !code.sse)
+                    more = code.avx = true;
     }
     int plain = 0, wide = 0;
     for (const auto& [address, code] : functions) {

@@ -1,6 +1,8 @@
 // The module as a file: its names, what it asks of its surroundings, its instructions.
 #include <gtest/gtest.h>
+#include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <filesystem>
 #include <fstream>
@@ -184,7 +186,7 @@ TEST(Generated, FilesFollowTheTable) {
     const std::map<std::string, std::string> files = {
         {"header", "include/ocl_tarn_k1.h"}, {"map", "src/families/exports.map"}, {"accuracy", "docs/accuracy.md"},
         {"windows-header", "include/ocl_tarn_k1_windows.h"}, {"windows-exports", "src/families/exports.def"},
-        {"windows-imports", "src/families/imports.def"}, {"abi", "docs/abi.md"}, {"contract", "docs/contract.md"},
+        {"windows-imports", "src/families/imports.def"}, {"abi", "docs/abi.md"}, {"contract", "docs/contract.md"}, {"speed", "docs/speed.md"},
         {"opencl", "include/ocl_tarn_k1.cl.h"}, {"mapping", "docs/opencl.md"}, {"arrays", "include/tarn.h"},
         {"simd-header", "include/tarn_simd.h"}, {"loops", "src/arrays/loops.inc"}, {"tarn-map", "src/families/tarn.map"}};
     for (const auto& [what, file] : files) {
@@ -192,8 +194,40 @@ TEST(Generated, FilesFollowTheTable) {
         std::ifstream in(path);
         const std::string present{std::istreambuf_iterator<char>(in), {}};
         // Those that keep what is not generated in them read themselves.
-        const std::string of = what == "abi" || what == "contract" || what == "mapping" ? " \"" + path + '"' : "";
+        const std::string of = what == "abi" || what == "contract" || what == "mapping" || what == "speed" ? " \"" + path + '"' : "";
         EXPECT_EQ(present == text(output('"' + std::string(TARN_EXPORTS) + "\" " + what + of)), true) << file << ": run scripts/generate";
+    }
+}
+
+// So are the pages of the functions, which show what docs/data holds too; no other page lies there.
+TEST(Generated, PagesFollowTheTableAndTheData) {
+    namespace fs = std::filesystem;
+    const fs::path docs = TARN_SOURCE_DIR "/docs", work = fs::temp_directory_path() / ("pages-" + std::to_string(getpid()));
+    fs::create_directories(work / "functions");
+    fs::create_directory_symlink(docs / "data", work / "data");
+    output('"' + std::string(TARN_EXPORTS) + "\" pages " + (work / "functions").string());
+    const auto texts = [](const fs::path& directory) {
+        std::map<std::string, std::string> all;
+        for (const auto& file : fs::directory_iterator(directory)) {
+            if (file.path().extension() != ".md") continue;
+            std::ifstream in(file.path());
+            all[file.path().filename()] = {std::istreambuf_iterator<char>(in), {}};
+        }
+        return all;
+    };
+    const auto made = texts(work / "functions"), present = texts(docs / "functions");
+    fs::remove_all(work);
+    std::set<std::string> groups;
+    for (const Family& f : families()) groups.insert(f.group);
+    EXPECT_EQ(made.size(), groups.size() + 1) << "a page a group, and their list";
+    for (const auto& [name, text] : made) {
+        ASSERT_TRUE(present.count(name)) << name << ": run scripts/generate";
+        EXPECT_TRUE(present.at(name) == text) << name << ": run scripts/generate";
+    }
+    EXPECT_EQ(present.size(), made.size());
+    for (const Family& f : families()) {
+        const auto page = std::find_if(made.begin(), made.end(), [&](const auto& p) { return p.first != "index.md" && p.second.find('`' + f.base + '`') != std::string::npos; });
+        EXPECT_TRUE(page != made.end()) << f.base;
     }
 }
 

@@ -6,7 +6,7 @@ build=$1 source=$2 program=$1/examples/options
 work=$(mktemp -d); trap 'rm -rf "$work"' EXIT
 export POCL_CACHE_DIR=$work
 status=0
-commands=$(awk '/^## / { inside = $0 == "## OpenCL" } inside' "$source/README.md" | awk '/^```/ { block = block ? "" : $0; next } block == "```"')
+commands=$(awk '/^## / { inside = $0 == "## OpenCL" } inside' "$source/README.md" | awk '/^```/ { block = block ? "" : $0; next } block == "```sh"')
 [ "$(wc -l <<< "$commands")" -ge 2 ] || { echo "README.md has no commands for OpenCL"; exit 1; }
 # Of this build, the picture elsewhere; programs that this build has not are left out.
 [ -x "$build/tools/tarn-bench-opencl" ] || commands=$(grep -v tarn-bench-opencl <<< "$commands")

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# The Debian packages of a build and the one for x86-64-v3 beside it, made by README's commands: what is in them, what
+# The Debian packages of a build and the one for x86-64-v3 beside it, made by the commands of docs/build.md: what is in them, what
 # they depend on, and programs made and run with what they unpack to.   packages.sh BUILD SOURCE-DIRECTORY
 set -euo pipefail
 build=$1 source=$2
@@ -16,7 +16,7 @@ if cpack -G DEB --config "$build/CPackConfig.cmake" -B none -D CPACK_PROJECT_CON
 then fail "packs without a build for x86-64-v3"; fi
 grep -q 'no build for x86-64-v3 in ' log && [ -z "$(find . -name '*.deb')" ] || { cat log; fail "does not say what is missing"; }
 
-# README's commands, beside the build; what they install is unpacked here.
+# The page's commands, beside the build; what they install is unpacked here.
 mkdir build packages shims
 ln -s "$build" build/release
 cat > shims/sudo <<'SH'
@@ -25,8 +25,8 @@ cat > shims/sudo <<'SH'
 for package in "${@:3}"; do dpkg-deb -x "$package" root; done
 SH
 chmod +x shims/sudo
-awk '/^## /{ within = $0 == "## Packages" } /^```/{ code = within && /^```sh$/; next } code' "$source/README.md" > commands
-grep -q cpack commands || fail "README has no commands for packages"
+awk '/^## /{ within = $0 == "## Debian packages" } /^```/{ code = within && /^```sh$/; next } code' "$source/docs/build.md" > commands
+grep -q cpack commands || fail "docs/build.md has no commands for packages"
 PATH=$work/shims:$PATH bash -eu commands >log 2>&1 || { tail -n 20 log; exit 1; }
 mv build/packages/*.deb packages
 runtime=$(echo packages/ocl-tarn-k1_*.deb) development=$(echo packages/ocl-tarn-k1-dev_*.deb)

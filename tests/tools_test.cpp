@@ -65,8 +65,11 @@ TEST(Tools, RefuseBadInputInOneLine) {
         "tarn-ulp expf4 --samples many", "tarn-ulp expf4 --samples 10 --plot x.txt", "tarn-ulp expf4 --samples 10 --log /nowhere/log",
         "tarn-ulp expf4 --all --plot /nowhere/x.svg", "PATH=/nowhere tarn-ulp expf4 --all --plot x.svg", "tarn-ulp expf4 --all --samples 10",
         "tarn-ulp powf4 --all", "tarn-ulp exp4 --search 1 --samples 10", "tarn-ulp exp4 --search 1 --log x", "tarn-ulp exp4 --search 0",
-        "tarn-ulp exp4 --csv --json", "tarn-bench nothing", "tarn-bench expf --rounds 0", "tarn-bench expf --v3 /nowhere.so",
-        "tarn-bench expf --json --markdown", "tarn-bench expf --arrays --json", "tarn-bench expf --elements 17", "tarn-tables /nowhere"};
+        "tarn-ulp exp4 --csv --json", "tarn-ulp expf4 --profile x", "tarn-ulp fmodf --profile x", "tarn-ulp sqrt --profile x", "tarn-ulp expf --profile /nowhere/x",
+        "tarn-ulp expf --profile x --all", "tarn-ulp expf --profile x --csv", "tarn-ulp expf --profile x --search 1", "tarn-ulp powf --profile x --from 1 2",
+        "tarn-ulp expf --profile x --from 2 --to 1", "tarn-exports plot /nowhere", "tarn-exports plot /dev/null", "tarn-exports pages /nowhere /nowhere", "tarn-exports pages", "tarn-bench nothing", "tarn-bench expf --rounds 0", "tarn-bench expf --v3 /nowhere.so",
+        "tarn-bench expf --elements 17", "tarn-figures", "tarn-figures peers", "tarn-figures peers /nowhere",
+        "tarn-figures differences /nowhere /nowhere", "tarn-figures group " TARN_SOURCE_DIR "/docs/data/speed.tsv Nothing", "tarn-exports speed /nowhere/page", "tarn-tables /nowhere"};
     for (const auto& command : commands) {
         const Ran ran = run(command + " 2>&1 >/dev/null");
         EXPECT_EQ(ran.status, 2) << command;

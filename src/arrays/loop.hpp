@@ -13,9 +13,9 @@
 namespace tarn {
 namespace {
 
-// Groups of a step: as many as make 16 elements, at least four. Measured: with fewer the processor waits, with more
-// single precision spills. A kernel may want fewer.
-constexpr int groups_in_flight(int lanes) { return lanes < 4 ? 16 / lanes : 4; }
+// Groups of a step: four, or in groups of two lanes as many as make 16 elements, unless the kernel computes its wide calls
+// in parts. Measured: with fewer the processor waits, with more it spills.
+constexpr int groups_in_flight(int lanes, bool in_parts) { return lanes < 4 && !in_parts ? 16 / lanes : 4; }
 
 // A group from consecutive lanes at any address. One that fills half a block of 16 bytes is there twice, so that no
 // lane computes what nobody asked for.
@@ -93,7 +93,7 @@ template <int below, class Lane> TARN_INLINE void copy_few(Lane* to, const Lane*
 // As many lanes in memory.
 template <class Lane, int count> struct Room { alignas(32) Lane lane[count]; };
 
-// Where a step finds its arguments and leaves its results: whole groups, or the first n lanes of one.
+// Where a step finds its arguments and leaves its results: whole groups, or the first n lanes of one, not all.
 struct Whole {
     template <int lanes, int bytes, class Lane> static TARN_INLINE auto load(const Lane* from) { return loaded<lanes, bytes>(from); }
     template <int lanes, class Lane, class V> static TARN_INLINE void store(Lane* to, V group) { put<lanes>(to, group); }
@@ -102,10 +102,9 @@ struct Whole {
 struct Few {
     int n;
     template <int lanes, int bytes, class Lane> TARN_INLINE auto load(const Lane* from) const {
-        return n < lanes ? loaded_few<lanes, bytes>(from, n) : loaded<lanes, bytes>(from);
+        return loaded_few<lanes, bytes>(from, n);
     }
     template <int lanes, class Lane, class V> TARN_INLINE void store(Lane* to, V group) const {
-        if (n >= lanes) return put<lanes>(to, group);
         Room<Lane, lanes> all;
         put<lanes>(all.lane, all_lanes(group));
         copy_few<lanes>(to, all.lane, n);
@@ -137,14 +136,16 @@ struct Settled<K, bytes, R, Types<S...>, Types<A...>> {
     // other.
     [[gnu::noinline, gnu::cold]] static void run(unsigned special, const A*... x, R* value, S*... second) {
         if constexpr (requires { typename K::long_path; }) {
-            while (special != 0) {
-                const int first = __builtin_ctz(special) / lanes * lanes;
-                // Two groups side by side where both are called for.
-                const bool two = special >> first >> lanes & lane_mask(lanes);
-                const unsigned here = special >> first & lane_mask(two ? 2 * lanes : lanes);
-                if (two) by_long_path<2>(here, x + first..., value + first, second + first...);
-                else by_long_path<1>(here, x + first..., value + first, second + first...);
-                special &= ~(here << first);
+            // Two groups side by side where both are called for. Pairs stand in fixed places: a place computed from the
+            // flags would wait for them, where a branch does not.
+            for (std::uint64_t left = special; left != 0; left >>= 2 * lanes) {
+                const unsigned first = left & lane_mask(lanes), next = left >> lanes & lane_mask(lanes);
+                if (first != 0 && next != 0) by_long_path<2>(next << lanes | first, x..., value, second...);
+                else if (first != 0) by_long_path<1>(first, x..., value, second...);
+                else if (next != 0) by_long_path<1>(next, x + lanes..., value + lanes, second + lanes...);
+                ((x += 2 * lanes), ...);
+                value += 2 * lanes;
+                ((second += 2 * lanes), ...);
             }
         } else if constexpr (requires { &K::finish; }) {
             constexpr int few = K::lanes;
@@ -165,7 +166,8 @@ struct Settled<K, bytes, R, Types<S...>, Types<A...>> {
     }
 
 private:
-    template <int count> static TARN_INLINE void by_long_path(unsigned flags, const A*... x, R* value, S*... second) {
+    // Not inline: merged with each other, two groups would be computed one after the other.
+    template <int count> [[gnu::noinline, gnu::cold]] static void by_long_path(unsigned flags, const A*... x, R* value, S*... second) {
         over<typename K::long_path>(std::make_integer_sequence<int, count>{}, flags, x..., value, second...);
     }
     template <class L, int... i>
@@ -187,10 +189,12 @@ private:
         to += g * lanes;
         flags = flags >> (g * lanes) & lane_mask(lanes);
         if (flags == lane_mask(lanes)) return put<lanes>(to, from);
-        Room<Lane, lanes> all;
-        put<lanes>(all.lane, from);
-        for (int i = 0; i < lanes; i++)
-            if (flags >> i & 1) to[i] = all.lane[i];
+        put<lanes>(to, select(mask_of<V>(flags, std::make_integer_sequence<int, lanes>{}), from, loaded<lanes, bytes>(to)));
+    }
+    template <class V, int... i> static TARN_INLINE BitsOf<V> mask_of(unsigned flags, std::integer_sequence<int, i...>) {
+        using Bit = LaneOf<BitsOf<V>>;
+        const BitsOf<V> bit = {(Bit{1} << i)...};
+        return (bit & static_cast<Bit>(flags)) == bit;
     }
 };
 
@@ -204,13 +208,14 @@ template <class K, class R, class... S, class... A>
 struct Array<K, R, Types<S...>, Types<A...>> {
     static constexpr int bytes = native_bytes;
     static constexpr int lanes = K::lanes * (bytes / 16);
-    static constexpr int most = groups_in_flight(lanes), groups = K::blocks_at_a_time < most ? K::blocks_at_a_time : most;
+    static constexpr int groups = groups_in_flight(lanes, K::lanes * K::blocks_at_a_time < 16);
     static constexpr int chunk = groups * lanes;
     static_assert(K::lanes > 1 && chunk <= 32);
 
     static TARN_INLINE void run(std::size_t n, const A*... x, R* r, S*... s) {
         if constexpr (requires { K::lane_by_lane; }) {
-            for (std::size_t i = 0; i < n; i++) lane(x[i]..., r + i, s + i...);
+            // A callout has read its arguments before it writes: a result may lie where an argument lies.
+            for (std::size_t i = 0; i < n; i++) K::callout(x + i..., r + i, s + i...);
         } else {
             const unsigned always = always_special();
             for (; n >= chunk; n -= chunk) {
@@ -226,32 +231,36 @@ struct Array<K, R, Types<S...>, Types<A...>> {
     // One element, as the arrays' last is computed.
     static TARN_INLINE R element(A... x) {
         R result;
-        if constexpr (requires { K::lane_by_lane; }) lane(x..., &result);
+        if constexpr (requires { K::lane_by_lane; }) K::callout(&x..., &result);
         else rest(1, &x..., &result, always_special());
         return result;
     }
 
 private:
-    // A result may lie where an argument lies.
-    static TARN_INLINE void lane(A... x, R* r, S*... s) {
-        R result;
-        K::callout(&x..., &result, s...);
-        *r = result;
-    }
-
     static TARN_INLINE unsigned always_special() {
         if constexpr (requires { &K::every_lane_special; }) return K::every_lane_special() ? ~0u : 0;
         else return 0;
     }
 
-    // Fewer elements than a step of the loop takes, group by group.
+    // Fewer elements than a step of the loop takes.
     [[gnu::noinline]] static void rest(int n, const A*... x, R* r, S*... s, unsigned always) {
-        for (; n > 0; n -= lanes) {
-            over(Few{n < lanes ? n : lanes}, std::integer_sequence<int, 0>{}, x..., r, s..., always);
+        if (n < lanes) over(Few{n}, std::integer_sequence<int, 0>{}, x..., r, s..., always);
+        else by_groups(n, copied(x + (n - lanes))..., x..., r, s..., always);
+    }
+    // The last group begins in the one before: from a copy, since results may lie where the arguments were.
+    static TARN_INLINE void by_groups(int n, const Room<A, lanes>&... last, const A*... x, R* r, S*... s, unsigned always) {
+        for (; n >= lanes; n -= lanes) {
+            over(Whole(), std::integer_sequence<int, 0>{}, x..., r, s..., always);
             ((x += lanes), ...);
             r += lanes;
             ((s += lanes), ...);
         }
+        if (n != 0) over(Whole(), std::integer_sequence<int, 0>{}, last.lane..., r + (n - lanes), s + (n - lanes)..., always);
+    }
+    template <class Lane> static TARN_INLINE Room<Lane, lanes> copied(const Lane* from) {
+        Room<Lane, lanes> all;
+        put<lanes>(all.lane, loaded<lanes, bytes>(from));
+        return all;
     }
 
     // Arguments are read before results are written: they may lie in the same place.

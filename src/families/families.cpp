@@ -4,9 +4,9 @@ namespace tarn {
 namespace {
 
 std::vector<Family> with_conversions(std::vector<Family> rows) {
-    const auto add = [&](std::string base, Lane from, Lane to, std::string formula, std::string special) {
+    const auto add = [&](std::string base, Lane from, Lane to, std::string formula, std::string special, std::string computed) {
         rows.push_back({.base = std::move(base), .shape = converts(from, to), .group = "Conversions",
-                        .formula = std::move(formula), .special = std::move(special)});
+                        .formula = std::move(formula), .special = std::move(special), .computed = std::move(computed)});
     };
     const struct { const char* name; const char* words; } modes[] = {
         {"rte", "to nearest, ties to even"}, {"rtn", "down"}, {"rtp", "up"}, {"rtz", "toward zero"}};
@@ -25,16 +25,19 @@ std::vector<Family> with_conversions(std::vector<Family> rows) {
                         : integer == Lane::i32 ? "Out of range and NaN 0x80000000."
                                                : "Out of range and NaN 0x8000000000000000.";
                     add(std::string("cvtfpto") + name + mode + (sat ? "sat" : "nosat") + f, real, integer,
-                        std::string("x rounded ") + words, outside);
+                        std::string("x rounded ") + words, outside,
+                        "The round instruction first, so that the conversion after it is exact; 64-bit integers are made from doubles.");
                 }
     for (const auto& [f, real] : floats)
         for (const auto& [name, integer] : integers)
             for (const auto& [mode, words] : modes)
                 add(std::string("cvt") + name + "tofp" + mode + f, integer, real, std::string("x rounded ") + words,
-                    "0 gives +0.");
+                    "0 gives +0.",
+                    "The sum of pieces that the format holds, and its exact error for the directed roundings.");
     for (const auto& [mode, words] : modes)
         add(std::string("cvtfp64tofp32") + mode, Lane::f64, Lane::f32, std::string("x rounded ") + words,
-            "-0 is kept; NaN gives a quiet NaN.");
+            "-0 is kept; NaN gives a quiet NaN.",
+            "The processor's conversion, and the neighbour where its result lies on the wrong side of x.");
     return rows;
 }
 

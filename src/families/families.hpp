@@ -43,6 +43,14 @@ struct Interval {
     double low, high;
 };
 
+// How a profile of errors lays its bins over the first argument. By binades they are between two magnitudes (0: the
+// least normal number, the largest one), linear from low to high; one bin to each side has what is left.
+enum class Scale { binades, linear };
+struct Axis {
+    Scale scale = Scale::binades;
+    double low = 0, high = 0;
+};
+
 struct Family {
     std::string base;
     Shape shape;
@@ -53,6 +61,7 @@ struct Family {
     std::string formula;  // with x, y, z the arguments
     std::string domain;   // units and the arguments that have a value
     std::string special;  // zeros, infinities, NaN and what else is not plain
+    std::string computed{};  // how, in a sentence or two
 
     // Errors in units in the last place: what OpenCL allows (0: the result is exact or correctly
     // rounded) and what was measured. A width with a kernel of its own has its own error; half is
@@ -81,6 +90,7 @@ struct Family {
     std::vector<Variant> estimates{};
     // What else a caller would not expect of equal widths and exact values, in a sentence.
     std::string also{};
+    Axis axis{};
     // The largest error of the full form found in the rounding modes that are not to nearest (directed_test).
     double directed = 0;
 

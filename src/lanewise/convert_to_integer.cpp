@@ -69,7 +69,8 @@ template <> struct Indefinite<std::uint32_t(double)> {
     using Signature = std::uint32_t(double);
     template <Rounding mode, Floats V> static TARN_INLINE auto to(V x) {
         const auto r = abs(round<mode>(x));
-        return (Like<V, std::uint32_t>)low_words(select(r < 0x1p32, low_bits(r), std::int64_t{0x80000000}));
+        // Opaque: the compiler would take the low words of all three, not of what is chosen.
+        return (Like<V, std::uint32_t>)low_words(opaque(select(r < 0x1p32, low_bits(r), std::int64_t{0x80000000})));
     }
 };
 template <> struct Clamped<std::uint32_t(double)> {

@@ -4,7 +4,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <filesystem>
 #include <map>
 
 #include "common/opencl.hpp"
@@ -276,18 +275,7 @@ void choices(const cl::Device& device, const cl::Context& context, const std::st
 }  // namespace
 
 int main() try {
-    // What a runtime keeps of programs goes when this does.
-    char cache[] = "/tmp/tarn-opencl-XXXXXX";
-    if (!mkdtemp(cache)) return std::perror("mkdtemp"), 2;
-    const struct Removed {
-        const char* path;
-        ~Removed() {
-            std::error_code ignored;
-            std::filesystem::remove_all(path, ignored);
-        }
-    } removed{cache};
-    setenv("POCL_CACHE_DIR", cache, 1);
-
+    const KernelCache cache;
     const auto device = processor();
     if (!device) return std::puts("skipped: no OpenCL runtime with a processor is installed"), 77;
     std::printf("%s, %s\n", device->getInfo<CL_DEVICE_NAME>().c_str(), device->getInfo<CL_DEVICE_VERSION>().c_str());

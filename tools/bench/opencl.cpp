@@ -7,7 +7,6 @@
 #include <chrono>
 #include <cmath>
 #include <cstdlib>
-#include <filesystem>
 #include <limits>
 #include <map>
 #include <random>
@@ -160,18 +159,8 @@ int main(int argc, char** argv) {
 
     return cli::run(app, argc, argv, [&] {
         const std::vector<Row> rows = rows_of(names);
-        // Kernels kept from another run would not be this module's header's; one thread, whose times are those of other
-        // pages.
-        char cache[] = "/tmp/tarn-opencl-XXXXXX";
-        if (!mkdtemp(cache)) throw cli::Refused("no directory can be made in /tmp");
-        const struct Removed {
-            const char* path;
-            ~Removed() {
-                std::error_code ignored;
-                std::filesystem::remove_all(path, ignored);
-            }
-        } removed{cache};
-        setenv("POCL_CACHE_DIR", cache, 1);
+        const KernelCache cache;
+        // One thread, whose times are those of other pages.
         setenv("POCL_MAX_PTHREAD_COUNT", "1", 1);
         const auto device = processor();
         if (!device) throw cli::Refused("no OpenCL runtime with a processor is installed");

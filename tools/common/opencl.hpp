@@ -8,6 +8,8 @@
 
 #include <dlfcn.h>
 
+#include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <optional>
 #include <sstream>
@@ -35,6 +37,24 @@ inline std::optional<cl::Device> processor() {
     }
     return std::nullopt;
 }
+
+// A directory of our own for what a runtime keeps of programs: what another run left there would not be of this module's
+// header. It goes when this does.
+class KernelCache {
+public:
+    KernelCache() {
+        if (!mkdtemp(path_)) throw std::runtime_error("no directory can be made in /tmp");
+        setenv("POCL_CACHE_DIR", path_, 1);
+    }
+    KernelCache(const KernelCache&) = delete;
+    ~KernelCache() {
+        std::error_code ignored;
+        std::filesystem::remove_all(path_, ignored);
+    }
+
+private:
+    char path_[24] = "/tmp/tarn-opencl-XXXXXX";
+};
 
 // Kernels' calls are bound to what the process shows everybody.
 inline void show_module(const std::string& path) {

@@ -32,13 +32,8 @@ std::string declaration(const Family& f, Variant v) {
 }
 
 // Both precisions of a function are one overloaded name.
-std::string overload(const Family& f) {
-    const std::string shorter = f.base.substr(0, f.base.size() - 1);
-    return f.base.ends_with('f') && find_family(shorter) ? shorter : f.base;
-}
-
 void span_overload(const Family& f, Variant v) {
-    const std::string name = overload(f) + suffix(v);
+    const std::string name = name_of_both(f) + suffix(v);
     std::string spans, pointers, lengths;
     for (const auto& [type, parameter, result] : parameters(f)) {
         spans += std::string(spans.empty() ? "" : ", ") + "std::span<" + (result ? "" : "const ") + c_type(type) + "> " + parameter;

@@ -67,7 +67,8 @@ input patterns where it occurs. "All inputs" means all 2^32 of a single-precisio
 compared with MPFR or with a double-precision value first and MPFR where that could decide: there it is the worst
 error. A directed search (`tarn-ulp NAME --search SECONDS`) climbs from dense samples of every binade, table interval
 and threshold; what it finds is no bound, and a longer one may find more. The tests hold every figure here as a limit.
-Families that are not here give exact or correctly rounded results.
+Families that are not here give exact or correctly rounded results. [The functions' pages](functions/index.md) show the
+largest error in bins of the argument.
 
 "Proved at most" is a bound of the fast path, for all its arguments ([proofs](proofs.md)); where a form starts from the
 processor's estimate of a reciprocal it holds for every estimate within the instruction's promise, which is wider than

@@ -92,11 +92,7 @@ extern "C" {
         }
         std::puts("");
     }
-    std::puts("/* Sine and cosine together. */");
-    for (const Lane t : {Lane::f32, Lane::f64})
-        for (const int width : widths)
-            std::printf("typedef struct tarn_sincos_%s%d { %s sine, cosine; } tarn_sincos_%s%d;\n", stem(t), width,
-                        vector_type(t, width).c_str(), stem(t), width);
+    print_sincos_types();
 
     std::string group;
     for (const Family& f : families()) {

@@ -10,22 +10,19 @@ namespace tarn {
 namespace {
 
 // Without the letter of single precision.
-std::string stem_of(const Family& f) {
-    return f.shape.result == Lane::f32 && f.base.ends_with('f') ? f.base.substr(0, f.base.size() - 1) : f.base;
-}
 bool is_one_of(const std::string& name, std::initializer_list<const char*> names) {
     return std::find(names.begin(), names.end(), name) != names.end();
 }
 
 // Loops call what maps one or two numbers to one, and sincos. Quotients are C's operator, and div a function of C's own.
-bool is_sincos(const Family& f) { return stem_of(f) == "sincos"; }
+bool is_sincos(const Family& f) { return name_of_both(f) == "sincos"; }
 bool in_loops(const Family& f) {
     const Lane t = f.shape.result;
-    return is_sincos(f) || (is_float(t) && (f.shape == unary(t) || f.shape == binary(t)) && !is_one_of(stem_of(f), {"div", "inv"}));
+    return is_sincos(f) || (is_float(t) && (f.shape == unary(t) || f.shape == binary(t)) && !is_one_of(name_of_both(f), {"div", "inv"}));
 }
 // Functions that C has none of: a loop's last elements want them too.
 bool is_missing_in_c(const Family& f) {
-    return is_one_of(stem_of(f), {"sinpi", "cospi", "tanpi", "asinpi", "acospi", "atanpi", "atan2pi", "rsqrt", "rcbrt", "powr",
+    return is_one_of(name_of_both(f), {"sinpi", "cospi", "tanpi", "asinpi", "acospi", "atanpi", "atan2pi", "rsqrt", "rcbrt", "powr",
                                   "maxmag", "minmag"});
 }
 // The lanes of a register of 16 bytes, and whether the kernel of that width is its own.
@@ -124,7 +121,7 @@ extern "C" {
         std::printf("TARN_SIMD %s %s(%s x", is_sincos(f) ? "void" : t.c_str(), f.base.c_str(), t.c_str());
         if (is_sincos(f)) std::printf(", %s* sine, %s* cosine", t.c_str(), t.c_str());
         else if (f.shape.args.size() == 2) std::printf(", %s y", t.c_str());
-        std::printf(") TARN_NOEXCEPT%s;\n", is_missing_in_c(f) ? " TARN_PURE" : stem_of(f) == "lgamma" ? " TARN_PURE_WITHOUT_ERRNO" : "");
+        std::printf(") TARN_NOEXCEPT%s;\n", is_missing_in_c(f) ? " TARN_PURE" : name_of_both(f) == "lgamma" ? " TARN_PURE_WITHOUT_ERRNO" : "");
     });
     std::puts(R"(
 #ifdef __cplusplus

@@ -47,6 +47,7 @@ struct Renewal {
 };
 constexpr Renewal renewals[] = {
     {"comments", comments}, {"contract", contract}, {"abi", conventions}, {"mapping", mapping},
+    {"speed", speed}, {"plot", profile_plot}, {"pages", pages},
 };
 
 }  // namespace

@@ -215,4 +215,17 @@ int renewed(const char* file, const std::string& what, const std::string& text) 
     return 0;
 }
 
+void print_sincos_types() {
+    std::puts("/* Sine and cosine together. */");
+    for (const Lane t : {Lane::f32, Lane::f64})
+        for (const int width : widths)
+            std::printf("typedef struct tarn_sincos_%s%d { %s sine, cosine; } tarn_sincos_%s%d;\n", stem(t), width,
+                        vector_type(t, width).c_str(), stem(t), width);
+}
+
+std::string name_of_both(const Family& f) {
+    const std::string shorter = f.base.substr(0, f.base.size() - 1);
+    return f.base.ends_with('f') && find_family(shorter) ? shorter : f.base;
+}
+
 }  // namespace tarn

@@ -52,4 +52,10 @@ void print_group(const Family& f, std::string& group);
 // As a C comment, in lines of at most `limit` characters.
 void print_comment(const std::string& text, std::size_t limit = 108);
 
+// The types of what the functions give that return sine and cosine.
+void print_sincos_types();
+
+// A function's name without its precision: expf and exp are exp.
+std::string name_of_both(const Family& f);
+
 }  // namespace tarn

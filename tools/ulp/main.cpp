@@ -1,13 +1,15 @@
 // tarn-ulp NAME: the worst error of an export over all its inputs, an interval, random samples, or as far as a
-// directed search finds it.
+// directed search finds it; of a family's kernels in bins of the first argument.
 #include <signal.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <atomic>
+#include <filesystem>
 #include <thread>
 
 #include "ulp/plot.hpp"
+#include "ulp/profile.hpp"
 #include "ulp/search.hpp"
 #include "ulp/sweep.hpp"
 
@@ -33,17 +35,19 @@ public:
     ~Progress() {
         if (drawn_ && terminal_) std::fputs("\n", stderr);
     }
-    void show(double share, double worst) {
+    void show(double share, double worst = -1) {
         const int percent = static_cast<int>(std::min(share, 1.0) * 100);
         if (quiet_ || percent < shown_ + (terminal_ ? 1 : 10)) return;
         shown_ = terminal_ ? percent : percent / 10 * 10, drawn_ = true;
         if (!terminal_) {
-            std::fprintf(stderr, "%d %%, worst %.4g ulp\n", shown_, worst);
+            if (worst < 0) std::fprintf(stderr, "%d %%\n", shown_);
+            else std::fprintf(stderr, "%d %%, worst %.4g ulp\n", shown_, worst);
             return;
         }
         std::string bar(40, '.');
         std::fill_n(bar.begin(), static_cast<std::size_t>(percent) * bar.size() / 100, '#');
-        std::fprintf(stderr, "\r[%s] %3d%%  worst %.4g ulp ", bar.c_str(), percent, worst);
+        std::fprintf(stderr, "\r[%s] %3d%% ", bar.c_str(), percent);
+        if (worst >= 0) std::fprintf(stderr, " worst %.4g ulp ", worst);
     }
 
 private:
@@ -112,7 +116,15 @@ void print_json(const std::vector<Finding>& findings) {
     std::puts((text + "]").c_str());
 }
 
-// Every kernel that has an error: an export for each form of a family and for each width with a kernel of its own.
+// A family's kernels that have an error: an export for each form and for each width with a kernel of its own.
+std::vector<Export> kernels_of(const Family& f) {
+    std::vector<Export> all;
+    for (const auto& own : f.width_full) all.push_back({&f, own.first, Variant::full});
+    for (const Variant v : all_variants)
+        if (f.has(v) && (v != Variant::half || f.half_worst.ulp != 0)) all.push_back({&f, 16, v});
+    return all;
+}
+
 void print_list(const Module& module, bool csv) {
     if (csv) std::puts("export,family,form,width,arguments,allowed,stated,at");
     for (const Family& f : families()) {
@@ -120,21 +132,18 @@ void print_list(const Module& module, bool csv) {
         std::string arguments;
         for (const Lane type : f.shape.args)
             arguments += (arguments.empty() ? "" : " ") + std::string(type == Lane::f32 ? "float" : type == Lane::f64 ? "double" : "int");
-        const auto line = [&](Variant v, int width) {
+        for (const auto& [family, width, v] : kernels_of(f)) {
             const std::string name = f.base + std::to_string(width) + suffix(v);
             const std::string stated = number(f.worst(v, width).ulp), allowed = v == Variant::full ? number(f.allowed) : "-1";
             const char* form = v == Variant::full ? "full" : suffix(v) + 1;
             std::string at;
             for (std::size_t a = 0; a < f.worst(v, width).at.size(); a++)
-                at += (a ? " " : "") + pattern_text(f.shape.args[a], f.worst(v, width).at[a]);
+                at += a ? " " : "", at += pattern_text(f.shape.args[a], f.worst(v, width).at[a]);
             if (csv)
                 std::printf("%s,%s,%s,%d,%s,%s,%s,%s\n", name.c_str(), f.base.c_str(), form, width, arguments.c_str(), allowed.c_str(),
                             stated.c_str(), at.c_str());
             else std::printf("%-20s %-14s stated %s ulp\n", name.c_str(), arguments.c_str(), stated.c_str());
-        };
-        for (const auto& own : f.width_full) line(Variant::full, own.first);
-        for (const Variant v : all_variants)
-            if (f.has(v) && (v != Variant::half || f.half_worst.ulp != 0)) line(v, 16);
+        }
     }
 }
 
@@ -165,11 +174,55 @@ std::uint64_t count_of(const std::string& text) {
     return static_cast<std::uint64_t>(v);
 }
 
+// A family's profile; false where it was interrupted.
+bool profile(const Module& module, const std::string& base, const std::string& path, const std::vector<std::string>& from,
+             const std::vector<std::string>& to, double seconds, unsigned threads, bool quiet) {
+    const Family* family = find_family(base);
+    if (!family) throw cli::Refused("a profile is one of a family, and none is called '" + base + "'");
+    const Truth* truth = truth_of(*family);
+    if (!truth || family->allowed == 0) throw cli::Refused(base + " has no error to measure: it is exact or correctly rounded");
+    for (const auto& given : {from, to})
+        if (given.size() > 1) throw cli::Refused("a profile is one over the first argument: one bound, please");
+    const auto wanted = [&](const Export& e) {
+        const auto function = module.find(e);
+        if (!function) throw cli::Refused("the module has no '" + export_name(e.family->base, e.width, e.variant) + "'");
+        return *function;
+    };
+    std::vector<Target> targets;
+    for (const Export& kernel : kernels_of(*family)) {
+        const Function function = wanted(kernel);
+        targets.push_back({function, false, ranges_of(function, {}, {}, false)});
+        if (truth->second) targets.push_back(targets.back()), targets.back().second = true;
+    }
+    const Lane type = family->shape.args[0];
+    const auto order = [&](const std::vector<std::string>& text, const char* otherwise) {
+        return order_of(type, cli::parse_lane(type, text.empty() ? otherwise : text[0]));
+    };
+    const Range range = {order(from, "-inf"), order(to, "inf")};
+    if (range.low > range.high) throw cli::Refused("the interval is empty");
+    const bool whole = swept_whole(*family);
+    if (whole && seconds > 0) throw cli::Refused(base + " is swept whole, not searched");
+    if (!whole && seconds == 0) seconds = 0.25;
+    if (!std::ofstream(path + ".part")) throw cli::Refused("cannot write " + path);
+
+    stop_at_interrupt();
+    Progress progress(quiet);
+    const auto report = [&](double share) { return progress.show(share), !interrupted; };
+    const Profile found = whole ? sweep_bins(targets, wanted({find_family(base.substr(0, base.size() - 1)), 16, Variant::full}), range, threads, report)
+                                : search_bins(targets, range, seconds, threads, report);
+    if (!found.complete) return std::filesystem::remove(path + ".part"), false;
+    const std::string count = std::to_string(found.measured);
+    write_profile(path, targets, found,
+                  whole ? "All inputs: candidates by the double form, " + count + " of them measured with MPFR, the largest of each bin too."
+                        : "Directed search, " + number(seconds) + " s a bin, " + count + " evaluations: no bound.");
+    return true;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
     CLI::App app{"Measures the worst error of an export: over all inputs, random ones, or by a directed search.", "tarn-ulp"};
-    std::string name, samples_text, log_path, plot_path, module_path = Module::built_path();
+    std::string name, samples_text, log_path, plot_path, profile_path, module_path = Module::built_path();
     std::vector<std::string> from, to;
     bool all = false, second = false, quiet = false, csv = false, json = false, list = false;
     double seconds = 0;
@@ -178,26 +231,29 @@ int main(int argc, char** argv) {
     app.add_option("NAME", name, "an export, such as expf16 or sinf8_native");
     const auto all_flag = app.add_flag("--all", all, "every input between the ends, one argument in single precision");
     const auto samples_option = app.add_option("--samples", samples_text, "so many random inputs (4194304, where nothing else is asked for)");
-    const auto search_option = app.add_option("--search", seconds, "look for the largest error for at most so many seconds")->check(CLI::PositiveNumber);
+    const auto search_option = app.add_option("--search", seconds, "look for the largest error for at most so many seconds (of a profile: a bin)")->check(CLI::PositiveNumber);
     app.add_option("--from", from, "lower end, one for each argument (else -inf)");
     app.add_option("--to", to, "upper end, one for each argument (else inf)");
     app.add_option("--threads", threads, "at most this many at work")->check(CLI::Range(1, 256));
     app.add_option("--seed", seed, "another search of the same kind")->needs(search_option);
     const auto log_option = app.add_option("--log", log_path, "keep the results of a sweep's blocks here, and go on from them");
     const auto plot_option = app.add_option("--plot", plot_path, "draw a sweep's error over the first argument as .svg or .png");
-    app.add_flag("--second", second, "the second result (a search takes both)");
+    const auto profile_option = app.add_option("--profile", profile_path, "write the largest errors of the family NAME in bins of its first argument here");
+    const auto second_flag = app.add_flag("--second", second, "the second result (a search takes both)");
     app.add_flag("--quiet", quiet, "no progress");
     const auto csv_flag = app.add_flag("--csv", csv, "the result as comma-separated values");
-    app.add_flag("--json", json, "the result as JSON")->excludes(csv_flag);
-    app.add_flag("--list", list, "list what can be measured: a line for every kernel");
+    const auto json_flag = app.add_flag("--json", json, "the result as JSON")->excludes(csv_flag);
+    const auto list_flag = app.add_flag("--list", list, "list what can be measured: a line for every kernel");
     app.add_option("--module", module_path, "another module file");
     all_flag->excludes(samples_option);
     search_option->excludes(all_flag)->excludes(samples_option)->excludes(log_option)->excludes(plot_option);
+    for (auto* other : {all_flag, samples_option, log_option, plot_option, second_flag, csv_flag, json_flag, list_flag}) profile_option->excludes(other);
 
     return cli::run(app, argc, argv, [&] {
         const Module module(module_path);
         if (list) return print_list(module, csv), 0;
         if (name.empty()) throw cli::Refused("which export? --list names those that have an error");
+        if (!profile_path.empty()) return profile(module, name, profile_path, from, to, seconds, threads, quiet) ? 0 : 130;
         const std::uint64_t samples = samples_text.empty() ? 1 << 22 : count_of(samples_text);
         Target target{cli::find_function(module, name), second, {}};
         const Shape& shape = target.shape();

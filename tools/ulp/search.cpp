@@ -407,7 +407,17 @@ private:
         return (k + 0.5 * static_cast<double>(random() & 1) + either_sign(random, std::exp2(-60 * unit(random)))) * step;
     }
 
+    // What lies outside of what is searched is drawn anew from within, by the pattern or by the value.
     std::uint64_t draw(std::size_t a, Random& random) {
+        const Lane type = shape_.args[a];
+        const Range& range = target_.ranges[a];
+        const std::uint64_t pattern = draw_anywhere(a, random);
+        if (!is_float(type) || range.has(order_of(type, pattern))) return pattern;
+        const double low = value_of(type, ordered(type, range.low)), high = value_of(type, ordered(type, range.high));
+        if (random() & 1 && std::isfinite(high - low)) return pattern_of(type, low + unit(random) * (high - low));
+        return ordered(type, range.low + (range.high - range.low == ~0ull ? random() : below(random, range.high - range.low + 1)));
+    }
+    std::uint64_t draw_anywhere(std::size_t a, Random& random) {
         const Lane type = shape_.args[a];
         if (!is_float(type)) {
             const std::uint64_t n = any_size(random, 31);
@@ -455,7 +465,8 @@ private:
             if (!std::isfinite(log2) || log2 == 0) return;
             double t = on_a_grid(random, -top, top);
             if (random() & 1) t = top * (2 * unit(random) - 1);
-            const double y = t / log2;
+            // A power of a negative base is one by an integer.
+            const double y = value_of(type, at[0]) < 0 ? std::nearbyint(t / log2) : t / log2;
             if (is_float(other) || std::fabs(y) < 0x1p31) at[1] = pattern_of(other, is_float(other) ? y : std::nearbyint(y));
         } else if (is_float(other)) {
             double q = on_a_grid(random, -2, 2);

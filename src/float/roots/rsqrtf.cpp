@@ -2,7 +2,7 @@
 // exact, and t = y^2 x - 1: three terms of the binomial series. The native and half forms are the
 // estimate itself.
 //
-// Worst error of rsqrtf: 0.9784 ulp at 1.27313543e-38; native and half 2940.
+// Worst error of rsqrtf: 0.9845 ulp at 1.22806715e-38; native and half 4980.
 #include "callout/callouts.hpp"
 #include "frame/exports.hpp"
 
