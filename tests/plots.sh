@@ -19,14 +19,16 @@ refused "$work" nosuch
 "$source/scripts/plot-errors" "$work"
 diff <(cd "$work" && ls) <(cd "$source/docs/functions" && ls -- *.svg) || { echo "other pictures than profiles: scripts/generate"; exit 1; }
 drawn_by=$(tail -qn 1 "$source"/docs/functions/*.svg | sort -u)
-for picture in "$work"/*.svg; do
-    name=$(basename "$picture")
-    python3 -c 'import sys, xml.dom.minidom as m; m.parse(sys.argv[1])' "$picture"
-    grep -q 'largest error, ulp' "$picture" || { echo "$name is empty"; exit 1; }
-    [ "$(stat -c %s "$picture")" -lt 40960 ] || { echo "$name is larger than 40 KiB"; exit 1; }
-    grep -q "($(basename "$name"))" "$source"/docs/functions/*.md || { echo "$name is on no page"; exit 1; }
-done
+python3 - "$work" "$source/docs/functions" <<'PY'
+import pathlib, sys, xml.dom.minidom
+work, functions = map(pathlib.Path, sys.argv[1:])
+pages = "".join(page.read_text() for page in functions.glob("*.md"))
+for picture in work.glob("*.svg"):
+    text = picture.read_text()
+    xml.dom.minidom.parseString(text)
+    assert "largest error, ulp" in text, f"{picture.name} is empty"
+    assert len(text) < 40960, f"{picture.name} is larger than 40 KiB"
+    assert f"({picture.name})" in pages, f"{picture.name} is on no page"
+PY
 [ "$drawn_by" = "<!-- $(gnuplot --version) -->" ] || { echo "skipped: $(gnuplot --version), drawn by $drawn_by"; exit 77; }
-for picture in "$work"/*.svg; do
-    cmp "$picture" "$source/docs/functions/$(basename "$picture")" || { echo "not the picture of its data: scripts/generate"; exit 1; }
-done
+diff -rq "$work" "$source/docs/functions" --exclude='*.md' || { echo "not the pictures of their data: scripts/generate"; exit 1; }
