@@ -56,6 +56,7 @@ while IFS= read -r command <&3; do
     program=${command%% *}
     case $program in
         gcc|clang) command -v "$program" >/dev/null || { echo "skipped: $command"; continue; } ;;
+        TARN_MODULE=build/v3/*) [ -e "${program#*=}" ] && "$source/scripts/has-x86-64-v3" || { echo "skipped: $command"; continue; } ;;
         ./loop_clang|build/*) [ -x "$program" ] || { echo "skipped: $command"; continue; } ;;
     esac
     status=0
