@@ -5,64 +5,19 @@
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <map>
-#include <sstream>
 
 #include "commands.hpp"
-#include "common/truth.hpp"
+#include "figures/profiles.hpp"
 #include "samples.hpp"
+#include "ulp/target.hpp"
 
 namespace tarn::test {
 namespace {
 
-struct Line {
-    Export kernel;
-    bool second;
-    double from, to, ulp;
-    std::vector<std::uint64_t> at;
-    bool wrong;
-};
-
-std::vector<Line> lines_of(const std::string& path) {
-    std::ifstream in(path);
-    std::vector<Line> lines;
-    for (std::string text; std::getline(in, text);) {
-        if (text.starts_with('#') || text.starts_with("kernel\t")) continue;
-        std::vector<std::string> columns(1);
-        for (const char c : text) {
-            if (c == '\t') columns.emplace_back();
-            else columns.back() += c;
-        }
-        Line line{};
-        if (columns.size() != 7 || !parse_export(columns[0], line.kernel)) {
-            ADD_FAILURE() << path << ": " << text;
-            continue;
-        }
-        line.second = columns[1] == "2";
-        const auto number = [&](std::size_t i) { return std::strtod(columns[i].c_str(), nullptr); };
-        line.from = number(2), line.to = number(3), line.ulp = number(4), line.wrong = !columns[6].empty();
-        std::istringstream patterns(columns[5]);
-        for (std::string p; patterns >> p;) line.at.push_back(std::stoull(p, nullptr, 16));
-        lines.push_back(line);
-    }
-    return lines;
-}
-
 // The error of one point, alone in its call.
-double error_at(const Function& f, bool second, const std::vector<std::uint64_t>& at) {
-    const Shape& shape = f.family().shape;
-    std::vector<Lanes> args;
-    std::vector<Real> x;
-    for (std::size_t a = 0; a < at.size(); a++) {
-        args.emplace_back(shape.args[a], 1), args[a].set(0, at[a]);
-        x.push_back(exact(shape.args[a], at[a]));
-    }
-    Lanes result, other;
-    f(args, result, &other);
-    Real t;
-    (second ? truth_of(f.family())->second : truth_of(f.family())->first)(t.value, x.data());
-    return ulp_error(second ? shape.second : shape.result, (second ? other : result).pattern(0), t);
+double error_at(const Module& module, const BinError& bin, const std::vector<std::uint64_t>& at) {
+    return ulp::Target{module.find(bin.kernel).value(), bin.result == 2, {}}.error(at);
 }
 
 // Figures have four digits after the point, or six in all.
@@ -80,11 +35,10 @@ TEST(Profile, HasTheLargestErrorOfEveryBin) {
         char ends[80];
         std::snprintf(ends, sizeof ends, " --from 0x%08x --to 0x%08x", static_cast<unsigned>(pattern_of(Lane::f32, from)), static_cast<unsigned>(pattern_of(Lane::f32, to)));
         output('"' + std::string(TARN_TOOLS_DIR) + "/tarn-ulp\" " + base + " --quiet --threads 2 --profile " + path + ends);
-        const auto lines = lines_of(path);
-        EXPECT_FALSE(lines.empty()) << base;
+        const auto lines = read_profile(path).bins;
         std::map<std::string, int> seen;
         std::size_t inputs = 0;
-        for (const Line& line : lines) {
+        for (const BinError& line : lines) {
             const auto f = module.find(line.kernel);
             ASSERT_TRUE(f) << base;
             const std::string where = f->name() + " from " + std::to_string(line.from) + " to " + std::to_string(line.to);
@@ -92,9 +46,9 @@ TEST(Profile, HasTheLargestErrorOfEveryBin) {
             double worst = 0;
             float x = static_cast<float>(std::max(line.from, static_cast<double>(static_cast<float>(from))));
             for (; x < line.to && x <= static_cast<float>(to); x = std::nextafterf(x, INFINITY), inputs++)
-                worst = std::max(worst, error_at(*f, line.second, {std::bit_cast<std::uint32_t>(x)}));
+                worst = std::max(worst, error_at(module, line, {std::bit_cast<std::uint32_t>(x)}));
             EXPECT_NEAR(line.ulp, worst, digits(worst)) << where;
-            EXPECT_NEAR(line.ulp, error_at(*f, line.second, line.at), digits(worst)) << where;
+            EXPECT_NEAR(line.ulp, error_at(module, line, line.at), digits(worst)) << where;
             EXPECT_FALSE(line.wrong) << where;
         }
         EXPECT_GT(inputs, 500u) << base;
@@ -113,10 +67,9 @@ TEST(ProfileData, AgreesWithTheRows) {
         if (f.full.ulp == 0 || f.allowed == 0 || !truth_of(f)) continue;
         files++;
         const bool swept = f.shape.args.size() == 1 && f.shape.args[0] == Lane::f32;
-        const auto lines = lines_of(directory / (f.base + ".tsv"));
-        EXPECT_FALSE(lines.empty()) << f.base << ": scripts/profile-errors";
+        const auto lines = read_profile(directory / (f.base + ".tsv")).bins;
         std::map<std::pair<Variant, int>, double> largest;
-        for (const Line& line : lines) {
+        for (const BinError& line : lines) {
             ASSERT_EQ(line.kernel.family, &f) << f.base;
             const auto& [family, width, v] = line.kernel;
             const std::string name = export_name(f.base, width, v);
@@ -131,7 +84,7 @@ TEST(ProfileData, AgreesWithTheRows) {
             const bool single = f.shape.args[0] == Lane::f32;
             const double from = single ? static_cast<float>(line.from) : line.from, to = single ? static_cast<float>(line.to) : line.to;
             EXPECT_TRUE(from <= x && x <= to) << name << ' ' << x;
-            EXPECT_NEAR(line.ulp, error_at(module.find(line.kernel).value(), line.second, line.at), digits(line.ulp)) << name << " at " << x;
+            EXPECT_NEAR(line.ulp, error_at(module, line, line.at), digits(line.ulp)) << name << " at " << x;
         }
         for (const auto& [kernel, ulp] : largest) {
             const auto& [v, width] = kernel;

@@ -6,6 +6,7 @@
 #include <map>
 #include <set>
 
+#include "exports/text.hpp"
 #include "samples.hpp"
 
 namespace tarn::test {
@@ -18,11 +19,6 @@ std::vector<Lanes> with_first_negated(std::vector<Lanes> args) {
     return args;
 }
 
-std::string base_of(const Family& f) {
-    const std::string shorter = f.base.substr(0, f.base.size() - 1);
-    return f.base.ends_with('f') && find_family(shorter) ? shorter : f.base;
-}
-
 // Another function of the same precision and form.
 Function other(const Member& m, int width, const std::string& base) {
     return module().find(m.family->shape.args[0] == Lane::f32 ? base + 'f' : base, width, m.variant).value();
@@ -32,7 +28,7 @@ Function other(const Member& m, int width, const std::string& base) {
 class Relations : public testing::TestWithParam<Member> {
 protected:
     const Family& family() const { return *GetParam().family; }
-    bool is_one_of(const std::set<std::string>& bases) const { return bases.contains(base_of(family())); }
+    bool is_one_of(const std::set<std::string>& bases) const { return bases.contains(name_of_both(family())); }
 
     // At every width and on either path of a call.
     void everywhere(const std::function<void(int width, const std::vector<Lanes>& args)>& check) const {
@@ -90,7 +86,7 @@ TEST_P(Relations, ResultsKeepTheirRange) {
         {"atan2", {-pi, pi}},
         {"asinpi", {-0.5, 0.5}}, {"acospi", {0, 1}}, {"atanpi", {-0.5, 0.5}}, {"atan2pi", {-1, 1}}, {"cosh", {1, inf}},
         {"tanh", {-1, 1}}, {"acosh", {0, inf}}, {"erf", {-1, 1}}, {"erfc", {0, 2}}};
-    const auto found = all.find(base_of(family()));
+    const auto found = all.find(name_of_both(family()));
     if (found == all.end() || GetParam().variant != Variant::full) return;
     const Lane type = family().shape.result;
     everywhere([&](int width, const std::vector<Lanes>& args) {

@@ -67,7 +67,7 @@ TEST(Tools, RefuseBadInputInOneLine) {
         "tarn-ulp powf4 --all", "tarn-ulp exp4 --search 1 --samples 10", "tarn-ulp exp4 --search 1 --log x", "tarn-ulp exp4 --search 0",
         "tarn-ulp exp4 --csv --json", "tarn-ulp expf4 --profile x", "tarn-ulp fmodf --profile x", "tarn-ulp sqrt --profile x", "tarn-ulp expf --profile /nowhere/x",
         "tarn-ulp expf --profile x --all", "tarn-ulp expf --profile x --csv", "tarn-ulp expf --profile x --search 1", "tarn-ulp powf --profile x --from 1 2",
-        "tarn-ulp expf --profile x --from 2 --to 1", "tarn-exports plot /nowhere", "tarn-exports plot /dev/null", "tarn-exports pages /nowhere /nowhere", "tarn-exports pages", "tarn-bench nothing", "tarn-bench expf --rounds 0", "tarn-bench expf --v3 /nowhere.so",
+        "tarn-ulp expf --profile x --from 2 --to 1", "tarn-figures profile /nowhere", "tarn-figures profile /dev/null", "tarn-exports pages /nowhere /nowhere", "tarn-exports pages", "tarn-bench nothing", "tarn-bench expf --rounds 0", "tarn-bench expf --v3 /nowhere.so",
         "tarn-bench expf --elements 17", "tarn-figures", "tarn-figures peers", "tarn-figures peers /nowhere",
         "tarn-figures differences /nowhere /nowhere", "tarn-figures group " TARN_SOURCE_DIR "/docs/data/speed.tsv Nothing", "tarn-exports speed /nowhere/page", "tarn-tables /nowhere"};
     for (const auto& command : commands) {

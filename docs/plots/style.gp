@@ -1,9 +1,8 @@
 # What all pictures have in common: sizes and letters as a page 800 pixels wide shows them, and lines that are told apart
 # by their colour (Okabe and Ito's, for every kind of colour vision), by their dashes and by their points.
-# `height` before this is loaded is another height than 360; `png` draws for a viewer without SVG.
+# `height` before this is loaded is another height than 360.
 if (!exists("height")) height = 360
-if (exists("png")) set terminal pngcairo size 800,height font 'DejaVu Sans,10.5' background '#ffffff'
-if (!exists("png")) set terminal svg size 800,height font 'DejaVu Sans, Verdana, Arial, sans-serif,14' background '#ffffff'
+set terminal svg size 800,height font 'DejaVu Sans, Verdana, Arial, sans-serif,14' background '#ffffff'
 set encoding utf8
 
 set linetype 1 linecolor rgb '#0072b2' linewidth 2 dashtype solid      pointtype 7  pointsize 0.5   # blue, discs

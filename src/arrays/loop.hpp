@@ -13,8 +13,8 @@
 namespace tarn {
 namespace {
 
-// Groups of a step: four, or in groups of two lanes as many as make 16 elements, unless the kernel computes its wide calls
-// in parts. Measured: with fewer the processor waits, with more it spills.
+// Groups of a step: four, or in groups of two lanes as many as make 16 elements, unless the kernel computes its wide
+// calls in parts. Measured: with fewer the processor waits, with more it spills.
 constexpr int groups_in_flight(int lanes, bool in_parts) { return lanes < 4 && !in_parts ? 16 / lanes : 4; }
 
 // A group from consecutive lanes at any address. One that fills half a block of 16 bytes is there twice, so that no
@@ -167,7 +167,8 @@ struct Settled<K, bytes, R, Types<S...>, Types<A...>> {
 
 private:
     // Not inline: merged with each other, two groups would be computed one after the other.
-    template <int count> [[gnu::noinline, gnu::cold]] static void by_long_path(unsigned flags, const A*... x, R* value, S*... second) {
+    template <int count>
+    [[gnu::noinline, gnu::cold]] static void by_long_path(unsigned flags, const A*... x, R* value, S*... second) {
         over<typename K::long_path>(std::make_integer_sequence<int, count>{}, flags, x..., value, second...);
     }
     template <class L, int... i>
@@ -189,7 +190,8 @@ private:
         to += g * lanes;
         flags = flags >> (g * lanes) & lane_mask(lanes);
         if (flags == lane_mask(lanes)) return put<lanes>(to, from);
-        put<lanes>(to, select(mask_of<V>(flags, std::make_integer_sequence<int, lanes>{}), from, loaded<lanes, bytes>(to)));
+        const auto mask = mask_of<V>(flags, std::make_integer_sequence<int, lanes>{});
+        put<lanes>(to, select(mask, from, loaded<lanes, bytes>(to)));
     }
     template <class V, int... i> static TARN_INLINE BitsOf<V> mask_of(unsigned flags, std::integer_sequence<int, i...>) {
         using Bit = LaneOf<BitsOf<V>>;
@@ -245,21 +247,23 @@ private:
     // Fewer elements than a step of the loop takes.
     [[gnu::noinline]] static void rest(int n, const A*... x, R* r, S*... s, unsigned always) {
         if (n < lanes) over(Few{n}, std::integer_sequence<int, 0>{}, x..., r, s..., always);
-        else by_groups(n, copied(x + (n - lanes))..., x..., r, s..., always);
+        else by_groups(n, copied(Whole(), x + (n - lanes))..., x..., r, s..., always);
     }
     // The last group begins in the one before: from a copy, since results may lie where the arguments were.
-    static TARN_INLINE void by_groups(int n, const Room<A, lanes>&... last, const A*... x, R* r, S*... s, unsigned always) {
+    static TARN_INLINE void by_groups(int n, const Room<A, lanes>&... last, const A*... x, R* r, S*... s,
+                                      unsigned always) {
         for (; n >= lanes; n -= lanes) {
             over(Whole(), std::integer_sequence<int, 0>{}, x..., r, s..., always);
             ((x += lanes), ...);
             r += lanes;
             ((s += lanes), ...);
         }
-        if (n != 0) over(Whole(), std::integer_sequence<int, 0>{}, last.lane..., r + (n - lanes), s + (n - lanes)..., always);
+        const int back = lanes - n;
+        if (n != 0) over(Whole(), std::integer_sequence<int, 0>{}, last.lane..., r - back, s - back..., always);
     }
-    template <class Lane> static TARN_INLINE Room<Lane, lanes> copied(const Lane* from) {
+    template <class Place, class Lane> static TARN_INLINE Room<Lane, lanes> copied(Place place, const Lane* from) {
         Room<Lane, lanes> all;
-        put<lanes>(all.lane, loaded<lanes, bytes>(from));
+        put<lanes>(all.lane, place.template load<lanes, bytes>(from));
         return all;
     }
 
@@ -290,15 +294,10 @@ private:
     static TARN_INLINE void settle(Place place, unsigned special, const G (&group)[count], const A*... x, R* r, S*... s, R* value,
                                    Room<S, count * lanes>&&... second) {
         (store_second<count>(Whole(), second.lane, group), ...);
-        if constexpr (std::is_same_v<Place, Few>) settle_few(special, filled_up(place, x)..., value, second.lane...);
+        if constexpr (std::is_same_v<Place, Few>) settle_few(special, copied(place, x)..., value, second.lane...);
         else Settled<K, bytes>::run(special, x..., value, second.lane...);
         give<count>(place, r, value);
         (give<count>(place, s, second.lane), ...);
-    }
-    template <class Lane> static TARN_INLINE Room<Lane, lanes> filled_up(Few few, const Lane* from) {
-        Room<Lane, lanes> all;
-        put<lanes>(all.lane, few.load<lanes, bytes>(from));
-        return all;
     }
     static TARN_INLINE void settle_few(unsigned special, const Room<A, lanes>&... x, R* value, S*... second) {
         Settled<K, bytes>::run(special, x.lane..., value, second...);

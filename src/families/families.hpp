@@ -3,6 +3,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cmath>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -93,6 +94,12 @@ struct Family {
     Axis axis{};
     // The largest error of the full form found in the rounding modes that are not to nearest (directed_test).
     double directed = 0;
+
+    // The ends of an axis by binades, as powers of two.
+    Interval binades() const {
+        const bool single = shape.args[0] == Lane::f32;
+        return {axis.low != 0 ? std::log2(axis.low) : single ? -126 : -1022, axis.high != 0 ? std::log2(axis.high) : single ? 128 : 1024};
+    }
 
     bool has(Variant v) const {
         return v == Variant::full || (variants & (v == Variant::native ? native : half)) != 0;

@@ -74,7 +74,7 @@ largest error in bins of the argument.
 processor's estimate of a reciprocal it holds for every estimate within the instruction's promise, which is wider than
 what processors give. What is not on the fast path is not proved.
 
-A bound in brackets is exceeded: those kernels keep their bits. `half` is `native` where it has no line of its own.
+A bound in brackets is exceeded: those kernels keep their bits.
 Written by `tarn-exports accuracy` from the table of families.
 )");
     std::string group;
@@ -85,18 +85,10 @@ Written by `tarn-exports accuracy` from the table of families.
             std::printf("\n## %s\n\n| function | form | OpenCL allows | largest found | proved at most | at | measured over |\n|---|---|---|---|---|---|---|\n",
                         group.c_str());
         }
-        const std::string allowed = f.allowed > 0 ? ulps(f.allowed) : f.allowed == 0 ? "0.5" : "open";
-        const auto line = [&](const std::string& form, const std::string& bound, const Worst& worst, double proved = 0) {
-            if (worst.ulp != 0)
-                std::printf("| `%s` | %s | %s | %s | %s | `%s` | %s |\n", f.base.c_str(), form.c_str(), bound.c_str(),
-                            ulps(worst.ulp).c_str(), proved != 0 ? proved_text(proved).c_str() : "", places(worst, f.shape).c_str(), f.measured.c_str());
-        };
-        line("full", allowed, f.full, f.proved);
-        for (const auto& [width, worst] : f.width_full)
-            line("full, width " + std::to_string(width), f.exceeds(width) ? '(' + allowed + ')' : allowed, worst,
-                 f.proved_at(width));
-        line("native", "open", f.native_worst);
-        line("half", "8192", f.half_worst);
+        for (const auto& [form, allowed, worst, proved] : errors_of_forms(f))
+            std::printf("| `%s` | %s | %s | %s | %s | `%s` | %s |\n", f.base.c_str(), form.c_str(), allowed.c_str(),
+                        ulps(worst->ulp).c_str(), proved != 0 ? proved_text(proved).c_str() : "",
+                        places(*worst, f.shape).c_str(), f.measured.c_str());
     }
 }
 

@@ -47,7 +47,7 @@ struct Renewal {
 };
 constexpr Renewal renewals[] = {
     {"comments", comments}, {"contract", contract}, {"abi", conventions}, {"mapping", mapping},
-    {"speed", speed}, {"plot", profile_plot}, {"pages", pages},
+    {"speed", speed}, {"pages", pages},
 };
 
 }  // namespace

@@ -19,7 +19,6 @@ int contract(const char* file);
 int mapping(const char* file);
 int conventions(const char* file);
 int speed(const char* file);
-int profile_plot(const char* file);
 int pages(const char* directory);
 
 }  // namespace tarn

@@ -10,8 +10,8 @@
 #include <stdexcept>
 
 #include "exports/outputs.hpp"
-#include "exports/profiles.hpp"
 #include "exports/text.hpp"
+#include "figures/profiles.hpp"
 #include "figures/times.hpp"
 
 namespace tarn {
@@ -51,21 +51,10 @@ std::string what_it_is(const Family& f) {
 
 std::string errors_table(const Families& families) {
     std::string text = "| function | form | OpenCL allows | largest error found, ulp | proved at most |\n|---|---|---|---|---|\n";
-    for (const Family* f : families) {
-        const std::string allowed = f->allowed > 0 ? ulps(f->allowed) : f->allowed == 0 ? "0.5" : "open";
-        const auto line = [&](const std::string& form, const std::string& bound, double ulp, double proved = 0) {
-            if (ulp != 0)
-                text += "| " + code(f->base) + " | " + form + " | " + bound + " | " + ulps(ulp) + " | " + (proved != 0 ? proved_text(proved) : "") + " |\n";
-        };
-        const auto full = [&](const std::string& form, int width, const Worst& worst) {
-            line(form, f->exceeds(width) ? '(' + allowed + ')' : allowed, worst.ulp, f->proved_at(width));
-        };
-        const bool own_16 = std::any_of(f->width_full.begin(), f->width_full.end(), [](const auto& own) { return own.first == 16; });
-        if (!own_16) full("full", 16, f->full);
-        for (const auto& [width, worst] : f->width_full) full("full, width " + std::to_string(width), width, worst);
-        line(f->has(Variant::half) && f->half_worst.ulp == 0 ? "native, half" : "native", "open", f->native_worst.ulp);
-        line("half", "8192", f->half_worst.ulp);
-    }
+    for (const Family* f : families)
+        for (const auto& [form, allowed, worst, proved] : errors_of_forms(*f))
+            text += "| " + code(f->base) + " | " + form + " | " + allowed + " | " + ulps(worst->ulp) + " | " +
+                    (proved != 0 ? proved_text(proved) : "") + " |\n";
     std::string measured;
     for (const Family* f : families) measured += (measured.empty() ? "\nMeasured: " : "; ") + code(f->base) + ' ' + f->measured;
     return text + measured + ".\n";

@@ -228,4 +228,17 @@ std::string name_of_both(const Family& f) {
     return f.base.ends_with('f') && find_family(shorter) ? shorter : f.base;
 }
 
+std::vector<FormErrors> errors_of_forms(const Family& f) {
+    const std::string allowed = f.allowed > 0 ? ulps(f.allowed) : f.allowed == 0 ? "0.5" : "open";
+    const auto of_width = [&](int width) { return f.exceeds(width) ? '(' + allowed + ')' : allowed; };
+    std::vector<FormErrors> forms = {{"full", of_width(16), &f.full, f.proved}};
+    for (const auto& [width, worst] : f.width_full)
+        forms.push_back({"full, width " + std::to_string(width), of_width(width), &worst, f.proved_at(width)});
+    const bool shared = f.has(Variant::half) && f.half_worst.ulp == 0;
+    forms.push_back({shared ? "native, half" : "native", "open", &f.native_worst, 0});
+    forms.push_back({"half", "8192", &f.half_worst, 0});
+    std::erase_if(forms, [](const FormErrors& form) { return form.worst->ulp == 0; });
+    return forms;
+}
+
 }  // namespace tarn

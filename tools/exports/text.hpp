@@ -29,6 +29,13 @@ std::string proved_text(double bound);
 std::string listed(const std::vector<std::string>& words);
 std::string listed(const std::vector<int>& numbers);
 std::string widths_text(const std::vector<int>& numbers);
+// A form with a kernel of its own that has errors; what OpenCL allows it is in brackets where it exceeds that.
+struct FormErrors {
+    std::string form, allowed;
+    const Worst* worst;
+    double proved;
+};
+std::vector<FormErrors> errors_of_forms(const Family& f);
 // An argument for people: a pattern as the number it is.
 std::string number(Lane type, std::uint64_t pattern);
 

@@ -15,11 +15,6 @@ struct Difference {
     double size() const { return std::fabs(std::log(ratio())); }
 };
 
-std::string space(const std::string& text, std::size_t width, bool right = true) {
-    const std::string gap(width - std::min(width, text.size()), ' ');
-    return right ? gap + text : text + gap;
-}
-
 }  // namespace
 
 std::string differences(const Times& here, const Times& published, double part, std::size_t most) {
@@ -59,13 +54,13 @@ std::string differences(const Times& here, const Times& published, double part, 
                                  " %; here over published is " + decimals(mean.value(), 2) + " in the geometric mean";
         text += subject + ": " + sums + '\n';
         if (all->empty()) continue;
-        text += "  " + space("row", 24, false) + space("build", 8, false) + space("kind", 8, false) +
-                space("here", 10) + space("published", 11) + space("here/published", 16) + '\n';
+        text += "  " + left("row", 24) + left("build", 8) + left("kind", 8) +
+                right("here", 10) + right("published", 11) + right("here/published", 16) + '\n';
         const std::size_t shown = std::min(most, all->size());
         for (const Difference& d : std::span(*all).first(shown))
-            text += "  " + space(d.name, 24, false) + space(d.build, 8, false) + space(d.what, 8, false) +
-                    space(decimals(d.here, 3), 10) + space(decimals(d.published, 3), 11) +
-                    space(decimals(d.ratio(), 2), 16) + '\n';
+            text += "  " + left(d.name, 24) + left(d.build, 8) + left(d.what, 8) +
+                    right(decimals(d.here, 3), 10) + right(decimals(d.published, 3), 11) +
+                    right(decimals(d.ratio(), 2), 16) + '\n';
         if (shown < all->size()) text += "  and " + std::to_string(all->size() - shown) + " more\n";
         text += '\n';
     }

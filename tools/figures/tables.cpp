@@ -10,13 +10,6 @@ namespace {
 const std::string v3_name = "x86-64-v3";
 const std::vector<std::string> peers_of_calls = {"SLEEF u10", "SLEEF u35", "libmvec", "libm"};
 
-std::string right(const std::string& text, std::size_t space) {
-    return std::string(space - std::min(space, text.size()), ' ') + text;
-}
-std::string left(const std::string& text, std::size_t space) {
-    return text + std::string(space - std::min(space, text.size()), ' ');
-}
-
 const TimedRow* of_build(const std::vector<TimedRow>& rows, const TimedRow& row, const std::string& build) {
     for (const TimedRow& other : rows)
         if (other.name == row.name && other.build == build) return &other;
@@ -120,6 +113,13 @@ std::string item(const std::string& text) {
 }
 
 }  // namespace
+
+std::string right(const std::string& text, std::size_t width) {
+    return std::string(width - std::min(width, text.size()), ' ') + text;
+}
+std::string left(const std::string& text, std::size_t width) {
+    return text + std::string(width - std::min(width, text.size()), ' ');
+}
 
 std::string calls_text(const std::vector<TimedRow>& rows) {
     std::string text =

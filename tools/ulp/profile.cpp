@@ -27,9 +27,8 @@ std::vector<double> edges_of(const Family& family) {
         for (int k = 0; k <= linear; k++) edges.push_back(axis.low + k * (axis.high - axis.low) / linear);
     } else {
         // Whole binades, so many that the bins are no more than a_side a side.
-        const bool single = family.shape.args[0] == Lane::f32;
-        const double low = axis.low != 0 ? axis.low : single ? 0x1p-126 : 0x1p-1022;
-        const int from = std::ilogb(low), to = axis.high != 0 ? std::ilogb(axis.high) : single ? 128 : 1024;
+        const auto [low, high] = family.binades();
+        const int from = static_cast<int>(std::floor(low)), to = static_cast<int>(std::floor(high));
         const int step = (to - from + a_side - 1) / a_side;
         std::vector<double> side;
         for (int k = from; k < to; k += step) side.push_back(std::ldexp(1, k));

@@ -1,4 +1,4 @@
-#include "exports/profiles.hpp"
+#include "figures/profiles.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -7,9 +7,6 @@
 #include <limits>
 #include <sstream>
 #include <stdexcept>
-
-#include "exports/outputs.hpp"
-#include "exports/text.hpp"
 
 namespace tarn {
 namespace {
@@ -26,13 +23,12 @@ std::vector<std::string> columns_of(const std::string& line) {
 class Layout {
 public:
     explicit Layout(const Family& f) : axis_(f.axis) {
-        const bool single = f.shape.args[0] == Lane::f32;
         if (axis_.scale == Scale::linear) {
             beyond_ = (axis_.high - axis_.low) / 48;
             return;
         }
-        low_ = std::log2(axis_.low != 0 ? axis_.low : single ? 0x1p-126 : 0x1p-1022);
-        high_ = axis_.high != 0 ? std::log2(axis_.high) : single ? 128 : 1024;
+        const auto [low, high] = f.binades();
+        low_ = low, high_ = high;
         gap_ = (high_ - low_) / 24;
         beyond_ = axis_.high != 0 ? gap_ : 0;
     }
@@ -123,15 +119,17 @@ ErrorProfile read_profile(const std::string& path) {
         bin.result = columns[1] == "2" ? 2 : 1;
         bin.from = std::strtod(columns[2].c_str(), nullptr), bin.to = std::strtod(columns[3].c_str(), nullptr);
         bin.ulp = std::strtod(columns[4].c_str(), nullptr);
-        bin.found = !columns[5].empty(), bin.wrong = columns[6];
+        std::istringstream patterns(columns[5]);
+        for (std::string pattern; patterns >> pattern;) bin.at.push_back(std::strtoull(pattern.c_str(), nullptr, 16));
+        bin.wrong = !columns[6].empty();
         profile.bins.push_back(bin);
     }
     if (profile.bins.empty()) refuse(path, "a profile without a bin");
     return profile;
 }
 
-int profile_plot(const char* file) try {
-    ErrorProfile profile = read_profile(file);
+std::string profile_figure(const ErrorProfile& measured) {
+    ErrorProfile profile = measured;
     // The full form of most widths first.
     std::stable_sort(profile.bins.begin(), profile.bins.end(), [](const BinError& a, const BinError& b) {
         const auto rank = [](const BinError& bin) { return bin.kernel.variant != Variant::full ? 2 : bin.kernel.width != 16; };
@@ -159,7 +157,7 @@ int profile_plot(const char* file) try {
         }
         end = bin.to;
         least = std::min(least, axis.place(bin.from)), most = std::max(most, axis.place(bin.to));
-        if (!bin.found) continue;
+        if (bin.at.empty()) continue;
         largest = std::max(largest, bin.ulp);
         std::snprintf(text, sizeof text, "%.6g %.4g\n", (axis.place(bin.from) + axis.place(bin.to)) / 2, bin.ulp);
         data += text;
@@ -168,13 +166,14 @@ int profile_plot(const char* file) try {
     const bool loglike = largest > 20 || allowed > 6 * f.full.ulp;
     const double above = std::max({largest, allowed, f.proved});
     const bool several = f.shape.args.size() > 1;
-    std::printf("$data << EOD\n%sEOD\ncount = %d\nnames = '%s'\nstyles = '%s'\n", data.c_str(), count, names.c_str(), styles.c_str());
-    std::printf("title_of_plot = '%s: %s'\n", f.base.c_str(), f.formula.c_str());
-    std::printf("label_of_x = '%s%s'\nleast = %.6g\nmost = %.6g\n%s", several ? "the first argument" : "x", axis.label(least, most), least, most, axis.marks(least, most).c_str());
-    std::printf("loglike = %d\ntop = %.4g\nallowed = %g\nproved = %.5g\n", loglike, loglike ? 3 * above : 1.1 * above, allowed, f.proved);
-    return 0;
-} catch (const std::exception& error) {
-    return std::fprintf(stderr, "tarn-exports: %s\n", error.what()), 2;
+    char numbers[160];
+    std::snprintf(numbers, sizeof numbers, "loglike = %d\ntop = %.4g\nallowed = %g\nproved = %.5g\n", loglike,
+                  loglike ? 3 * above : 1.1 * above, allowed, f.proved);
+    char ends[80];
+    std::snprintf(ends, sizeof ends, "least = %.6g\nmost = %.6g\n", least, most);
+    return "$data << EOD\n" + data + "EOD\ncount = " + std::to_string(count) + "\nnames = '" + names + "'\nstyles = '" + styles +
+           "'\ntitle_of_plot = '" + f.base + ": " + f.formula + "'\nlabel_of_x = '" + (several ? "the first argument" : "x") +
+           axis.label(least, most) + "'\n" + ends + axis.marks(least, most) + numbers;
 }
 
 }  // namespace tarn

@@ -1,5 +1,9 @@
-# The profile of a family's errors. tarn-exports writes what comes before this: $data, a set of lines for each of `count`
-# kernels with their `names` and `styles`, `title_of_plot`, the marks of the x axis, `loglike`, `top`, and the bounds, 0 where there is none.
+# The profile of a family's errors. The figures are gnuplot's own: $data, a set of lines for each of `count` kernels with
+# their `names` and `styles`, `title_of_plot`, the marks of the x axis, `loglike`, `top`, and the bounds, 0 where there is
+# none.
+load data
+load 'style.gp'
+set output picture
 # The title, then the key, both above the data.
 set label title_of_plot at screen 0.5, 0.96 center noenhanced
 set key at screen 0.52, screen 0.93 center top horizontal maxrows 2 width -3
