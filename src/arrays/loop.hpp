@@ -93,6 +93,9 @@ template <int below, class Lane> TARN_INLINE void copy_few(Lane* to, const Lane*
 // As many lanes in memory.
 template <class Lane, int count> struct Room { alignas(32) Lane lane[count]; };
 
+// Vectors one after the other.
+template <class V, int n> struct Row { V of[n]; };
+
 // Where a step finds its arguments and leaves its results: whole groups, or the first n lanes of one, not all.
 struct Whole {
     template <int lanes, int bytes, class Lane> static TARN_INLINE auto load(const Lane* from) { return loaded<lanes, bytes>(from); }
@@ -227,6 +230,10 @@ struct Array<K, R, Types<S...>, Types<A...>> {
                 ((s += chunk), ...);
             }
             if (n != 0) rest(static_cast<int>(n), x..., r, s..., always);
+#ifdef __AVX2__
+            // The compiler does not see that they were in use where all instructions on 32 bytes take them from memory.
+            clear_upper_halves();
+#endif
         }
     }
 
@@ -273,17 +280,35 @@ private:
         constexpr int count = sizeof...(i);
         const auto at = [&](int g) __attribute__((always_inline)) { return K::fast(place.template load<lanes, bytes>(x + g * lanes)...); };
         const decltype(at(0)) group[] = {at(i)...};
+        const auto results = as_stored(value_of(group[i])...);
         if constexpr (requires { group[0].special; }) {
             if (__builtin_expect((flags_of<lanes>((group[i].special | ...)) | always) != 0, 0)) {
                 const unsigned special = ((flags_of<lanes>(group[i].special) << (i * lanes)) | ...) | always;
                 Room<R, count * lanes> value;
-                (put<lanes>(value.lane + i * lanes, value_of(group[i])), ...);
+                store_all<count>(Whole(), value.lane, results);
                 return settle<count>(place, special & place.real() & ~0u >> (32 - count * lanes), group, x..., r, s..., value.lane,
                                      Room<S, count * lanes>()...);
             }
         }
-        (place.template store<lanes>(r + i * lanes, value_of(group[i])), ...);
+        store_all<count>(place, r, results);
         (store_second<count>(place, s, group), ...);
+    }
+    // Half blocks are joined to whole ones before anything else uses them: one shuffle does what would take three.
+    template <class V, class... More> static TARN_INLINE auto as_stored(V first, More... more) {
+        constexpr int count = 1 + sizeof...(More);
+        const Row<V, count> row = {{first, more...}};
+        if constexpr (count == 1 || lanes * sizeof(R) >= 16) {
+            return row;
+        } else {
+            Row<V, count / 2> joined;
+            for (int k = 0; k < count / 2; k++) joined.of[k] = join_halves(row.of[2 * k], row.of[2 * k + 1]);
+            return joined;
+        }
+    }
+    template <int count, class Place, class V, int n>
+    static TARN_INLINE void store_all(Place place, R* to, const Row<V, n>& row) {
+        constexpr int each = count / n * lanes;
+        for (int k = 0; k < n; k++) place.template store<each>(to + k * each, row.of[k]);
     }
     template <int count, class Place, class Second, class G>
     static TARN_INLINE void store_second(Place place, Second* to, const G (&group)[count]) {

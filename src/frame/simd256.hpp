@@ -52,6 +52,9 @@ TARN_INLINE f64x4 sqrt(f64x4 x) { return _mm256_sqrt_pd(x); }
 TARN_INLINE f32x8 fused_multiply_add(f32x8 x, f32x8 y, f32x8 z) { return _mm256_fmadd_ps(x, y, z); }
 TARN_INLINE f64x4 fused_multiply_add(f64x4 x, f64x4 y, f64x4 z) { return _mm256_fmadd_pd(x, y, z); }
 
+// A caller's instructions for 16 bytes would have to keep what is there.
+TARN_INLINE void clear_upper_halves() { _mm256_zeroupper(); }
+
 // Between precisions -----------------------------------------------------------------------------
 
 TARN_INLINE f64x4 widen_low(f32x8 x) { return _mm256_cvtps_pd(low_half(x)); }

@@ -1,6 +1,6 @@
-// tarn-bench FAMILY...: nanoseconds an element of each width beside the libraries found on the machine,
-// in one run: rounds of all of them are interleaved at random and the least of each is shown, so that
-// what else the machine does falls on all alike. With --arrays: libtarn's loops instead of the widths.
+// tarn-bench FAMILY...: nanoseconds an element of each width beside the libraries found on the machine, in one run: turns
+// of a family's are interleaved at random, in several rounds of all families, and the least of each is shown. With
+// --arrays: libtarn's loops instead of the widths.
 #include <benchmark/benchmark.h>
 #include <dlfcn.h>
 
@@ -10,6 +10,7 @@
 #include <map>
 #include <memory>
 #include <random>
+#include <span>
 
 #include "bench/peers.hpp"
 #include "common/arrays.hpp"
@@ -188,6 +189,19 @@ private:
     std::map<std::string, double> ns_;
 };
 
+// One row's entrants take short turns at random: what else the machine does falls on all of them alike.
+void run_row(std::span<const Entrant> row, Least& least) {
+    for (const Entrant& e : row)
+        benchmark::RegisterBenchmark(e.key().c_str(), [&e](benchmark::State& state) {
+            for (auto _ : state) {
+                e.run(*e.buffers);
+                benchmark::ClobberMemory();
+            }
+        })->Repetitions(10)->MinTime(0.0002);
+    benchmark::RunSpecifiedBenchmarks(&least);
+    benchmark::ClearRegisteredBenchmarks();
+}
+
 // An element each. Of few elements the ratio to one call's time is kept, of SLEEF's functions on arrays the nearest.
 Times times_of(const std::vector<Entrant>& entrants, const Least& least, bool arrays) {
     Times times;
@@ -219,7 +233,7 @@ int main(int argc, char** argv) {
     bool variants = false, tsv = false, arrays = false;
     std::string module_path = Module::built_path(), v3_path;
     app.add_option("FAMILY", bases, "families, such as expf (all that the module has, if none is named)");
-    app.add_option("--rounds", rounds, "interleaved rounds, of which the least counts")->check(CLI::Range(1, 10000));
+    app.add_option("--rounds", rounds, "rounds of ten interleaved turns each, of which the least counts")->check(CLI::Range(1, 10000));
     app.add_flag("--variants", variants, "native and half forms too");
     app.add_flag("--tsv", tsv, "the times in lines of tab-separated fields");
     app.add_flag("--arrays", arrays, "functions on arrays, of the libtarn beside each module");
@@ -261,19 +275,17 @@ int main(int argc, char** argv) {
                 }
             }
         }
-        for (const auto& e : entrants)
-            benchmark::RegisterBenchmark(e.key().c_str(), [&e](benchmark::State& state) {
-                for (auto _ : state) {
-                    e.run(*e.buffers);
-                    benchmark::ClobberMemory();
-                }
-            })->Repetitions(rounds)->MinTime(0.002);
         std::string name = "tarn-bench", interleave = "--benchmark_enable_random_interleaving=true";
         char* flags[] = {name.data(), interleave.data()};
         int flag_count = 2;
         benchmark::Initialize(&flag_count, flags);
         Least least;
-        benchmark::RunSpecifiedBenchmarks(&least);
+        for (int round = 0; round < rounds; round++)
+            for (auto first = entrants.begin(); first != entrants.end();) {
+                const auto last = std::find_if(first, entrants.end(), [&](const Entrant& e) { return e.row != first->row; });
+                run_row({first, last}, least);
+                first = last;
+            }
         const Times times = times_of(entrants, least, arrays);
         std::fputs((tsv ? times.text() : arrays ? arrays_text(times.rows(elements > in_cache ? "memory" : "array")) : calls_text(times.rows("call"))).c_str(), stdout);
         return 0;
