@@ -24,9 +24,31 @@ using namespace tarn;
 std::size_t elements = 1024;  // inputs, results and tables stay in the first cache
 constexpr std::size_t in_cache = 1 << 18;  // beyond it an array is one of megabytes
 
+// Lanes that begin at a place of a page of their own: a load whose address differs in the page alone from that of a store
+// just before waits for it, and chance would decide which array's do.
+class Array {
+public:
+    Array(const Lanes& lanes, std::size_t place)
+        : type_(lanes.type()), size_(lanes.size()), pages_(bytes() / sizeof(Page) + 2), data_(pages_.data()->bytes + place * 832) {
+        std::memcpy(data_, lanes.data(), bytes());
+    }
+    Array(Array&&) = default;
+    std::byte* data() { return data_; }
+    const std::byte* data() const { return data_; }
+    std::size_t bytes() const { return size_ * static_cast<std::size_t>(tarn::bytes(type_)); }
+
+private:
+    struct alignas(4096) Page { std::byte bytes[4096]; };
+    Lane type_;
+    std::size_t size_;
+    std::vector<Page> pages_;
+    std::byte* data_;
+};
+
 struct Buffers {
-    std::vector<Lanes> args;
-    Lanes result, second;
+    std::vector<Array> args, results;
+    std::byte* result() { return results[0].data(); }
+    std::byte* second() { return results[1].data(); }
 };
 
 // A way to compute a family on all elements.
@@ -44,17 +66,18 @@ std::shared_ptr<Buffers> inputs(const Family& f, bool large) {
     std::mt19937_64 random(1);
     for (std::size_t a = 0; a < f.shape.args.size(); a++) {
         const Lane type = f.shape.args[a];
-        b->args.emplace_back(type, elements);
+        Lanes lanes(type, elements);
         for (std::size_t i = 0; i < elements; i++) {
             const double u = static_cast<double>(random() >> 11) * 0x1p-53;
             const Interval usual = a < f.usual.size() ? f.usual[a] : is_float(type) ? Interval{0.1, 10} : Interval{1, 10};
             double v = usual.low * (1 - u) + usual.high * u;
             if (large) v = f.switches_above * std::exp2(u * (type == Lane::f32 ? 114 : 1000));
-            b->args[a].set(i, pattern_of(type, is_float(type) ? v : std::floor(v)));
+            lanes.set(i, pattern_of(type, is_float(type) ? v : std::floor(v)));
         }
+        b->args.emplace_back(lanes, a);
     }
-    b->result = Lanes(f.shape.result, elements);
-    b->second = Lanes(f.shape.second, elements);
+    for (const Lane type : {f.shape.result, f.shape.second})
+        b->results.emplace_back(Lanes(type, type == Lane::none ? 0 : elements), f.shape.args.size() + b->results.size());
     return b;
 }
 
@@ -63,7 +86,7 @@ std::function<void(Buffers&)> ours(const Function& f) {
     return [=, batch = f.batch(), address = f.address()](Buffers& b) {
         const std::byte* pointers[3] = {};
         for (std::size_t a = 0; a < b.args.size(); a++) pointers[a] = b.args[a].data();
-        batch(address, pointers, b.result.data(), b.second.data(), elements / stored);
+        batch(address, pointers, b.result(), b.second(), elements / stored);
     };
 }
 
@@ -72,7 +95,7 @@ std::function<void(Buffers&)> loop(const ArrayFunction& f, std::size_t n) {
     return [=](Buffers& b) {
         const void* pointers[3] = {};
         for (std::size_t a = 0; a < b.args.size(); a++) pointers[a] = b.args[a].data();
-        f(n, pointers, b.result.data(), b.second.data());
+        f(n, pointers, b.result(), b.second());
     };
 }
 
@@ -84,7 +107,7 @@ std::function<void(Buffers&)> peer(const bench::Runs& runs, void* address, const
     return [=, run = pair ? runs.pair : runs.of[f.shape.args.size() - 1]](Buffers& b) {
         const std::byte* in[3] = {};
         for (std::size_t a = 0; a < b.args.size(); a++) in[a] = b.args[a].data();
-        run(address, in, room->empty() ? b.result.data() : room->data(), b.second.data(), size);
+        run(address, in, room->empty() ? b.result() : room->data(), b.second(), size);
     };
 }
 
@@ -158,15 +181,13 @@ void add_arrays(const Family& f, Variant v, const Level& level, const Module& mo
     to.push_back({row, level.key, "w16", ours(call), b});
     to.push_back({row, level.key, "array", loop(*array, elements), b});
     to.push_back({row, level.key, "copy", [](Buffers& buffers) {
-        for (const Lanes& arg : buffers.args)
-            for (Lanes* result : {&buffers.result, &buffers.second})
-                copy(arg.data(), result->data(), std::min(arg.size() * static_cast<std::size_t>(bytes(arg.type())),
-                                                           result->size() * static_cast<std::size_t>(bytes(result->type()))));
+        for (const Array& arg : buffers.args)
+            for (Array& result : buffers.results) copy(arg.data(), result.data(), std::min(arg.bytes(), result.bytes()));
     }, b});
     to.push_back({row, level.key, one_call, [=, batch = call.batch(), address = call.address()](Buffers& buffers) {
         const std::byte* pointers[3] = {};
         for (std::size_t a = 0; a < buffers.args.size(); a++) pointers[a] = buffers.args[a].data();
-        batch(address, pointers, buffers.result.data(), buffers.second.data(), 1);
+        batch(address, pointers, buffers.result(), buffers.second(), 1);
     }, b});
     for (const std::size_t n : few) to.push_back({row, level.key, "n=" + std::to_string(n), loop(*array, n), b});
 }
