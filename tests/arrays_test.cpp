@@ -188,6 +188,54 @@ TEST_P(ArrayElements, AreNotTouchedByNeighbours) {
     }
 }
 
+// Every lane of two steps special alone and ordinary alone, all pairs of a step, and any others: long paths are taken for
+// groups and pairs of groups, and give back only what they were asked for. No two elements are alike.
+TEST_P(ArrayElements, AreSpecialInAnyLanes) {
+    const auto& m = GetParam();
+    const Family& family = *m.family;
+    const ArrayFunction f = m.function();
+    const std::size_t n = 2 * 32 + 5, step = 16;
+    std::mt19937_64 random(13);
+    std::vector<Lanes> ordinary, special;
+    for (std::size_t a = 0; a < family.shape.args.size(); a++) {
+        const Lane type = family.shape.args[a];
+        ordinary.emplace_back(type, n);
+        special.emplace_back(type, n);
+        const auto unusual = structured(family, a);
+        for (std::size_t i = 0; i < n; i++) {
+            ordinary[a].set(i, random_lane(family, a, true, random));
+            const bool far = a == 0 && family.switches_above != 0 && i % 4 != 0;
+            const double beyond = family.switches_above * std::exp2(0.9 * static_cast<double>(i));
+            special[a].set(i, far ? pattern_of(type, i % 2 ? beyond : -beyond) : unusual[random() % unusual.size()]);
+        }
+    }
+    const Computed of_ordinary(f, ordinary), of_special(f, special);
+    std::vector<std::vector<bool>> patterns;
+    for (std::size_t i = 0; i < n; i++)
+        for (const bool alone : {true, false}) {
+            patterns.emplace_back(n, !alone);
+            patterns.back()[i] = alone;
+        }
+    for (std::size_t i = 0; i < step; i++)
+        for (std::size_t j = 0; j < i; j++) {
+            patterns.emplace_back(n, false);
+            patterns.back()[i] = patterns.back()[j] = patterns.back()[step + i] = true;
+        }
+    for (int k = 0; k < 200; k++) {
+        patterns.emplace_back(n);
+        for (std::size_t i = 0; i < n; i++) patterns.back()[i] = random() % 200 < static_cast<std::size_t>(k);
+    }
+    for (const auto& is_special : patterns) {
+        std::vector<Lanes> args = ordinary;
+        for (std::size_t a = 0; a < args.size(); a++)
+            for (std::size_t i = 0; i < n; i++)
+                if (is_special[i]) args[a].set(i, special[a].pattern(i));
+        const Computed here(f, args);
+        for (std::size_t i = 0; i < n; i++)
+            ASSERT_EQ(here.difference(i, is_special[i] ? of_special : of_ordinary, i), "") << f.name() << '(' << lanes_text(args, i) << ") at " << i;
+    }
+}
+
 TEST_P(ArrayElements, MayLieAnywhere) {
     const auto& m = GetParam();
     const ArrayFunction f = m.function();
