@@ -25,8 +25,7 @@ const ArrayLibrary& library() {
 
 // What a function makes of its elements. Results and arguments lie `offset` bytes beyond an aligned address, and what
 // lies around the results is looked at afterwards.
-struct Computed {
-    Lanes first, second;
+struct Computed : Results {
     bool beyond = false;  // something was written that is not a result
 
     Computed(const ArrayFunction& f, const std::vector<Lanes>& args, std::size_t offset = 0) {
@@ -45,15 +44,6 @@ struct Computed {
         second = second_room.lanes();
         beyond = r.touched() || second_room.touched();
         for (std::size_t a = 0; a < args.size(); a++) beyond |= rooms[a].touched() || std::memcmp(rooms[a].at(), args[a].data(), rooms[a].size());
-    }
-
-    // The first difference in an element, as words; empty where there is none.
-    std::string difference(std::size_t i, const Computed& other, std::size_t j) const { return difference(i, other.first, other.second, j); }
-    std::string difference(std::size_t i, const Lanes& other, const Lanes& other_second, std::size_t j) const {
-        if (!same(first.type(), first.pattern(i), other.pattern(j))) return hex(first.pattern(i)) + " and " + hex(other.pattern(j));
-        if (second.size() && !same(second.type(), second.pattern(i), other_second.pattern(j)))
-            return "second " + hex(second.pattern(i)) + " and " + hex(other_second.pattern(j));
-        return "";
     }
 
 private:
@@ -105,8 +95,7 @@ template <class Index> std::vector<Lanes> picked(const std::vector<Lanes>& args,
 }
 
 // What the module makes of each element in every lane of a width.
-struct Expected {
-    Lanes first, second;
+struct Expected : Results {
     std::size_t width;
     Expected(const Function& f, const std::vector<Lanes>& args) : width(static_cast<std::size_t>(f.width())) {
         f(picked(args, args[0].size() * width, [&](std::size_t i) { return i / width; }), first, &second);
@@ -123,7 +112,7 @@ TEST_P(ArrayElements, AreWidth16sOfEqualLanes) {
     EXPECT_FALSE(here.beyond);
     const Expected expected(m.at(16), args);
     for (std::size_t i = 0; i < args[0].size(); i++)
-        ASSERT_EQ(here.difference(i, expected.first, expected.second, i * widest), "") << f.name() << '(' << lanes_text(args, i) << ")";
+        ASSERT_EQ(here.difference(i, expected, i * widest), "") << f.name() << '(' << lanes_text(args, i) << ")";
 }
 
 // Shuffled, and cut in two at every place: an element is computed in every lane of the loop, in the last group, alone.

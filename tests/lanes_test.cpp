@@ -7,19 +7,6 @@
 namespace tarn::test {
 namespace {
 
-struct Results {
-    Lanes first, second;
-    Results(const Function& f, const std::vector<Lanes>& args) { f(args, first, &second); }
-    // The first difference in a lane, as words; empty where there is none.
-    std::string difference(std::size_t i, const Results& other, std::size_t j) const {
-        if (!same(first.type(), first.pattern(i), other.first.pattern(j)))
-            return hex(first.pattern(i)) + " and " + hex(other.first.pattern(j));
-        if (second.size() && !same(second.type(), second.pattern(i), other.second.pattern(j)))
-            return "second " + hex(second.pattern(i)) + " and " + hex(other.second.pattern(j));
-        return "";
-    }
-};
-
 bool own_kernel(const Member& m, int width) {
     if (m.variant != Variant::full) return false;
     for (const auto& [w, worst] : m.family->width_full)

@@ -174,4 +174,21 @@ inline std::string lanes_text(const std::vector<Lanes>& args, std::size_t i) {
     return text;
 }
 
+// What a function makes of its arguments.
+struct Results {
+    Lanes first, second;
+
+    Results() = default;
+    Results(const Function& f, const std::vector<Lanes>& args) { f(args, first, &second); }
+
+    // The first difference between lane i and another's lane j, as words; empty where there is none.
+    std::string difference(std::size_t i, const Results& other, std::size_t j) const {
+        if (!same(first.type(), first.pattern(i), other.first.pattern(j)))
+            return hex(first.pattern(i)) + " and " + hex(other.first.pattern(j));
+        if (second.size() != 0 && !same(second.type(), second.pattern(i), other.second.pattern(j)))
+            return "second " + hex(second.pattern(i)) + " and " + hex(other.second.pattern(j));
+        return "";
+    }
+};
+
 }  // namespace tarn::test

@@ -19,7 +19,6 @@ namespace {
 
 using Families = std::vector<const Family*>;
 
-std::string code(const std::string& text) { return '`' + text + '`'; }
 std::string in_cell(std::string text) {
     for (std::size_t i = 0; (i = text.find('|', i)) != std::string::npos; i += 2) text.insert(i, 1, '\\');
     return text;

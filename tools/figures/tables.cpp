@@ -57,7 +57,6 @@ std::string rule(std::size_t columns) {
     for (std::size_t i = 0; i < columns; i++) text += "---|";
     return text + '\n';
 }
-std::string code(const std::string& text) { return '`' + text + '`'; }
 
 std::string calls_table(const std::vector<TimedRow>& rows) {
     std::string text =
@@ -114,6 +113,7 @@ std::string item(const std::string& text) {
 
 }  // namespace
 
+std::string code(const std::string& text) { return '`' + text + '`'; }
 std::string right(const std::string& text, std::size_t width) {
     return std::string(width - std::min(width, text.size()), ' ') + text;
 }

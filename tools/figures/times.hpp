@@ -56,6 +56,8 @@ std::string slug(const std::string& group);
 std::string timed(int width);
 // "-" for what is infinite.
 std::string decimals(double v, int digits);
+// As Markdown has names and code.
+std::string code(const std::string& text);
 // Filled up with spaces, the text to the left or to the right.
 std::string left(const std::string& text, std::size_t width);
 std::string right(const std::string& text, std::size_t width);
