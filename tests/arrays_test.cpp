@@ -43,7 +43,8 @@ struct Computed : Results {
         first = r.lanes();
         second = second_room.lanes();
         beyond = r.touched() || second_room.touched();
-        for (std::size_t a = 0; a < args.size(); a++) beyond |= rooms[a].touched() || std::memcmp(rooms[a].at(), args[a].data(), rooms[a].size());
+        for (std::size_t a = 0; a < args.size(); a++)
+            beyond |= rooms[a].touched() || std::memcmp(rooms[a].at(), args[a].data(), rooms[a].size());
     }
 
 private:
@@ -136,7 +137,8 @@ TEST_P(ArrayElements, KeepTheirBitsWhereverTheyStand) {
             const Computed piece(f, picked(args, count, [&](std::size_t i) { return from + i; }));
             ASSERT_FALSE(piece.beyond) << f.name() << ", n = " << count;
             for (std::size_t i = 0; i < count; i++)
-                ASSERT_EQ(piece.difference(i, shuffled, from + i), "") << f.name() << '(' << lanes_text(args, from + i) << "), n = " << count;
+                ASSERT_EQ(piece.difference(i, shuffled, from + i), "")
+                    << f.name() << '(' << lanes_text(args, from + i) << "), n = " << count;
         }
 }
 
@@ -159,7 +161,9 @@ TEST_P(ArrayElements, AreNotTouchedByNeighbours) {
     const Computed alone(f, ordinary);
     std::vector<std::uint64_t> poisons;
     const Lane type = family.shape.args[0];
-    if (is_float(type)) for (const double p : {static_cast<double>(NAN), static_cast<double>(INFINITY), -0.0, 1e-44, 3e38, -3e4, 1.6e8}) poisons.push_back(pattern_of(type, p));
+    const double nan = NAN, infinity = INFINITY;
+    if (is_float(type))
+        for (const double p : {nan, infinity, -0.0, 1e-44, 3e38, -3e4, 1.6e8}) poisons.push_back(pattern_of(type, p));
     else poisons = {0, 1, ~0ull >> (64 - 8 * bytes(type))};
     const std::size_t n = 43;
     for (const auto p : poisons) {
@@ -221,7 +225,8 @@ TEST_P(ArrayElements, AreSpecialInAnyLanes) {
                 if (is_special[i]) args[a].set(i, special[a].pattern(i));
         const Computed here(f, args);
         for (std::size_t i = 0; i < n; i++)
-            ASSERT_EQ(here.difference(i, is_special[i] ? of_special : of_ordinary, i), "") << f.name() << '(' << lanes_text(args, i) << ") at " << i;
+            ASSERT_EQ(here.difference(i, is_special[i] ? of_special : of_ordinary, i), "")
+                << f.name() << '(' << lanes_text(args, i) << ") at " << i;
     }
 }
 
@@ -236,7 +241,9 @@ TEST_P(ArrayElements, MayLieAnywhere) {
     for (const std::size_t offset : {1, 2, 4, 8, 12, 20, 31}) {
         const Computed moved(f, args, offset);
         ASSERT_FALSE(moved.beyond);
-        for (std::size_t i = 0; i < n; i++) ASSERT_EQ(moved.difference(i, aligned, i), "") << f.name() << '(' << lanes_text(args, i) << "), " << offset << " bytes on";
+        for (std::size_t i = 0; i < n; i++)
+            ASSERT_EQ(moved.difference(i, aligned, i), "")
+                << f.name() << '(' << lanes_text(args, i) << "), " << offset << " bytes on";
     }
 
     // In the place of an argument: long, and of every length that ends in another way, where the last group of lanes begins
@@ -285,11 +292,13 @@ TEST_P(ArrayElements, RaiseTheirOwnFlags) {
             return std::fetestexcept(flags);
         };
         const int whole = raised(32);
-        for (const std::size_t n : {1, 2, 3, 5, 7}) ASSERT_EQ(raised(n), whole) << f.name() << '(' << lanes_text(all, i) << "), n = " << n;
+        for (const std::size_t n : {1, 2, 3, 5, 7})
+            ASSERT_EQ(raised(n), whole) << f.name() << '(' << lanes_text(all, i) << "), n = " << n;
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Families, ArrayElements, testing::ValuesIn(array_members()), [](const auto& info) { return info.param.name(); });
+INSTANTIATE_TEST_SUITE_P(Families, ArrayElements, testing::ValuesIn(array_members()),
+                         [](const auto& info) { return info.param.name(); });
 
 // Vector functions of loops ------------------------------------------------------------------------
 
@@ -330,7 +339,10 @@ TEST_P(VectorFunctions, HaveTheBitsOfAsManyLanes) {
     const auto& calls = registers == 'b' ? (single ? vectors::sse_f32 : vectors::sse_f64)
                       : registers == 'c' ? (single ? vectors::avx_f32 : vectors::avx_f64)
                                          : (single ? vectors::avx2_f32 : vectors::avx2_f64);
-    const vectors::Calls::Run run = parameters == "v" ? calls.unary : parameters == "vv" ? calls.binary : parameters == "vvv" ? calls.scatter : calls.pair;
+    const vectors::Calls::Run run = parameters == "v"     ? calls.unary
+                                    : parameters == "vv"  ? calls.binary
+                                    : parameters == "vvv" ? calls.scatter
+                                                          : calls.pair;
     const auto all = samples(*family, 2000, 11);
     const std::size_t n = all[0].size() / 64 * 64;
     // Special elements among others, too.
@@ -342,9 +354,11 @@ TEST_P(VectorFunctions, HaveTheBitsOfAsManyLanes) {
     for (std::size_t i = 0; i < n; i++) {
         const std::size_t j = i * expected.width;
         ASSERT_TRUE(same(first.type(), first.pattern(i), expected.first.pattern(j)))
-            << name << '(' << lanes_text(args, i) << ") gives " << hex(first.pattern(i)) << ", the module " << hex(expected.first.pattern(j));
+            << name << '(' << lanes_text(args, i) << ") gives " << hex(first.pattern(i)) << ", the module "
+            << hex(expected.first.pattern(j));
         if (expected.second.size()) {
-            ASSERT_TRUE(same(second.type(), second.pattern(i), expected.second.pattern(j))) << name << '(' << lanes_text(args, i) << ')';
+            ASSERT_TRUE(same(second.type(), second.pattern(i), expected.second.pattern(j)))
+                << name << '(' << lanes_text(args, i) << ')';
         }
     }
 }
@@ -367,7 +381,8 @@ TEST(ScalarFunctions, HaveWidth16sBits) {
                 ? (two ? reinterpret_cast<double (*)(double, double)>(address)(x, y) : reinterpret_cast<double (*)(double)>(address)(x))
                 : (two ? reinterpret_cast<float (*)(float, float)>(address)(static_cast<float>(x), static_cast<float>(y))
                        : reinterpret_cast<float (*)(float)>(address)(static_cast<float>(x)));
-            ASSERT_TRUE(same(f.shape.result, pattern_of(f.shape.result, r), expected.first.pattern(i))) << f.base << '(' << lanes_text(args, i) << ')';
+            ASSERT_TRUE(same(f.shape.result, pattern_of(f.shape.result, r), expected.first.pattern(i)))
+                << f.base << '(' << lanes_text(args, i) << ')';
         }
     }
     EXPECT_EQ(found, 24);

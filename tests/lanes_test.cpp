@@ -156,14 +156,23 @@ TEST_P(PathSwitch, TheNeighbourOfTheLimitSwitchesFromAnyLane) {
             const auto other = static_cast<std::size_t>(position == 0 ? 1 : 0), here = static_cast<std::size_t>(position);
             for (const std::uint64_t s : {std::uint64_t{0}, sign}) {
                 const Results plain(f, lanes_with(ordinary, ordinary, 0));
-                EXPECT_EQ(Results(f, lanes_with(ordinary, limit | s, position)).difference(other, plain, other), "") << f.name() << " beside the limit in lane " << position;
-                const Results alone(f, lanes_with((limit + 1) | s, (limit + 1) | s, 0)), beside(f, lanes_with(ordinary, (limit + 1) | s, position));
-                EXPECT_EQ(beside.difference(here, alone, here), "") << f.name() << ": the neighbour of the limit in lane " << position;
-                const Results zero(f, lanes_with(s, limit + 1, position)), not_a_number(f, lanes_with(nan, limit + 1, position));
+                const Results at_limit(f, lanes_with(ordinary, limit | s, position));
+                EXPECT_EQ(at_limit.difference(other, plain, other), "") << f.name() << " beside the limit in lane " << position;
+                const Results alone(f, lanes_with((limit + 1) | s, (limit + 1) | s, 0));
+                const Results beside(f, lanes_with(ordinary, (limit + 1) | s, position));
+                EXPECT_EQ(beside.difference(here, alone, here), "")
+                    << f.name() << ": the neighbour of the limit in lane " << position;
+                const Results zero(f, lanes_with(s, limit + 1, position));
+                const Results not_a_number(f, lanes_with(nan, limit + 1, position));
                 const Results zeros(f, lanes_with(s, s, 0));
-                if (value_of(type, zeros.first.pattern(0)) == 0) { EXPECT_EQ(value_of(type, zero.first.pattern(other)), 0) << f.name() << " of a zero beside a large lane " << position; }
-                EXPECT_TRUE(std::isnan(value_of(type, not_a_number.first.pattern(other)))) << f.name() << " of a NaN beside a large lane " << position;
-                EXPECT_EQ(not_a_number.difference(here, Results(f, lanes_with(limit + 1, limit + 1, 0)), here), "") << f.name() << " beside a NaN in lane " << position;
+                if (value_of(type, zeros.first.pattern(0)) == 0) {
+                    EXPECT_EQ(value_of(type, zero.first.pattern(other)), 0)
+                        << f.name() << " of a zero beside a large lane " << position;
+                }
+                EXPECT_TRUE(std::isnan(value_of(type, not_a_number.first.pattern(other))))
+                    << f.name() << " of a NaN beside a large lane " << position;
+                EXPECT_EQ(not_a_number.difference(here, Results(f, lanes_with(limit + 1, limit + 1, 0)), here), "")
+                    << f.name() << " beside a NaN in lane " << position;
             }
         }
     }

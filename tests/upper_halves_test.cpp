@@ -23,10 +23,9 @@ bool tells_what_is_in_use() {
     return __builtin_cpu_supports("avx") && __get_cpuid_count(0xD, 1, &a, &b, &c, &d) && (a & 4);
 }
 [[gnu::target("xsave")]] bool upper_halves_in_use() { return _xgetbv(1) & 4; }
-[[gnu::target("avx")]] void clear_upper_halves() { _mm256_zeroupper(); }
-[[gnu::target("avx")]] void use_upper_halves() {
-    __asm__ volatile("vpxor %%xmm7, %%xmm7, %%xmm7\n vcmptrueps %%ymm7, %%ymm7, %%ymm7" ::: "xmm7");
-}
+// In assembly: a compiler that knew of them would clear them itself.
+void clear_upper_halves() { __asm__ volatile("vzeroupper" ::: "memory"); }
+void use_upper_halves() { __asm__ volatile("vcmptrueps %%ymm7, %%ymm7, %%ymm7" ::: "xmm7"); }
 
 class UpperHalves : public testing::TestWithParam<Member> {
 protected:
@@ -79,7 +78,8 @@ TEST_P(UpperHalves, AreClearAfterALoop) {
         }
 }
 
-INSTANTIATE_TEST_SUITE_P(Module, UpperHalves, testing::ValuesIn(members()), [](const auto& info) { return member_name(info); });
+INSTANTIATE_TEST_SUITE_P(Module, UpperHalves, testing::ValuesIn(members()),
+                         [](const auto& info) { return member_name(info); });
 
 }  // namespace
 }  // namespace tarn::test

@@ -55,7 +55,8 @@ template <int lanes, class Lane, class V> TARN_INLINE void put(Lane* to, V group
 
 // The first n lanes of a group, at least one: the others are copies of the last, so that they raise no flag of their
 // own. Nothing beyond is read, and nothing goes through memory, where a long load would wait for short stores.
-template <int lanes, int bytes, int first = 0, class Lane> TARN_INLINE Group<Lane, lanes, bytes> loaded_few(const Lane* from, int n) {
+template <int lanes, int bytes, int first = 0, class Lane>
+TARN_INLINE Group<Lane, lanes, bytes> loaded_few(const Lane* from, int n) {
     constexpr int size = lanes * sizeof(Lane);
     if constexpr (size > bytes) {
         return {loaded_few<lanes / 2, bytes, first>(from, n), loaded_few<lanes / 2, bytes, first + lanes / 2>(from, n)};
@@ -98,8 +99,12 @@ template <class V, int n> struct Row { V of[n]; };
 
 // Where a step finds its arguments and leaves its results: whole groups, or the first n lanes of one, not all.
 struct Whole {
-    template <int lanes, int bytes, class Lane> static TARN_INLINE auto load(const Lane* from) { return loaded<lanes, bytes>(from); }
-    template <int lanes, class Lane, class V> static TARN_INLINE void store(Lane* to, V group) { put<lanes>(to, group); }
+    template <int lanes, int bytes, class Lane> static TARN_INLINE auto load(const Lane* from) {
+        return loaded<lanes, bytes>(from);
+    }
+    template <int lanes, class Lane, class V> static TARN_INLINE void store(Lane* to, V group) {
+        put<lanes>(to, group);
+    }
     static TARN_INLINE unsigned real() { return ~0u; }
 };
 struct Few {
@@ -175,9 +180,12 @@ private:
         over<typename K::long_path>(std::make_integer_sequence<int, count>{}, flags, x..., value, second...);
     }
     template <class L, int... i>
-    static TARN_INLINE void over(std::integer_sequence<int, i...>, unsigned flags, const A*... x, R* value, S*... second) {
+    static TARN_INLINE void over(std::integer_sequence<int, i...>, unsigned flags, const A*... x, R* value,
+                                 S*... second) {
         static_assert(L::lanes == K::lanes && L::blocks_at_a_time > 1);
-        const auto at = [&](int g) __attribute__((always_inline)) { return L::fast(loaded<lanes, bytes>(x + g * lanes)...); };
+        const auto at = [&](int g) __attribute__((always_inline)) {
+            return L::fast(loaded<lanes, bytes>(x + g * lanes)...);
+        };
         const decltype(at(0)) group[] = {at(i)...};
         (take<R>(i, flags, value_of(group[i]), value), ...);
         const auto take_seconds = [&](int g, const auto& from) __attribute__((always_inline)) {
@@ -196,7 +204,8 @@ private:
         const auto mask = mask_of<V>(flags, std::make_integer_sequence<int, lanes>{});
         put<lanes>(to, select(mask, from, loaded<lanes, bytes>(to)));
     }
-    template <class V, int... i> static TARN_INLINE BitsOf<V> mask_of(unsigned flags, std::integer_sequence<int, i...>) {
+    template <class V, int... i>
+    static TARN_INLINE BitsOf<V> mask_of(unsigned flags, std::integer_sequence<int, i...>) {
         using Bit = LaneOf<BitsOf<V>>;
         const BitsOf<V> bit = {(Bit{1} << i)...};
         return (bit & static_cast<Bit>(flags)) == bit;
@@ -276,9 +285,12 @@ private:
 
     // Arguments are read before results are written: they may lie in the same place.
     template <class Place, int... i>
-    static TARN_INLINE void over(Place place, std::integer_sequence<int, i...>, const A*... x, R* r, S*... s, unsigned always) {
+    static TARN_INLINE void over(Place place, std::integer_sequence<int, i...>, const A*... x, R* r, S*... s,
+                                 unsigned always) {
         constexpr int count = sizeof...(i);
-        const auto at = [&](int g) __attribute__((always_inline)) { return K::fast(place.template load<lanes, bytes>(x + g * lanes)...); };
+        const auto at = [&](int g) __attribute__((always_inline)) {
+            return K::fast(place.template load<lanes, bytes>(x + g * lanes)...);
+        };
         const decltype(at(0)) group[] = {at(i)...};
         const auto results = as_stored(value_of(group[i])...);
         if constexpr (requires { group[0].special; }) {
@@ -286,8 +298,8 @@ private:
                 const unsigned special = ((flags_of<lanes>(group[i].special) << (i * lanes)) | ...) | always;
                 Room<R, count * lanes> value;
                 store_all<count>(Whole(), value.lane, results);
-                return settle<count>(place, special & place.real() & ~0u >> (32 - count * lanes), group, x..., r, s..., value.lane,
-                                     Room<S, count * lanes>()...);
+                const unsigned real = special & place.real() & ~0u >> (32 - count * lanes);
+                return settle<count>(place, real, group, x..., r, s..., value.lane, Room<S, count * lanes>()...);
             }
         }
         store_all<count>(place, r, results);
@@ -316,8 +328,8 @@ private:
     }
 
     template <int count, class Place, class G>
-    static TARN_INLINE void settle(Place place, unsigned special, const G (&group)[count], const A*... x, R* r, S*... s, R* value,
-                                   Room<S, count * lanes>&&... second) {
+    static TARN_INLINE void settle(Place place, unsigned special, const G (&group)[count], const A*... x, R* r, S*... s,
+                                   R* value, Room<S, count * lanes>&&... second) {
         (store_second<count>(Whole(), second.lane, group), ...);
         if constexpr (std::is_same_v<Place, Few>) settle_few(special, copied(place, x)..., value, second.lane...);
         else Settled<K, bytes>::run(special, x..., value, second.lane...);
@@ -327,8 +339,10 @@ private:
     static TARN_INLINE void settle_few(unsigned special, const Room<A, lanes>&... x, R* value, S*... second) {
         Settled<K, bytes>::run(special, x.lane..., value, second...);
     }
-    template <int count, class Place, class Lane> static TARN_INLINE void give(Place place, Lane* to, const Lane* from) {
-        for (int g = 0; g < count; g++) place.template store<lanes>(to + g * lanes, loaded<lanes, bytes>(from + g * lanes));
+    template <int count, class Place, class Lane>
+    static TARN_INLINE void give(Place place, Lane* to, const Lane* from) {
+        for (int g = 0; g < count; g++)
+            place.template store<lanes>(to + g * lanes, loaded<lanes, bytes>(from + g * lanes));
     }
 };
 
