@@ -11,17 +11,11 @@
 #include <set>
 
 #include "commands.hpp"
-#include "common/arrays.hpp"
 #include "samples.hpp"
 #include "vectors/calls.hpp"
 
 namespace tarn::test {
 namespace {
-
-const ArrayLibrary& library() {
-    static const ArrayLibrary l;
-    return l;
-}
 
 // What a function makes of its elements. Results and arguments lie `offset` bytes beyond an aligned address, and what
 // lies around the results is looked at afterwards.

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "common/module.hpp"
+#include "common/arrays.hpp"
 
 namespace tarn::test {
 
@@ -139,6 +139,12 @@ inline std::vector<std::vector<Lanes>> by_path(const Family& f, const std::vecto
 inline const Module& module() {
     static const Module m;
     return m;
+}
+
+// And the functions on arrays.
+inline const ArrayLibrary& library() {
+    static const ArrayLibrary l;
+    return l;
 }
 
 // One row for each family and variant that the module has.

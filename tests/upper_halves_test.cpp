@@ -6,16 +6,10 @@
 
 #include <algorithm>
 
-#include "common/arrays.hpp"
 #include "samples.hpp"
 
 namespace tarn::test {
 namespace {
-
-const ArrayLibrary& library() {
-    static const ArrayLibrary l;
-    return l;
-}
 
 // The processor says which registers are in use, if it can.
 bool tells_what_is_in_use() {

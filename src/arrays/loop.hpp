@@ -96,6 +96,7 @@ template <class Lane, int count> struct Room { alignas(32) Lane lane[count]; };
 
 // Vectors one after the other.
 template <class V, int n> struct Row { V of[n]; };
+template <class V> struct Row<V, 0> {};
 
 // Where a step finds its arguments and leaves its results: whole groups, or the first n lanes of one, not all.
 struct Whole {
@@ -292,24 +293,28 @@ private:
             return K::fast(place.template load<lanes, bytes>(x + g * lanes)...);
         };
         const decltype(at(0)) group[] = {at(i)...};
-        const auto results = as_stored(value_of(group[i])...);
+        const auto first = as_stored<R>(value_of(group[i])...);
+        const auto second = [&]() __attribute__((always_inline)) {
+            if constexpr (sizeof...(S) != 0) return as_stored<S...>(group[i].second...);
+            else return Row<R, 0>();
+        }();
         if constexpr (requires { group[0].special; }) {
             if (__builtin_expect((flags_of<lanes>((group[i].special | ...)) | always) != 0, 0)) {
                 const unsigned special = ((flags_of<lanes>(group[i].special) << (i * lanes)) | ...) | always;
                 Room<R, count * lanes> value;
-                store_all<count>(Whole(), value.lane, results);
+                store_all<count>(Whole(), value.lane, first);
                 const unsigned real = special & place.real() & ~0u >> (32 - count * lanes);
-                return settle<count>(place, real, group, x..., r, s..., value.lane, Room<S, count * lanes>()...);
+                return settle<count>(place, real, second, x..., r, s..., value.lane, Room<S, count * lanes>()...);
             }
         }
-        store_all<count>(place, r, results);
-        (store_second<count>(place, s, group), ...);
+        store_all<count>(place, r, first);
+        (store_all<count>(place, s, second), ...);
     }
     // Half blocks are joined to whole ones before anything else uses them: one shuffle does what would take three.
-    template <class V, class... More> static TARN_INLINE auto as_stored(V first, More... more) {
+    template <class Lane, class V, class... More> static TARN_INLINE auto as_stored(V first, More... more) {
         constexpr int count = 1 + sizeof...(More);
         const Row<V, count> row = {{first, more...}};
-        if constexpr (count == 1 || lanes * sizeof(R) >= 16) {
+        if constexpr (count == 1 || lanes * sizeof(Lane) >= 16) {
             return row;
         } else {
             Row<V, count / 2> joined;
@@ -317,24 +322,20 @@ private:
             return joined;
         }
     }
-    template <int count, class Place, class V, int n>
-    static TARN_INLINE void store_all(Place place, R* to, const Row<V, n>& row) {
+    template <int count, class Place, class Lane, class V, int n>
+    static TARN_INLINE void store_all(Place place, Lane* to, const Row<V, n>& row) {
         constexpr int each = count / n * lanes;
         for (int k = 0; k < n; k++) place.template store<each>(to + k * each, row.of[k]);
     }
-    template <int count, class Place, class Second, class G>
-    static TARN_INLINE void store_second(Place place, Second* to, const G (&group)[count]) {
-        for (int g = 0; g < count; g++) place.template store<lanes>(to + g * lanes, group[g].second);
-    }
 
-    template <int count, class Place, class G>
-    static TARN_INLINE void settle(Place place, unsigned special, const G (&group)[count], const A*... x, R* r, S*... s,
-                                   R* value, Room<S, count * lanes>&&... second) {
-        (store_second<count>(Whole(), second.lane, group), ...);
-        if constexpr (std::is_same_v<Place, Few>) settle_few(special, copied(place, x)..., value, second.lane...);
-        else Settled<K, bytes>::run(special, x..., value, second.lane...);
+    template <int count, class Place, class Second>
+    static TARN_INLINE void settle(Place place, unsigned special, const Second& second, const A*... x, R* r, S*... s,
+                                   R* value, Room<S, count * lanes>&&... room) {
+        (store_all<count>(Whole(), room.lane, second), ...);
+        if constexpr (std::is_same_v<Place, Few>) settle_few(special, copied(place, x)..., value, room.lane...);
+        else Settled<K, bytes>::run(special, x..., value, room.lane...);
         give<count>(place, r, value);
-        (give<count>(place, s, second.lane), ...);
+        (give<count>(place, s, room.lane), ...);
     }
     static TARN_INLINE void settle_few(unsigned special, const Room<A, lanes>&... x, R* value, S*... second) {
         Settled<K, bytes>::run(special, x.lane..., value, second...);

@@ -98,7 +98,8 @@ struct Family {
     // The ends of an axis by binades, as powers of two.
     Interval binades() const {
         const bool single = shape.args[0] == Lane::f32;
-        return {axis.low != 0 ? std::log2(axis.low) : single ? -126 : -1022, axis.high != 0 ? std::log2(axis.high) : single ? 128 : 1024};
+        return {axis.low != 0 ? std::log2(axis.low) : single ? -126 : -1022,
+                axis.high != 0 ? std::log2(axis.high) : single ? 128 : 1024};
     }
 
     bool has(Variant v) const {
